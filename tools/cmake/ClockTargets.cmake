@@ -1,0 +1,71 @@
+# SPDX-FileCopyrightText: 2026 The Clock authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+
+# Short names keep a debug build quick to compile; line tables are enough for a backtrace.
+set(CMAKE_CXX_FLAGS_DEBUG "-O0 -g1")
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+# The flags that every target of ours is compiled with.
+add_library(clock-flags INTERFACE)
+target_compile_options(clock-flags INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Werror)
+target_compile_definitions(clock-flags INTERFACE QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING)
+# Includes name the folder: #include "platform/toolkit/label.h".
+target_include_directories(clock-flags INTERFACE ${PROJECT_SOURCE_DIR})
+
+if(CLOCK_SANITIZE)
+    target_compile_options(clock-flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+        -fno-omit-frame-pointer)
+    target_link_options(clock-flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# clock_library(NAME SOURCES ... LINK ...): the one library of a folder. What it links is passed on to its users.
+function(clock_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE clock-flags)
+endfunction()
+
+# clock_program(NAME SOURCES ... LINK ...): a program, put into the build folder's bin/.
+function(clock_program name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE ${arg_LINK} clock-flags)
+endfunction()
+
+# All tests that run under the sanitizers as well.
+add_custom_target(core-tests)
+
+# clock_test(NAME SOURCES ... LINK ... [LABELS ...] [TIMEOUT SECONDS]): one Qt test program and its CTest entry.
+# Tests run offscreen, see the staged data and a home of their own; the label "core" puts a test into the sanitizer run.
+function(clock_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LINK;LABELS")
+    add_executable(${name} ${arg_SOURCES})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    target_link_libraries(${name} PRIVATE Qt6::Test ${arg_LINK} clock-flags)
+    target_compile_definitions(${name} PRIVATE
+        CLOCK_BIN_DIR="${CLOCK_BIN_DIR}" CLOCK_SHARE_DIR="${CLOCK_SHARE_DIR}"
+        CLOCK_RINGER_PLUGIN_DIR="${CLOCK_RINGER_PLUGIN_DIR}" CLOCK_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/support/in-own-home $<TARGET_FILE:${name}>)
+    if("core" IN_LIST arg_LABELS)
+        add_dependencies(core-tests ${name})
+    endif()
+    if(NOT arg_TIMEOUT)
+        set(arg_TIMEOUT 120)
+    endif()
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT} LABELS "${arg_LABELS}"
+        ENVIRONMENT "XDG_DATA_DIRS=${CLOCK_SHARE_DIR}:/usr/share")
+endfunction()
