@@ -9,7 +9,8 @@
 namespace Astel::Timed::WallClock {
 
 /** The daemon's wall clock settings, as its settings-changed signal carries them. */
-struct Info {
+struct Info
+{
     QString zone; ///< IANA identifier, "Europe/Berlin"
     qint32 secondsEastOfUtc = 0;
     bool summerTime = false;

@@ -42,12 +42,13 @@ enum Flag : quint32 {
 };
 
 /** Sets of wall-clock numbers as bits: bit n stands for hour, minute, weekday (0 is Sunday), day or month n. */
-struct Recurrence {
+struct Recurrence
+{
     quint32 hours = 0;
     quint64 minutes = 0;
     quint32 daysOfWeek = 0;
     quint32 daysOfMonth = 0; ///< bits 1 to 31
-    quint32 months = 0; ///< bits 1 to 12
+    quint32 months = 0;      ///< bits 1 to 12
     bool fillingGaps = false;
 
     bool operator==(const Recurrence &) const = default;
@@ -59,7 +60,8 @@ inline constexpr quint32 AllDaysOfWeek = (1u << 7) - 1;
 inline constexpr quint32 AllDaysOfMonth = 0xfffffffeu;
 inline constexpr quint32 AllMonths = 0x1ffeu;
 
-struct Button {
+struct Button
+{
     qint32 snooze = 0; ///< seconds; 0: the button stops the alarm
     Attributes attributes;
 
@@ -68,7 +70,8 @@ struct Button {
 
 inline constexpr qint64 NoTicker = -1;
 
-struct Event {
+struct Event
+{
     qint64 ticker = NoTicker; ///< seconds since the epoch; 0: never triggers
     quint32 flags = 0;
     qint32 timeoutSnooze = 0; ///< seconds
@@ -80,14 +83,16 @@ struct Event {
     bool operator==(const Event &) const = default;
 };
 
-struct Trigger {
+struct Trigger
+{
     quint32 cookie = 0;
     quint64 moment = 0; ///< nanoseconds since the epoch
 
     bool operator==(const Trigger &) const = default;
 };
 
-struct JournalEntry {
+struct JournalEntry
+{
     qint64 moment = 0; ///< milliseconds since the epoch
     quint32 cookie = 0;
     QString what;

@@ -23,8 +23,7 @@ PrivateBus::PrivateBus()
                             .arg(m_folder.path())
                             .toUtf8());
     configuration.close();
-    m_process.start("dbus-daemon",
-                    {"--config-file=" + configuration.fileName(), "--nofork", "--print-address"});
+    m_process.start("dbus-daemon", {"--config-file=" + configuration.fileName(), "--nofork", "--print-address"});
     if (m_process.waitForStarted() && m_process.waitForReadyRead(5000))
         qputenv("DBUS_SESSION_BUS_ADDRESS", m_process.readAllStandardOutput().trimmed());
 }

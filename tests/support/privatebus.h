@@ -39,9 +39,9 @@ public:
     explicit TimedProcess(const QStringList &environment = {});
     ~TimedProcess();
 
-    bool start(); ///< true once the daemon owns its name
+    bool start();     ///< true once the daemon owns its name
     void terminate(); ///< SIGTERM, and waits for the end
-    void kill(); ///< SIGKILL, and waits for the end and for the name to go
+    void kill();      ///< SIGKILL, and waits for the end and for the name to go
     qint64 processId() const;
 
 private:

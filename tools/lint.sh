@@ -1,0 +1,49 @@
+#!/bin/sh
+# SPDX-FileCopyrightText: 2026 The Clock authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+# lint.sh [BASE]: one line OK or FAIL per check. clang-tidy looks at the .cpp files changed since BASE (the commit before
+# the last one unless given); everything else looks at the whole tree. Needs a configured and built build/dev.
+set -u
+cd "$(dirname "$0")/.."
+base=${1:-$(git rev-parse --quiet --verify HEAD~1 || git hash-object -t tree /dev/null)}
+build=build/dev
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+failed=0
+
+check() {
+    name=$1
+    shift
+    if "$@" >"$log" 2>&1; then
+        echo "OK   $name"
+    else
+        echo "FAIL $name"
+        tail -n 60 "$log"
+        failed=1
+    fi
+}
+
+sources() {
+    git ls-files --cached --others --exclude-standard '*.cpp' '*.h'
+}
+format() {
+    sources | xargs clang-format-14 --dry-run --Werror
+}
+tidy() {
+    changed=$(git diff --name-only --diff-filter=d "$base" -- '*.cpp' | grep -v '^bench/' || true)
+    [ -z "$changed" ] || echo "$changed" | xargs -P "$(nproc)" -n 2 clang-tidy-14 --quiet -p "$build"
+}
+licence_heads() {
+    ! git ls-files '*.cpp' '*.h' '*.py' '*.sh' '*CMakeLists.txt' '*.cmake' | xargs grep -L 'SPDX-License-Identifier: LGPL-2.1-or-later' | grep .
+}
+no_sleep_in_tests() {
+    ! git grep -nE 'QTest::qWait\(|QTest::qSleep|QThread::m?sleep|usleep\(|sleep_for|time\.sleep\(' -- tests
+}
+
+check "format: clang-format 14" format
+check "includes: docs/architecture.md is obeyed" python3 tools/check_includes.py
+check "headers: each compiles alone" python3 tools/check_headers.py "$build"
+check "licence: every file has its head" licence_heads
+check "tests: none sleeps" no_sleep_in_tests
+check "tidy: files changed since $(git rev-parse --short "$base")" tidy
+exit $failed
