@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/context/publishedvalue_p.h"
+
+PublishedValue::PublishedValue(const QVariant &initial)
+    : m_value(initial)
+{ }
+
+QDBusVariant PublishedValue::get() const
+{
+    return QDBusVariant(m_value);
+}
+
+void PublishedValue::set(const QVariant &value)
+{
+    m_value = value;
+    emit changed(QDBusVariant(value));
+}
