@@ -21,8 +21,7 @@ Calendar::Calendar(const Locale &locale, Locale::CalendarType type)
 
 QByteArray Calendar::localeName() const
 {
-    const QString name
-        = m_fixedName.isEmpty() ? Locale::getDefault().categoryName(Locale::TimeCategory) : m_fixedName;
+    const QString name = m_fixedName.isEmpty() ? Locale::getDefault().categoryName(Locale::TimeCategory) : m_fixedName;
     return Icu::withCalendar(name.toLatin1(), m_type);
 }
 
@@ -46,8 +45,8 @@ QString Calendar::weekdayName(int day, WeekdayContext context, WeekdayLength len
     UErrorCode error = U_ZERO_ERROR;
     const icu::DateFormatSymbols symbols(icu::Locale(localeName().constData()), error);
     int32_t count = 0;
-    const icu::UnicodeString *names = symbols.getWeekdays(
-        count, icu::DateFormatSymbols::DtContextType(context), icu::DateFormatSymbols::DtWidthType(length));
+    const icu::UnicodeString *names = symbols.getWeekdays(count, icu::DateFormatSymbols::DtContextType(context),
+                                                          icu::DateFormatSymbols::DtWidthType(length));
     // ICU's list starts with an empty name, then Sunday.
     if (day < 0 || day + 1 >= count)
         return {};

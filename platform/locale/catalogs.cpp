@@ -15,10 +15,10 @@ namespace {
 QString fileOf(const QString &name, const QString &locale)
 {
     const QString file = QStringLiteral("translations/%1_%2.qm").arg(name, locale);
-    const QString builtIn = QStringLiteral(":/") + file;
-    if (QFile::exists(builtIn))
-        return builtIn;
-    return QStandardPaths::locate(QStandardPaths::GenericDataLocation, QStringLiteral("clock/") + file);
+    QString builtIn = QStringLiteral(":/") + file;
+    return QFile::exists(builtIn)
+        ? builtIn
+        : QStandardPaths::locate(QStandardPaths::GenericDataLocation, QStringLiteral("clock/") + file);
 }
 
 // From the source language up to the region.

@@ -90,8 +90,7 @@ icu::UnicodeString timePattern(const icu::Locale &locale, Locale::TimeType time,
     return generator->getBestPattern(skeleton, error);
 }
 
-QString makePattern(const QByteArray &name, Locale::DateType date, Locale::TimeType time,
-                    Locale::TimeFormat24h hours)
+QString makePattern(const QByteArray &name, Locale::DateType date, Locale::TimeType time, Locale::TimeFormat24h hours)
 {
     const icu::Locale locale(name.constData());
     icu::UnicodeString result = ownPattern(locale, date, time);
@@ -142,8 +141,7 @@ QByteArray withCalendar(const QByteArray &locale, Locale::CalendarType calendar)
     return changed.getName();
 }
 
-QString pattern(const QByteArray &locale, Locale::DateType date, Locale::TimeType time,
-                Locale::TimeFormat24h hours)
+QString pattern(const QByteArray &locale, Locale::DateType date, Locale::TimeType time, Locale::TimeFormat24h hours)
 {
     if (date == Locale::DateNone && time == Locale::TimeNone)
         return {};

@@ -14,8 +14,7 @@ namespace Touch::Icu {
 /// An ICU locale name with the calendar to count by.
 QByteArray withCalendar(const QByteArray &locale, Locale::CalendarType calendar);
 /// The locale's pattern for these lengths, in the hours asked for.
-QString pattern(const QByteArray &locale, Locale::DateType date, Locale::TimeType time,
-                Locale::TimeFormat24h hours);
+QString pattern(const QByteArray &locale, Locale::DateType date, Locale::TimeType time, Locale::TimeFormat24h hours);
 bool isTwelveHourPattern(const QString &pattern);
 
 QString format(const QByteArray &locale, const QString &pattern, const QDateTime &dateTime);

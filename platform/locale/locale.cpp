@@ -36,10 +36,9 @@ namespace {
 const char16_t *icuField(QChar directive)
 {
     static const std::pair<char16_t, const char16_t *> fields[]
-        = {{u'H', u"HH"},    {u'I', u"hh"},      {u'M', u"mm"},   {u'S', u"ss"},  {u'p', u"a"},
-           {u'd', u"dd"},    {u'e', u"d"},       {u'j', u"DDD"},  {u'm', u"MM"},  {u'y', u"yy"},
-           {u'Y', u"y"},     {u'a', u"EEE"},     {u'A', u"EEEE"}, {u'b', u"MMM"}, {u'B', u"MMMM"},
-           {u'R', u"HH:mm"}, {u'T', u"HH:mm:ss"}};
+        = {{u'H', u"HH"},   {u'I', u"hh"},  {u'M', u"mm"},   {u'S', u"ss"},    {u'p', u"a"},       {u'd', u"dd"},
+           {u'e', u"d"},    {u'j', u"DDD"}, {u'm', u"MM"},   {u'y', u"yy"},    {u'Y', u"y"},       {u'a', u"EEE"},
+           {u'A', u"EEEE"}, {u'b', u"MMM"}, {u'B', u"MMMM"}, {u'R', u"HH:mm"}, {u'T', u"HH:mm:ss"}};
     for (const auto &[letter, field] : fields) {
         if (directive == letter)
             return field;
@@ -127,8 +126,8 @@ QStringList Locale::localeScripts() const
 {
     std::array<UScriptCode, 8> codes;
     UErrorCode error = U_ZERO_ERROR;
-    const int count = uscript_getCode(d->settings.names[MessageCategory].constData(), codes.data(),
-                                      int(codes.size()), &error);
+    const int count
+        = uscript_getCode(d->settings.names[MessageCategory].constData(), codes.data(), int(codes.size()), &error);
     QStringList scripts;
     for (int i = 0; U_SUCCESS(error) && i < count; ++i)
         scripts << QString::fromLatin1(uscript_getShortName(codes[size_t(i)]));
@@ -177,8 +176,7 @@ QString Locale::icuFormatString(DateType date, TimeType time, CalendarType calen
     return marked ? QChar(0x200F) + pattern : pattern;
 }
 
-QString Locale::formatDateTime(const QDateTime &dateTime, DateType date, TimeType time,
-                               CalendarType calendar) const
+QString Locale::formatDateTime(const QDateTime &dateTime, DateType date, TimeType time, CalendarType calendar) const
 {
     const QByteArray name = Icu::withCalendar(d->settings.names[TimeCategory], calendar);
     return Icu::format(name, icuFormatString(date, time, calendar), dateTime);

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/locale/locale.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QFile>
+#include <QStandardPaths>
+#include <QTest>
+
+using Touch::Locale;
+
+namespace {
+
+class LanguageChanges : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::LanguageChange;
+        return false;
+    }
+
+    int count = 0;
+};
+
+Locale withPlanets(const char *name)
+{
+    Locale locale(QString::fromLatin1(name));
+    locale.installTrCatalog(u"planets"_qs);
+    return locale;
+}
+
+} // namespace
+
+class tst_Catalogs : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isNotShownBeforeItsLocaleIsTheDefault();
+    void fallsBackFromRegionToLanguageToEnglish();
+    void showsThePluralForms();
+    void stayWhenAnotherLocaleBecomesTheDefault();
+    void installingTwiceChangesNothing();
+    void looksInTheDataFoldersToo();
+    void tellsThatThereIsNone();
+};
+
+void tst_Catalogs::isNotShownBeforeItsLocaleIsTheDefault()
+{
+    Locale locale(u"de_DE"_qs);
+    QVERIFY(locale.installTrCatalog(u"planets"_qs));
+    QCOMPARE(qtTrId("planet_earth"), u"planet_earth"_qs);
+    Locale::setDefault(locale);
+    QCOMPARE(qtTrId("planet_earth"), u"Erde"_qs);
+}
+
+void tst_Catalogs::fallsBackFromRegionToLanguageToEnglish()
+{
+    Locale::setDefault(withPlanets("de_AT"));
+    QCOMPARE(qtTrId("planet_earth"), u"Heimat"_qs);
+    QCOMPARE(qtTrId("planet_mars"), u"Mars auf Deutsch"_qs);
+    QCOMPARE(qtTrId("planet_venus"), u"Venus in English"_qs);
+    Locale::setDefault(withPlanets("de_DE"));
+    QCOMPARE(qtTrId("planet_earth"), u"Erde"_qs);
+    Locale::setDefault(withPlanets("fi_FI"));
+    QCOMPARE(qtTrId("planet_earth"), u"Earth"_qs);
+}
+
+void tst_Catalogs::showsThePluralForms()
+{
+    Locale::setDefault(withPlanets("en_GB"));
+    QCOMPARE(qtTrId("planet_count", 1), u"1 planet"_qs);
+    QCOMPARE(qtTrId("planet_count", 8), u"8 planets"_qs);
+}
+
+void tst_Catalogs::stayWhenAnotherLocaleBecomesTheDefault()
+{
+    Locale::setDefault(withPlanets("en_GB"));
+    Locale::setDefault(Locale(u"de_DE"_qs));
+    QCOMPARE(qtTrId("planet_earth"), u"Erde"_qs);
+}
+
+void tst_Catalogs::installingTwiceChangesNothing()
+{
+    Locale::setDefault(withPlanets("de_DE"));
+    LanguageChanges changes;
+    qApp->installEventFilter(&changes);
+    QVERIFY(Locale::getDefault().installTrCatalog(u"planets"_qs));
+    Locale::setDefault(withPlanets("de_DE"));
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(changes.count, 0);
+    QCOMPARE(qtTrId("planet_earth"), u"Erde"_qs);
+}
+
+void tst_Catalogs::looksInTheDataFoldersToo()
+{
+    const QString folder
+        = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/clock/translations";
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(QFile::copy(u":/translations/planets_de.qm"_qs, folder + "/stars_fi.qm"));
+    Locale::setDefault(Locale(u"fi_FI"_qs));
+    QVERIFY(Locale::getDefault().installTrCatalog(u"stars"_qs));
+    QCOMPARE(qtTrId("planet_earth"), u"Erde"_qs);
+}
+
+void tst_Catalogs::tellsThatThereIsNone()
+{
+    QVERIFY(!Locale::getDefault().installTrCatalog(u"comets"_qs));
+}
+
+QTEST_GUILESS_MAIN(tst_Catalogs)
+#include "tst_catalogs.moc"
