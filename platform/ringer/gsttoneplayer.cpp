@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/ringer/gsttoneplayer.h"
+
+#include "platform/ringer/tonepipeline.h"
+#include "platform/ringer/volumerise.h"
+
+#include <gst/gst.h>
+
+#include <chrono>
+
+namespace Ringer {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// Leaves the next tone the time to start before two seconds have passed.
+constexpr auto FirstSoundTime = 1700ms;
+constexpr auto StallTime = 3000ms;
+constexpr auto RiseStep = 200ms;
+
+} // namespace
+
+GstTonePlayer::GstTonePlayer(QObject *parent)
+    : TonePlayer(parent)
+{
+    gst_init(nullptr, nullptr);
+    m_watchdog.setSingleShot(true);
+    connect(&m_watchdog, &QTimer::timeout, this, [this] { fail(m_suspicion); });
+    m_rise.setInterval(RiseStep);
+    connect(&m_rise, &QTimer::timeout, this, &GstTonePlayer::raise);
+}
+
+GstTonePlayer::~GstTonePlayer() = default;
+
+void GstTonePlayer::play(const QString &tone)
+{
+    stop();
+    m_pipeline = TonePipeline::create(tone, &m_suspicion);
+    if (!m_pipeline) {
+        m_watchdog.start(0ms);
+        return;
+    }
+    connect(m_pipeline.get(), &TonePipeline::flows, this, &GstTonePlayer::onFlow);
+    connect(m_pipeline.get(), &TonePipeline::failed, this, &GstTonePlayer::fail);
+    m_suspicion = QStringLiteral("nothing is heard");
+    m_watchdog.start(FirstSoundTime);
+    m_pipeline->start();
+}
+
+void GstTonePlayer::stop()
+{
+    m_watchdog.stop();
+    m_rise.stop();
+    m_heard.invalidate();
+    if (m_pipeline) {
+        m_pipeline->disconnect(this);
+        m_pipeline->halt();
+        // Not deleted at once: it may be the one that just called.
+        m_pipeline.release()->deleteLater();
+    }
+}
+
+void GstTonePlayer::onFlow(bool isAudible)
+{
+    if (m_heard.isValid()) {
+        m_watchdog.start(StallTime);
+        return;
+    }
+    if (!isAudible)
+        return;
+    m_heard.start();
+    m_rise.start();
+    m_suspicion = QStringLiteral("the sound stalled");
+    m_watchdog.start(StallTime);
+    Q_EMIT audible();
+}
+
+void GstTonePlayer::fail(const QString &reason)
+{
+    stop();
+    Q_EMIT failed(reason);
+}
+
+void GstTonePlayer::raise()
+{
+    const std::chrono::milliseconds heard {m_heard.elapsed()};
+    m_pipeline->setVolume(riseVolume(heard));
+    if (heard >= RiseTime)
+        m_rise.stop();
+}
+
+} // namespace Ringer

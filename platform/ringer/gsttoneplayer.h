@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/ringer/toneplayer.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <memory>
+
+namespace Ringer {
+
+class TonePipeline;
+
+/**
+ * Plays through GStreamer and trusts nothing: a tone that is not heard within two seconds, or of which nothing flows
+ * any more, has failed. Main thread; owned by the program.
+ */
+class GstTonePlayer : public TonePlayer
+{
+    Q_OBJECT
+
+public:
+    explicit GstTonePlayer(QObject *parent = nullptr);
+    ~GstTonePlayer() override;
+
+    void play(const QString &tone) override;
+    void stop() override;
+
+private:
+    void onFlow(bool isAudible);
+    void fail(const QString &reason);
+    void raise();
+
+    std::unique_ptr<TonePipeline> m_pipeline; ///< null when silent
+    QTimer m_watchdog;
+    QString m_suspicion; ///< why the tone has failed when the watchdog ends
+    QTimer m_rise;
+    QElapsedTimer m_heard; ///< valid once the tone was audible
+};
+
+} // namespace Ringer

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/ringer/soundoutput.h"
+
+#include <gst/gst.h>
+
+namespace Ringer {
+
+namespace {
+
+GstElement *open(const char *factory)
+{
+    auto *output = gst_element_factory_make(factory, nullptr);
+    if (!output)
+        return nullptr;
+    gst_object_ref_sink(output);
+    if (gst_element_set_state(output, GST_STATE_READY) != GST_STATE_CHANGE_FAILURE)
+        return output;
+    discardSoundOutput(output);
+    return nullptr;
+}
+
+GstElement *openPulse()
+{
+    auto *output = open("pulsesink");
+    if (!output)
+        return nullptr;
+    auto *role = gst_structure_new("properties", "media.role", G_TYPE_STRING, "alarm", nullptr);
+    g_object_set(output, "client-name", "Clock", "stream-properties", role, "volume", 1.0, "mute", FALSE,
+                 nullptr);
+    gst_structure_free(role);
+    return output;
+}
+
+// With no device at all the automatic output takes a sink that swallows every sound.
+bool swallows(GstElement *automatic)
+{
+    auto *children = gst_bin_iterate_sinks(GST_BIN(automatic));
+    GValue child = G_VALUE_INIT;
+    auto found = false;
+    while (!found && gst_iterator_next(children, &child) == GST_ITERATOR_OK) {
+        const auto *factory = gst_element_get_factory(GST_ELEMENT(g_value_get_object(&child)));
+        found = factory && g_str_has_prefix(GST_OBJECT_NAME(factory), "fake");
+        g_value_reset(&child);
+    }
+    g_value_unset(&child);
+    gst_iterator_free(children);
+    return found;
+}
+
+} // namespace
+
+GstElement *createSoundOutput(QString *reason)
+{
+    if (auto *pulse = openPulse())
+        return pulse;
+    auto *automatic = open("autoaudiosink");
+    if (automatic && !swallows(automatic))
+        return automatic;
+    if (automatic)
+        discardSoundOutput(automatic);
+    *reason = QStringLiteral("no sound server and no sound device answers");
+    return nullptr;
+}
+
+void discardSoundOutput(GstElement *output)
+{
+    gst_element_set_state(output, GST_STATE_NULL);
+    gst_object_unref(output);
+}
+
+} // namespace Ringer

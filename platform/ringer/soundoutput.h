@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QString>
+
+typedef struct _GstElement GstElement;
+
+namespace Ringer {
+
+/**
+ * The way to the loudspeaker, opened: the Pulse or PipeWire server with the role "alarm", at full volume whatever
+ * other sounds are set to; without a server whatever GStreamer finds. Null with a reason when nothing can sound.
+ * May wait for the server's answer.
+ */
+[[nodiscard]] GstElement *createSoundOutput(QString *reason);
+
+/** Closes an output that went into no pipeline. */
+void discardSoundOutput(GstElement *output);
+
+} // namespace Ringer

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/ringer/toneorder.h"
+
+#include "platform/ringer/toneplayer.h"
+
+#include <QSettings>
+#include <QStandardPaths>
+#include <QUrl>
+
+namespace Ringer {
+
+namespace {
+
+const auto AlertToneKey = QStringLiteral("fallback/clock.alert.tone");
+const auto BuiltInTone = QStringLiteral("sounds/ring-tones/Clock alert 1.aac");
+
+QString toPath(const QString &tone)
+{
+    return tone.startsWith(QLatin1String("file:")) ? QUrl(tone).toLocalFile() : tone;
+}
+
+} // namespace
+
+ToneOrder::ToneOrder(const QString &profileFolder)
+    : m_profileFolder(profileFolder)
+{
+}
+
+QStringList ToneOrder::tones(const QString &eventTone) const
+{
+    QStringList tones {toPath(eventTone), toPath(defaultAlertTone())};
+    tones += QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, BuiltInTone);
+    tones.removeAll(QString());
+    tones.removeDuplicates();
+    tones += QLatin1String(TonePlayer::Beeps);
+    return tones;
+}
+
+QString ToneOrder::defaultAlertTone() const
+{
+    for (const auto *file : {"97.custom.ini", "93.korvo.ini"}) {
+        const QSettings profile(m_profileFolder + QLatin1Char('/') + QLatin1String(file), QSettings::IniFormat);
+        if (profile.contains(AlertToneKey))
+            return profile.value(AlertToneKey).toString();
+    }
+    return {};
+}
+
+} // namespace Ringer

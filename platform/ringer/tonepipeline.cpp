@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/ringer/tonepipeline.h"
+
+#include "platform/ringer/soundoutput.h"
+#include "platform/ringer/toneplayer.h"
+
+#include <QUrl>
+
+#include <gst/gst.h>
+
+namespace Ringer {
+
+namespace {
+
+// Quieter than this at its loudest counts as silence.
+constexpr auto AudiblePeakDb = -45.0;
+
+// Level stands before the volume: it judges the tone, not how far it has risen.
+constexpr auto Filter = "audioconvert ! level name=level interval=50000000 ! volume name=volume volume=0.15";
+
+// Two short beeps a second.
+constexpr auto BeepSource = "audiotestsrc wave=ticks freq=1046 sine-periods-per-tick=230 "
+                            "tick-interval=500000000 apply-tick-ramp=true volume=0.8";
+
+QString errorText(GError *error)
+{
+    const auto text = error ? QString::fromUtf8(error->message) : QStringLiteral("unknown error");
+    g_clear_error(&error);
+    return text;
+}
+
+// Naming the file again before it has ended joins end and start without a gap.
+void playAgain(GstElement *playbin, void *)
+{
+    char *uri = nullptr;
+    g_object_get(playbin, "current-uri", &uri, nullptr);
+    g_object_set(playbin, "uri", uri, nullptr);
+    g_free(uri);
+}
+
+GstElement *createFilePipeline(const QString &path, GstElement *output, GstElement *filter)
+{
+    auto *playbin = gst_element_factory_make("playbin", nullptr);
+    if (!playbin)
+        return nullptr;
+    // Audio only: a cover picture must not open a window.
+    gst_util_set_object_arg(G_OBJECT(playbin), "flags", "audio");
+    g_object_set(playbin, "uri", QUrl::fromLocalFile(path).toEncoded().constData(), "audio-filter", filter,
+                 "audio-sink", output, nullptr);
+    g_signal_connect(playbin, "about-to-finish", G_CALLBACK(playAgain), nullptr);
+    return playbin;
+}
+
+GstElement *createBeepPipeline(GstElement *output, GstElement *filter)
+{
+    auto *source = gst_parse_bin_from_description(BeepSource, TRUE, nullptr);
+    if (!source)
+        return nullptr;
+    auto *convert = gst_element_factory_make("audioconvert", nullptr);
+    auto *resample = gst_element_factory_make("audioresample", nullptr);
+    auto *pipeline = gst_pipeline_new(nullptr);
+    gst_bin_add_many(GST_BIN(pipeline), source, filter, convert, resample, output, nullptr);
+    gst_element_link_many(source, filter, convert, resample, output, nullptr);
+    return pipeline;
+}
+
+bool isAudible(const GstStructure *level)
+{
+    const auto *peaks = static_cast<GValueArray *>(g_value_get_boxed(gst_structure_get_value(level, "peak")));
+    for (guint channel = 0; peaks && channel < peaks->n_values; ++channel) {
+        if (g_value_get_double(&peaks->values[channel]) > AudiblePeakDb)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+std::unique_ptr<TonePipeline> TonePipeline::create(const QString &tone, QString *reason)
+{
+    auto *output = createSoundOutput(reason);
+    if (!output)
+        return nullptr;
+    GError *error = nullptr;
+    auto *filter = gst_parse_bin_from_description(Filter, TRUE, &error);
+    if (!filter) {
+        *reason = errorText(error);
+        discardSoundOutput(output);
+        return nullptr;
+    }
+    auto *pipeline = tone == QLatin1String(TonePlayer::Beeps) ? createBeepPipeline(output, filter)
+                                                              : createFilePipeline(tone, output, filter);
+    if (!pipeline) {
+        *reason = QStringLiteral("GStreamer lacks its base plug-ins");
+        gst_object_unref(filter);
+        discardSoundOutput(output);
+        return nullptr;
+    }
+    gst_object_unref(output);
+    std::unique_ptr<TonePipeline> created(new TonePipeline(pipeline));
+    created->m_volume = gst_bin_get_by_name(GST_BIN(filter), "volume");
+    return created;
+}
+
+TonePipeline::TonePipeline(GstElement *pipeline)
+    : m_pipeline(pipeline)
+    , m_volume(nullptr)
+{
+    auto *bus = gst_element_get_bus(m_pipeline);
+    gst_bus_set_sync_handler(
+        bus,
+        [](GstBus *from, GstMessage *message, void *self) {
+            return GstBusSyncReply(onMessage(from, message, self));
+        },
+        this, nullptr);
+    gst_object_unref(bus);
+}
+
+TonePipeline::~TonePipeline()
+{
+    halt();
+    auto *bus = gst_element_get_bus(m_pipeline);
+    gst_bus_set_sync_handler(bus, nullptr, nullptr, nullptr);
+    gst_object_unref(bus);
+    gst_clear_object(&m_volume);
+    gst_object_unref(m_pipeline);
+}
+
+void TonePipeline::start()
+{
+    gst_element_set_state(m_pipeline, GST_STATE_PLAYING);
+}
+
+void TonePipeline::halt()
+{
+    // Joins GStreamer's threads; nothing is posted afterwards.
+    gst_element_set_state(m_pipeline, GST_STATE_NULL);
+}
+
+void TonePipeline::setVolume(double amplitude)
+{
+    g_object_set(m_volume, "volume", amplitude, nullptr);
+}
+
+int TonePipeline::onMessage(GstBus *, GstMessage *message, void *self)
+{
+    static_cast<TonePipeline *>(self)->post(message);
+    gst_message_unref(message);
+    return GST_BUS_DROP;
+}
+
+// Runs in GStreamer's threads.
+void TonePipeline::post(GstMessage *message)
+{
+    switch (GST_MESSAGE_TYPE(message)) {
+    case GST_MESSAGE_ERROR: {
+        GError *error = nullptr;
+        gst_message_parse_error(message, &error, nullptr);
+        QMetaObject::invokeMethod(
+            this, [this, text = errorText(error)] { Q_EMIT failed(text); }, Qt::QueuedConnection);
+        break;
+    }
+    case GST_MESSAGE_EOS:
+        QMetaObject::invokeMethod(this, &TonePipeline::startAgain, Qt::QueuedConnection);
+        break;
+    case GST_MESSAGE_STATE_CHANGED:
+        if (GST_MESSAGE_SRC(message) == GST_OBJECT(m_pipeline)) {
+            GstState now = GST_STATE_NULL;
+            gst_message_parse_state_changed(message, nullptr, &now, nullptr);
+            m_playing = now == GST_STATE_PLAYING;
+        }
+        break;
+    case GST_MESSAGE_ELEMENT:
+        measure(message);
+        break;
+    default:
+        break;
+    }
+}
+
+void TonePipeline::measure(GstMessage *message)
+{
+    const auto *level = gst_message_get_structure(message);
+    // Before that, sound only fills the buffers.
+    if (!m_playing || !gst_structure_has_name(level, "level"))
+        return;
+    QMetaObject::invokeMethod(
+        this, [this, audible = isAudible(level)] { Q_EMIT flows(audible); }, Qt::QueuedConnection);
+}
+
+// A file too short for the seamless way ends; it begins anew.
+void TonePipeline::startAgain()
+{
+    gst_element_seek_simple(m_pipeline, GST_FORMAT_TIME, GST_SEEK_FLAG_FLUSH, 0);
+}
+
+} // namespace Ringer

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QObject>
+
+#include <atomic>
+#include <memory>
+
+typedef struct _GstBus GstBus;
+typedef struct _GstElement GstElement;
+typedef struct _GstMessage GstMessage;
+
+namespace Ringer {
+
+/**
+ * One tone on its way to the loudspeaker: decodes in a loop without a gap and listens to itself before the volume.
+ * Owned by GstTonePlayer, one for each attempt. Lives in the main thread; GStreamer's threads only post to it.
+ */
+class TonePipeline : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Null, with a reason, where there is no working sound output or GStreamer lacks a part. */
+    [[nodiscard]] static std::unique_ptr<TonePipeline> create(const QString &tone, QString *reason);
+    ~TonePipeline() override;
+
+    void start();
+    void halt(); ///< silent when it returns
+    void setVolume(double amplitude);
+
+Q_SIGNALS:
+    void flows(bool audible); ///< every 50 ms while sound goes out
+    void failed(const QString &reason);
+
+private:
+    explicit TonePipeline(GstElement *pipeline);
+    static int onMessage(GstBus *bus, GstMessage *message, void *self);
+    void post(GstMessage *message);
+    void measure(GstMessage *message);
+    void startAgain();
+
+    GstElement *m_pipeline;
+    GstElement *m_volume;
+    std::atomic<bool> m_playing = false;
+};
+
+} // namespace Ringer

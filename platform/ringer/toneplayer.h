@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QObject>
+
+namespace Ringer {
+
+/** Plays one tone in a loop, rising from quiet to full. Each play() ends in audible() or failed(); failed() may also
+ *  come later, when the sound breaks off. stop() is silent at once and gives no signal. */
+class TonePlayer : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** In place of a file: beeps that need no file and no decoder. */
+    static constexpr auto Beeps = "beeps";
+
+    using QObject::QObject;
+
+    virtual void play(const QString &tone) = 0; ///< an absolute path or Beeps; ends what played before
+    virtual void stop() = 0;
+
+Q_SIGNALS:
+    void audible();
+    void failed(const QString &reason);
+};
+
+} // namespace Ringer
