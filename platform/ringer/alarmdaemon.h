@@ -20,7 +20,7 @@ public:
     virtual void dismiss(quint32 cookie, const QString &by) = 0;
 
 Q_SIGNALS:
-    void answered(quint32 cookie); ///< taken, or the alarm was over anyway
+    void answered(quint32 cookie);                            ///< taken, or the alarm was over anyway
     void answerFailed(quint32 cookie, const QString &reason); ///< the alarm still rings
 };
 

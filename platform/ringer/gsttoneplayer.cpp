@@ -85,7 +85,7 @@ void GstTonePlayer::fail(const QString &reason)
 
 void GstTonePlayer::raise()
 {
-    const std::chrono::milliseconds heard {m_heard.elapsed()};
+    const std::chrono::milliseconds heard{m_heard.elapsed()};
     m_pipeline->setVolume(riseVolume(heard));
     if (heard >= RiseTime)
         m_rise.stop();

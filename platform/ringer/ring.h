@@ -25,7 +25,7 @@ public:
         Waiting, ///< on the screen; another alarm has the sound
         Seeking, ///< tries its tones
         Sounding,
-        Mute, ///< no tone can be heard; tries again soon
+        Mute,     ///< no tone can be heard; tries again soon
         Answered, ///< silent; the daemon has not confirmed yet
     };
 
@@ -35,6 +35,8 @@ public:
 
     [[nodiscard]] const Alarm &alarm() const { return m_alarm; }
     [[nodiscard]] State state() const { return m_state; }
+    /** Whether the sound is this ring's, heard or not. */
+    [[nodiscard]] bool hasTurn() const { return m_state != State::Waiting && m_state != State::Answered; }
     [[nodiscard]] const QString &screenName() const { return m_screenName; }
     /** The tone that is being heard, or tried. */
     [[nodiscard]] QString tone() const { return m_tones.at(m_tone); }

@@ -43,12 +43,14 @@ Q_SIGNALS:
 private:
     void shown(quint32 cookie) override;
     void snooze(quint32 cookie, int seconds) override;
-    void stopByUser(quint32 cookie);
+    void dismiss(quint32 cookie) override;
+    void onAnswered(quint32 cookie);
     void onAnswerFailed(quint32 cookie, const QString &reason);
 
     [[nodiscard]] Ring *find(quint32 cookie) const;
     [[nodiscard]] Ring *findUnanswered(quint32 cookie) const;
-    void add(const Alarm &alarm, const QString &pluginName);
+    Ring *add(const Alarm &alarm, const QString &pluginName);
+    void reportSound(const Ring &ring);
     void remove(quint32 cookie);
     void passSoundOn();
 

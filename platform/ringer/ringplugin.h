@@ -9,11 +9,12 @@
 namespace Ringer {
 
 /** What rings, as a plug-in sees it. */
-struct Alarm {
-    quint32 cookie = 0; ///< names the alarm in every call
-    QString title; ///< plain text, may be empty
-    QDateTime due; ///< UTC; shown in whatever zone and format the user has now
-    QString tone; ///< absolute path of the tone the alarm asks for, may be empty
+struct Alarm
+{
+    quint32 cookie = 0;    ///< names the alarm in every call
+    QString title;         ///< plain text, may be empty
+    QDateTime due;         ///< UTC; shown in whatever zone and format the user has now
+    QString tone;          ///< absolute path of the tone the alarm asks for, may be empty
     int snoozeSeconds = 0; ///< what a snooze lasts; 0: this alarm cannot be snoozed
 
     bool operator==(const Alarm &) const = default;
@@ -33,7 +34,7 @@ public:
     /** The user wants to be woken again after so many seconds, 1 or more. */
     virtual void snooze(quint32 cookie, int seconds) = 0;
     /** The user is awake. */
-    virtual void stop(quint32 cookie) = 0;
+    virtual void dismiss(quint32 cookie) = 0;
 };
 
 /**

@@ -26,8 +26,7 @@ GstElement *openPulse()
     if (!output)
         return nullptr;
     auto *role = gst_structure_new("properties", "media.role", G_TYPE_STRING, "alarm", nullptr);
-    g_object_set(output, "client-name", "Clock", "stream-properties", role, "volume", 1.0, "mute", FALSE,
-                 nullptr);
+    g_object_set(output, "client-name", "Clock", "stream-properties", role, "volume", 1.0, "mute", FALSE, nullptr);
     gst_structure_free(role);
     return output;
 }

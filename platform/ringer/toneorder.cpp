@@ -24,12 +24,11 @@ QString toPath(const QString &tone)
 
 ToneOrder::ToneOrder(const QString &profileFolder)
     : m_profileFolder(profileFolder)
-{
-}
+{ }
 
 QStringList ToneOrder::tones(const QString &eventTone) const
 {
-    QStringList tones {toPath(eventTone), toPath(defaultAlertTone())};
+    QStringList tones{toPath(eventTone), toPath(defaultAlertTone())};
     tones += QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, BuiltInTone);
     tones.removeAll(QString());
     tones.removeDuplicates();

@@ -110,9 +110,7 @@ TonePipeline::TonePipeline(GstElement *pipeline)
     auto *bus = gst_element_get_bus(m_pipeline);
     gst_bus_set_sync_handler(
         bus,
-        [](GstBus *from, GstMessage *message, void *self) {
-            return GstBusSyncReply(onMessage(from, message, self));
-        },
+        [](GstBus *from, GstMessage *message, void *self) { return GstBusSyncReply(onMessage(from, message, self)); },
         this, nullptr);
     gst_object_unref(bus);
 }

@@ -7,7 +7,7 @@
 namespace Ringer {
 
 /** How long a tone takes from quiet to full. */
-inline constexpr std::chrono::milliseconds RiseTime {30'000};
+inline constexpr std::chrono::milliseconds RiseTime{30'000};
 
 /** The amplitude, 0.15 to 1, of a tone that has been heard for so long; it grows evenly to the ear. */
 [[nodiscard]] double riseVolume(std::chrono::milliseconds heard);

@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/ringer/gsttoneplayer.h"
+#include "platform/ringer/logging.h"
+#include "platform/ringer/pluginloader.h"
+#include "platform/ringer/ringcontroller.h"
+#include "platform/ringer/ringerservice.h"
+#include "platform/ringer/timeddaemon.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <QTranslator>
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// A snooze that follows soon finds the ringer started; a night long it costs nothing.
+constexpr auto IdleTime = 10min;
+
+// An alarm must sound also where nothing can be shown.
+void choosePlatform()
+{
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return;
+    QByteArrayList platforms;
+    if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
+        platforms += "wayland";
+    if (qEnvironmentVariableIsSet("DISPLAY"))
+        platforms += "xcb";
+    platforms += "offscreen";
+    qputenv("QT_QPA_PLATFORM", platforms.join(';'));
+}
+
+void quitWhenIdle(QApplication &application, Ringer::RingController &controller, Ringer::RingerService &service)
+{
+    auto *timer = new QTimer(&application);
+    timer->setSingleShot(true);
+    timer->start(IdleTime);
+    QObject::connect(&controller, &Ringer::RingController::idleChanged, timer, [timer](bool isIdle) {
+        if (isIdle)
+            timer->start(IdleTime);
+        else
+            timer->stop();
+    });
+    QObject::connect(timer, &QTimer::timeout, &application, [&service] {
+        // Calls sent so far still arrive; later ones start a new ringer.
+        service.unregisterName();
+        QCoreApplication::processEvents();
+        QCoreApplication::quit();
+    });
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    choosePlatform();
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("ringer"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        qCWarning(lcRinger, "No display: alarms are heard, not seen");
+
+    QTranslator texts;
+    if (texts.load(QLocale(), QStringLiteral("ringer"), QStringLiteral("_"), QStringLiteral(":/texts"))
+        || texts.load(QStringLiteral(":/texts/ringer_en.qm")))
+        QApplication::installTranslator(&texts);
+
+    Ringer::TimedDaemon daemon;
+    Ringer::GstTonePlayer player;
+    Ringer::PluginLoader plugins;
+    Ringer::RingController controller(&daemon, &player, &plugins);
+    Ringer::RingerService service(&controller);
+    quitWhenIdle(application, controller, service);
+
+    QString reason;
+    if (!service.registerOnBus(&reason)) {
+        qCCritical(lcRinger, "Not on the session bus: %s", qPrintable(reason));
+        return 1;
+    }
+    return QApplication::exec();
+}

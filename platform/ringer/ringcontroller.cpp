@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/ringer/ringcontroller.h"
+
+#include "platform/ringer/alarmdaemon.h"
+#include "platform/ringer/logging.h"
+#include "platform/ringer/pluginloader.h"
+#include "platform/ringer/ring.h"
+
+#include <algorithm>
+
+namespace Ringer {
+
+namespace Wire = Astel::Timed::Wire;
+
+namespace {
+
+int snoozeSeconds(const Wire::Event &event)
+{
+    const auto snoozes = [](const Wire::Button &button) { return button.snooze > 0; };
+    const auto button = std::find_if(event.buttons.begin(), event.buttons.end(), snoozes);
+    return button != event.buttons.end() ? button->snooze : std::max(event.timeoutSnooze, 0);
+}
+
+Alarm alarmOf(quint32 cookie, const Wire::Event &event, quint64 due)
+{
+    return {cookie, event.attributes.value(QStringLiteral("TITLE")),
+            QDateTime::fromMSecsSinceEpoch(qint64(due / 1'000'000), Qt::UTC),
+            event.attributes.value(QStringLiteral("sound")), snoozeSeconds(event)};
+}
+
+} // namespace
+
+RingController::RingController(AlarmDaemon *daemon, TonePlayer *player, PluginLoader *plugins,
+                               const ToneOrder &toneOrder, QObject *parent)
+    : QObject(parent)
+    , m_daemon(daemon)
+    , m_player(player)
+    , m_plugins(plugins)
+    , m_toneOrder(toneOrder)
+{
+    m_plugins->setAnswers(this);
+    connect(m_daemon, &AlarmDaemon::answered, this, &RingController::onAnswered);
+    connect(m_daemon, &AlarmDaemon::answerFailed, this, &RingController::onAnswerFailed);
+}
+
+RingController::~RingController() = default;
+
+void RingController::ring(quint32 cookie, const Wire::Event &event, quint64 due)
+{
+    if (auto *known = findUnanswered(cookie)) {
+        known->show();
+        if (known->state() == Ring::State::Sounding)
+            reportSound(*known);
+        return;
+    }
+    remove(cookie);
+    qCInfo(lcRinger, "Alarm %u rings", cookie);
+    add(alarmOf(cookie, event, due), event.attributes.value(QStringLiteral("PLUGIN")))->show();
+    passSoundOn();
+    Q_EMIT idleChanged(isIdle());
+}
+
+void RingController::stop(quint32 cookie)
+{
+    if (!find(cookie))
+        return;
+    qCInfo(lcRinger, "Alarm %u is over", cookie);
+    remove(cookie);
+    passSoundOn();
+    Q_EMIT idleChanged(isIdle());
+}
+
+void RingController::shown(quint32 cookie)
+{
+    if (findUnanswered(cookie))
+        m_daemon->rings(cookie);
+}
+
+void RingController::snooze(quint32 cookie, int seconds)
+{
+    auto *ring = findUnanswered(cookie);
+    if (!ring || seconds < 1)
+        return;
+    ring->answer();
+    m_daemon->snooze(cookie, quint32(seconds), ring->screenName());
+    passSoundOn();
+}
+
+void RingController::dismiss(quint32 cookie)
+{
+    auto *ring = findUnanswered(cookie);
+    if (!ring)
+        return;
+    ring->answer();
+    m_daemon->dismiss(cookie, ring->screenName());
+    passSoundOn();
+}
+
+// A new ring of the same cookie may have begun before the answer came back; it is no business of that answer.
+void RingController::onAnswered(quint32 cookie)
+{
+    if (find(cookie) && !findUnanswered(cookie))
+        stop(cookie);
+}
+
+void RingController::onAnswerFailed(quint32 cookie, const QString &reason)
+{
+    auto *ring = find(cookie);
+    if (!ring || ring->state() != Ring::State::Answered)
+        return;
+    qCCritical(lcRinger, "Alarm %u: the answer was not taken: %s; rings again", cookie, qPrintable(reason));
+    ring->ringAgain();
+    passSoundOn();
+}
+
+Ring *RingController::find(quint32 cookie) const
+{
+    const auto ring = std::find_if(m_rings.begin(), m_rings.end(),
+                                   [cookie](const auto &each) { return each->alarm().cookie == cookie; });
+    return ring != m_rings.end() ? ring->get() : nullptr;
+}
+
+Ring *RingController::findUnanswered(quint32 cookie) const
+{
+    auto *ring = find(cookie);
+    return ring && ring->state() != Ring::State::Answered ? ring : nullptr;
+}
+
+Ring *RingController::add(const Alarm &alarm, const QString &pluginName)
+{
+    const auto [plugin, name] = m_plugins->screen(pluginName);
+    auto *ring = new Ring(alarm, m_toneOrder.tones(alarm.tone), plugin, name, m_player);
+    m_rings.emplace_back(ring);
+    connect(ring, &Ring::sounding, this, [this, ring] { reportSound(*ring); });
+    return ring;
+}
+
+void RingController::reportSound(const Ring &ring)
+{
+    m_daemon->sounds(ring.alarm().cookie, ring.tone());
+}
+
+void RingController::remove(quint32 cookie)
+{
+    std::erase_if(m_rings, [cookie](const auto &ring) { return ring->alarm().cookie == cookie; });
+}
+
+void RingController::passSoundOn()
+{
+    const auto hasTurn = [](const auto &ring) { return ring->hasTurn(); };
+    const auto waits = [](const auto &ring) { return ring->state() == Ring::State::Waiting; };
+    if (std::any_of(m_rings.begin(), m_rings.end(), hasTurn))
+        return;
+    const auto next = std::find_if(m_rings.begin(), m_rings.end(), waits);
+    if (next != m_rings.end())
+        (*next)->takeSound();
+}
+
+} // namespace Ringer

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/ringer/ringerservice.h"
+
+#include "platform/ringer/ringcontroller.h"
+
+#include "ringeradaptor.h"
+
+#include <QDBusConnection>
+#include <QDBusError>
+
+namespace Ringer {
+
+namespace Wire = Astel::Timed::Wire;
+
+RingerService::RingerService(RingController *controller, QObject *parent)
+    : QObject(parent)
+    , m_controller(controller)
+{
+    Wire::registerTypes();
+    new RingerAdaptor(this);
+}
+
+bool RingerService::registerOnBus(QString *reason)
+{
+    auto bus = QDBusConnection::sessionBus();
+    // The name comes last: whoever sees it may call.
+    if (bus.registerObject(QLatin1String(Wire::RingerPath), this)
+        && bus.registerService(QLatin1String(Wire::RingerService)))
+        return true;
+    *reason = bus.isConnected() ? QStringLiteral("the name is taken") : bus.lastError().message();
+    return false;
+}
+
+void RingerService::unregisterName()
+{
+    QDBusConnection::sessionBus().unregisterService(QLatin1String(Wire::RingerService));
+}
+
+void RingerService::ring(uint cookie, const Wire::Event &event, qulonglong due)
+{
+    m_controller->ring(cookie, event, due);
+}
+
+void RingerService::stop(uint cookie)
+{
+    m_controller->stop(cookie);
+}
+
+} // namespace Ringer

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/timedclient/wire.h"
+
+#include <QObject>
+
+namespace Ringer {
+
+class RingController;
+
+/** The object that the daemon calls on the session bus; registers itself, and says why when it cannot. */
+class RingerService : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit RingerService(RingController *controller, QObject *parent = nullptr);
+
+    [[nodiscard]] bool registerOnBus(QString *reason);
+    void unregisterName();
+
+public Q_SLOTS:
+    void ring(uint cookie, const Astel::Timed::Wire::Event &event, qulonglong due);
+    void stop(uint cookie);
+
+private:
+    RingController *m_controller;
+};
+
+} // namespace Ringer
