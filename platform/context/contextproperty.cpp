@@ -86,6 +86,8 @@ QVariant ContextProperty::value(const QVariant &fallback) const
 
 void ContextProperty::subscribe()
 {
+    // Qt DBus looks the type of the signal up by its name, which nobody may have needed before.
+    qRegisterMetaType<QDBusVariant>();
     if (!m_subscription)
         m_subscription = std::make_unique<Subscription>(this);
 }

@@ -11,6 +11,8 @@ namespace {
 
 bool hasSlot(const QObject *receiver, const char *slot)
 {
+    if (!slot || !*slot)
+        return false;
     // The first character is the code that SLOT() puts before the signature.
     const QByteArray signature = QMetaObject::normalizedSignature(slot + 1);
     return receiver->metaObject()->indexOfMethod(signature) >= 0;

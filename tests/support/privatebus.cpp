@@ -11,16 +11,17 @@
 
 namespace Support {
 
-PrivateBus::PrivateBus()
+PrivateBus::PrivateBus(const QString &serviceFolder)
 {
     // The standard configuration without its service folders: nothing of the host can be activated.
     QFile configuration(m_folder.filePath("bus.conf"));
     if (!configuration.open(QIODevice::WriteOnly))
         return;
-    configuration.write(QStringLiteral("<busconfig><type>session</type><listen>unix:dir=%1</listen>"
+    const QString services = serviceFolder.isEmpty() ? QString() : "<servicedir>" + serviceFolder + "</servicedir>";
+    configuration.write(QStringLiteral("<busconfig><type>session</type><listen>unix:dir=%1</listen>%2"
                                        "<policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
                                        "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>")
-                            .arg(m_folder.path())
+                            .arg(m_folder.path(), services)
                             .toUtf8());
     configuration.close();
     m_process.start("dbus-daemon", {"--config-file=" + configuration.fileName(), "--nofork", "--print-address"});

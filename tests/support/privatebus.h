@@ -10,12 +10,12 @@ namespace Support {
 /**
  * A session bus for one test program, gone with the object. Create it in main() or initTestCase(), before the first
  * use of QDBusConnection::sessionBus(): it sets DBUS_SESSION_BUS_ADDRESS for this process and its children.
- * Nothing is D-Bus activated on it; tests start what they need.
+ * Nothing of the host is D-Bus activated on it: a test starts what it needs, or names a folder of service files.
  */
 class PrivateBus
 {
 public:
-    PrivateBus();
+    explicit PrivateBus(const QString &serviceFolder = {});
     ~PrivateBus();
 
     /** Whether the bus came up; a test asks before it goes on. */
