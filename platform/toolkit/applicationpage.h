@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/toolkit/scenewindow.h"
+
+#include <QHash>
+
+namespace Touch {
+
+class PannableViewport;
+
+/**
+ * A page that fills its window. Its content is made once, when it first appears. The central widget lies
+ * straight on the page, or in a viewport if the page is pannable.
+ */
+class ApplicationPage : public SceneWindow
+{
+    Q_OBJECT
+    Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
+
+public:
+    enum Component { HomeButton = 1, EscapeButton = 2, NavigationBar = 4, AllComponents = 7 };
+    enum DisplayMode { Show = 0, AutoHide = 1, Hide = 2 };
+    Q_ENUM(DisplayMode)
+
+    explicit ApplicationPage(QGraphicsItem *parent = nullptr);
+    ~ApplicationPage() override;
+
+    QString title() const { return m_title; }
+    void setTitle(const QString &title);
+
+    /** Fills the central widget; called once. Overrides run this one first. */
+    virtual void createContent();
+    bool isContentCreated() const { return m_isContentCreated; }
+
+    Widget *centralWidget() const { return m_centralWidget; }
+
+    /** How the window's own parts are shown with this page; the mask is made of Component. */
+    void setComponentsDisplayMode(int componentMask, DisplayMode mode);
+    DisplayMode componentDisplayMode(Component component) const;
+
+signals:
+    void titleChanged(const QString &title);
+
+protected:
+    int layer() const override { return 0; }
+    void aboutToAppear() override;
+    void resizeEvent(QGraphicsSceneResizeEvent *event) override;
+
+private:
+    void arrange();
+
+    QString m_title;
+    bool m_isContentCreated = false;
+    QHash<int, DisplayMode> m_displayModes;
+    Widget *m_centralWidget = nullptr;
+};
+
+} // namespace Touch

@@ -1,0 +1,255 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/toolkit/button.h"
+
+#include "platform/toolkit/text_p.h"
+#include "platform/toolkit/theme.h"
+
+#include <QGraphicsSceneMouseEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QWidget>
+
+namespace Touch {
+
+namespace {
+
+/** How far a finger may slip off the edge and still press. */
+constexpr qreal slip = 12;
+
+bool isPressKey(const QKeyEvent *event)
+{
+    return event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
+        || event->key() == Qt::Key_Select;
+}
+
+} // namespace
+
+Button::Button(const QString &text, QGraphicsItem *parent)
+    : Widget(parent)
+    , m_text(std::make_unique<PreparedText>())
+{
+    m_text->setText(text);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::TabFocus);
+    setAcceptedMouseButtons(Qt::LeftButton);
+}
+
+Button::Button(QGraphicsItem *parent)
+    : Button(QString(), parent)
+{ }
+
+Button::~Button() = default;
+
+QString Button::text() const
+{
+    return m_text->text();
+}
+
+void Button::setText(const QString &text)
+{
+    if (m_text->text() == text)
+        return;
+    m_text->setText(text);
+    updateGeometry();
+    update();
+}
+
+void Button::setIconID(const QString &iconId)
+{
+    if (m_iconId == iconId)
+        return;
+    m_iconId = iconId;
+    updateGeometry();
+    update();
+}
+
+void Button::setViewType(const QString &viewType)
+{
+    if (m_viewType == viewType)
+        return;
+    m_viewType = viewType;
+    updateGeometry();
+    update();
+}
+
+void Button::setCheckable(bool isCheckable)
+{
+    m_isCheckable = isCheckable;
+    if (!isCheckable)
+        setChecked(false);
+}
+
+void Button::setChecked(bool isChecked)
+{
+    const bool wanted = isChecked && m_isCheckable;
+    if (m_isChecked == wanted)
+        return;
+    m_isChecked = wanted;
+    update();
+    emit toggled(wanted);
+}
+
+void Button::click()
+{
+    const QPointer<Button> guard(this);
+    if (m_isCheckable)
+        setChecked(!m_isChecked);
+    if (guard)
+        emit clicked(m_isChecked);
+}
+
+void Button::setDown(bool isDown)
+{
+    if (m_isDown == isDown)
+        return;
+    m_isDown = isDown;
+    update();
+    if (isDown)
+        emit pressed();
+    else
+        emit released();
+}
+
+void Button::mousePressEvent(QGraphicsSceneMouseEvent *)
+{
+    setDown(true);
+}
+
+void Button::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
+{
+    setDown(rect().adjusted(-slip, -slip, slip, slip).contains(event->pos()));
+}
+
+void Button::mouseReleaseEvent(QGraphicsSceneMouseEvent *)
+{
+    if (!m_isDown)
+        return;
+    const QPointer<Button> guard(this);
+    setDown(false);
+    if (guard)
+        click();
+}
+
+void Button::ungrabMouseEvent(QEvent *event)
+{
+    setDown(false);
+    Widget::ungrabMouseEvent(event);
+}
+
+void Button::keyPressEvent(QKeyEvent *event)
+{
+    if (!isPressKey(event)) {
+        Widget::keyPressEvent(event);
+        return;
+    }
+    if (!event->isAutoRepeat())
+        setDown(true);
+}
+
+void Button::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!isPressKey(event) || event->isAutoRepeat() || !m_isDown) {
+        Widget::keyReleaseEvent(event);
+        return;
+    }
+    const QPointer<Button> guard(this);
+    setDown(false);
+    if (guard)
+        click();
+}
+
+void Button::focusOutEvent(QFocusEvent *event)
+{
+    setDown(false);
+    Widget::focusOutEvent(event);
+}
+
+void Button::styleChanged()
+{
+    m_isStyled = false;
+    Widget::styleChanged();
+}
+
+PreparedText &Button::prepared() const
+{
+    if (!m_isStyled) {
+        m_isStyled = true;
+        m_text->setStyle(style());
+    }
+    return *m_text;
+}
+
+bool Button::showsText() const
+{
+    return m_viewType != QLatin1String("icon") && !m_text->text().isEmpty();
+}
+
+QSizeF Button::contentSize() const
+{
+    QSizeF size(0, 0);
+    if (showsText())
+        size = prepared().naturalSize();
+    if (!m_iconId.isEmpty()) {
+        const QSizeF icon = style().iconSize;
+        const qreal gap = showsText() ? style().spacing : 0;
+        size = {size.width() + gap + icon.width(), qMax(size.height(), icon.height())};
+    }
+    return size;
+}
+
+QSizeF Button::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
+{
+    if (which == Qt::MaximumSize)
+        return Widget::sizeHint(which, constraint);
+    QSizeF size = contentSize();
+    if (which == Qt::MinimumSize && showsText())
+        size.rwidth() += prepared().minimumWidth() - prepared().naturalSize().width();
+    return styledSize(which, size);
+}
+
+QColor Button::foregroundColor() const
+{
+    const Style &look = style();
+    if (!isEnabled() && look.disabledColor.isValid())
+        return look.disabledColor;
+    if (m_isDown && look.pressedColor.isValid())
+        return look.pressedColor;
+    return m_isChecked && look.checkedColor.isValid() ? look.checkedColor : look.color;
+}
+
+QColor Button::backgroundColor() const
+{
+    const Style &look = style();
+    if (!isEnabled() && look.disabledBackground.isValid())
+        return look.disabledBackground;
+    if (m_isDown && look.pressedBackground.isValid())
+        return look.pressedBackground;
+    return m_isChecked && look.checkedBackground.isValid() ? look.checkedBackground : look.background;
+}
+
+void Button::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *widget)
+{
+    paintBackground(painter, backgroundColor());
+    QRectF area = paddedRect();
+    const QColor color = foregroundColor();
+    if (!m_iconId.isEmpty()) {
+        const QSizeF icon = style().iconSize;
+        const qreal ratio = widget ? widget->devicePixelRatioF() : 1;
+        const QPixmap pixmap = Theme::instance().icon(m_iconId, icon.toSize(), color, ratio);
+        const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+        const qreal used = qMin(contentSize().width(), area.width());
+        const qreal start = area.left() + (area.width() - used) / 2;
+        const qreal x = isMirrored ? area.left() + area.right() - start - icon.width() : start;
+        painter->drawPixmap(QPointF(qRound(x), qRound(area.center().y() - icon.height() / 2)), pixmap);
+        const qreal gap = icon.width() + style().spacing;
+        area = QRectF(start, area.top(), used, area.height());
+        area.adjust(isMirrored ? 0 : gap, 0, isMirrored ? -gap : 0, 0);
+    }
+    if (showsText())
+        prepared().draw(painter, area, Qt::AlignCenter, color);
+    paintFocusRing(painter);
+}
+
+} // namespace Touch

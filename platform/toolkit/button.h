@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/toolkit/widget.h"
+
+#include <memory>
+
+namespace Touch {
+
+class PreparedText;
+
+/**
+ * Something to press: text, icon or both, optionally one that stays down. Pressed by touch, or by Space and
+ * Return when it has the focus. A press that turns into panning is no click.
+ */
+class Button : public Widget
+{
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(QString iconID READ iconID WRITE setIconID)
+    Q_PROPERTY(QString viewType READ viewType WRITE setViewType)
+    Q_PROPERTY(bool checkable READ isCheckable WRITE setCheckable)
+    Q_PROPERTY(bool checked READ isChecked WRITE setChecked NOTIFY toggled)
+
+public:
+    explicit Button(const QString &text = QString(), QGraphicsItem *parent = nullptr);
+    explicit Button(QGraphicsItem *parent);
+    ~Button() override;
+
+    QString text() const;
+    void setText(const QString &text);
+    QString iconID() const { return m_iconId; }
+    void setIconID(const QString &iconId);
+    /** "icon" shows the icon alone, the text is then only read out; empty shows both. */
+    QString viewType() const { return m_viewType; }
+    void setViewType(const QString &viewType);
+
+    bool isCheckable() const { return m_isCheckable; }
+    void setCheckable(bool isCheckable);
+    bool isChecked() const { return m_isChecked; }
+    void setChecked(bool isChecked);
+    bool isDown() const { return m_isDown; }
+
+    /** As if the user had pressed it. */
+    void click();
+
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
+
+signals:
+    void pressed();
+    void released();
+    void clicked(bool checked = false);
+    void toggled(bool checked);
+
+protected:
+    void styleChanged() override;
+    QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    void ungrabMouseEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+    QColor foregroundColor() const;
+    QColor backgroundColor() const;
+
+private:
+    void setDown(bool isDown);
+    bool showsText() const;
+    QSizeF contentSize() const;
+    PreparedText &prepared() const;
+
+    std::unique_ptr<PreparedText> m_text;
+    mutable bool m_isStyled = false;
+    QString m_iconId;
+    QString m_viewType;
+    bool m_isCheckable = false;
+    bool m_isChecked = false;
+    bool m_isDown = false;
+};
+
+} // namespace Touch

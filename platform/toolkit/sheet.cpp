@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/toolkit/sheet.h"
+
+#include <QGraphicsSceneResizeEvent>
+
+namespace Touch {
+
+Sheet::Sheet(QGraphicsItem *parent)
+    : SceneWindow(parent)
+    , m_centralWidget(new Widget(this))
+{ }
+
+Sheet::~Sheet() = default;
+
+void Sheet::setHeaderWidget(QGraphicsWidget *header)
+{
+    if (m_headerWidget == header)
+        return;
+    delete m_headerWidget;
+    m_headerWidget = header;
+    if (header) {
+        header->setParentItem(this);
+        // The header comes before the content for the Tab key.
+        setTabOrder(header, m_centralWidget);
+    }
+    arrange();
+}
+
+void Sheet::setTransition(qreal progress)
+{
+    // Whole pixels, so that text does not shimmer while it slides.
+    setY(qRound((1 - progress) * size().height()));
+}
+
+bool Sheet::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        arrange();
+    return SceneWindow::event(event);
+}
+
+void Sheet::resizeEvent(QGraphicsSceneResizeEvent *event)
+{
+    SceneWindow::resizeEvent(event);
+    arrange();
+}
+
+void Sheet::arrange()
+{
+    QRectF area = paddedRect();
+    if (m_headerWidget) {
+        const qreal height = m_headerWidget->effectiveSizeHint(Qt::PreferredSize).height();
+        m_headerWidget->setGeometry(QRectF(area.topLeft(), QSizeF(area.width(), height)));
+        area.setTop(area.top() + height);
+    }
+    m_centralWidget->setGeometry(area);
+}
+
+} // namespace Touch

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/toolkit/scenewindow.h"
+
+namespace Touch {
+
+/**
+ * A modal window that slides up over the whole window: a header on top, the central widget below it. It owns
+ * both.
+ */
+class Sheet : public SceneWindow
+{
+    Q_OBJECT
+
+public:
+    explicit Sheet(QGraphicsItem *parent = nullptr);
+    ~Sheet() override;
+
+    QGraphicsWidget *headerWidget() const { return m_headerWidget; }
+    /** Takes the header; the one before is deleted. */
+    void setHeaderWidget(QGraphicsWidget *header);
+
+    Widget *centralWidget() const { return m_centralWidget; }
+
+protected:
+    int layer() const override { return 1; }
+    void setTransition(qreal progress) override;
+    bool event(QEvent *event) override;
+    void resizeEvent(QGraphicsSceneResizeEvent *event) override;
+
+private:
+    void arrange();
+
+    QGraphicsWidget *m_headerWidget = nullptr;
+    Widget *m_centralWidget = nullptr;
+};
+
+} // namespace Touch

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <memory>
+#include <QColor>
+#include <QFont>
+#include <QGlyphRun>
+#include <QRectF>
+#include <QStaticText>
+#include <QString>
+
+class QPainter;
+
+namespace Touch {
+
+struct Style;
+
+/** A text made ready for painting: shaped, elided or wrapped once, and drawn cheaply from then on. */
+class PreparedText
+{
+public:
+    enum class Fit { Elide, Clip, Wrap };
+
+    void setText(const QString &text);
+    void setStyle(const Style &style);
+    /** For Wrap, how the lines lie in the text's width. */
+    void setFit(Fit fit, Qt::Alignment lines = {});
+
+    const QString &text() const { return m_text; }
+    bool isRightToLeft() const { return m_text.isRightToLeft(); }
+    /** The size of the whole text; wrapped if the width is 0 or more and it wraps. */
+    QSizeF naturalSize(qreal width = -1) const;
+    /** The narrowest that still says something. */
+    qreal minimumWidth() const;
+    void draw(QPainter *painter, const QRectF &rect, Qt::Alignment alignment, const QColor &color) const;
+
+private:
+    void prepare(qreal width) const;
+    bool isTabular() const;
+
+    QString m_text;
+    QFont m_font;
+    bool m_hasTabularDigits = false;
+    Fit m_fit = Fit::Elide;
+    Qt::Alignment m_lines;
+
+    // Cached for one width
+    mutable qreal m_width = -1;
+    mutable QSizeF m_size;
+    mutable QStaticText m_static;
+    mutable QGlyphRun m_glyphs;
+};
+
+} // namespace Touch

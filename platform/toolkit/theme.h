@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/toolkit/style.h"
+
+#include <memory>
+#include <QHash>
+#include <QObject>
+#include <QPixmap>
+
+namespace Touch {
+
+class ThemeFile;
+
+/**
+ * The look of everything: styles resolved from JSON files, and icons. One object for the process, made on
+ * first use with the toolkit's own theme (theme/base.json, the example to read) loaded. GUI thread only.
+ *
+ * A theme file is one object with up to three sections, each may be left out; a later file wins over an
+ * earlier one: "palettes": { "dark": { "accent": "#FFB454" }, "light": { … } }   named colours of both
+ * variants "classes":  { "Button": { "radius": 12, "color": "text" } }       defaults, a derived class after
+ * its base "styles":   { "StyleName": { … }, "#objectName": { … }, "StyleName#objectName": { … } } A rule
+ * holds the properties of Style by their names. Colours are "#RRGGBB", "#AARRGGBB" or palette names, "text
+ * 12%" is weaker, "none" is nothing; margins are [left, top, right, bottom], mirrored for right-to-left;
+ * sizes are [width, height], -1 leaves one to the widget; alignment is words ("left vcenter"); "extends":
+ * "Other" starts from another style. A property comes from the most specific rule that gives it: style name
+ * with object name, style name, object name, class.
+ */
+class Theme : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Variant { Light, Dark };
+
+    static Theme &instance();
+    ~Theme() override;
+
+    /** Adds a file. On failure nothing is changed, and the error names the file, the line and the key. */
+    [[nodiscard]] bool load(const QString &jsonFile, QString *error);
+
+    Variant variant() const { return m_variant; }
+    void setVariant(Variant variant);
+    /** Takes the variant of the desktop's palette, or of CLOCK_THEME ("light", "dark") where that is set. */
+    void followDesktop();
+
+    /** The style of a widget. An unknown style name is as if none was given, and is warned about once. */
+    std::shared_ptr<const Style> style(const QString &styleName, const QString &objectName,
+                                       const QMetaObject *type, bool inverted = false);
+    bool hasStyle(const QString &styleName) const;
+    /** A named colour of the palette; invalid if there is none. */
+    QColor color(const QString &name, bool inverted = false) const;
+
+    /** ":/icons/<id>.svg" in one colour, cached; null if there is no such icon. The size is in logical
+     * pixels. */
+    QPixmap icon(const QString &id, const QSize &size, const QColor &color, qreal devicePixelRatio = 1);
+
+signals:
+    void changed();
+
+private:
+    Theme();
+    Q_DISABLE_COPY(Theme)
+
+    std::shared_ptr<const Style> resolve(const QStringList &rules, bool inverted) const;
+    void applyRule(Style &style, const QString &name, bool inverted, int depth) const;
+    bool isDark(bool inverted) const { return (m_variant == Variant::Dark) != inverted; }
+    void warnUnknown(const QString &styleName);
+
+    std::unique_ptr<ThemeFile> m_file;
+    Variant m_variant = Variant::Light;
+
+    // Caches
+    QHash<QString, std::shared_ptr<const Style>> m_styles;
+    QHash<QString, QPixmap> m_icons;
+    QStringList m_warned;
+};
+
+} // namespace Touch

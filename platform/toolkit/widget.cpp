@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/toolkit/widget.h"
+
+#include "platform/toolkit/theme.h"
+#include "platform/toolkit/window.h"
+
+#include <QFocusEvent>
+#include <QGraphicsLayout>
+#include <QGraphicsScene>
+#include <QPainter>
+
+namespace Touch {
+
+Widget::Widget(QGraphicsItem *parent)
+    : QGraphicsWidget(parent)
+{
+    connect(this, &QObject::objectNameChanged, this, &Widget::refreshStyle);
+    connect(&Theme::instance(), &Theme::changed, this, &Widget::refreshStyle);
+}
+
+Widget::~Widget() = default;
+
+void Widget::setStyleName(const QString &styleName)
+{
+    if (m_styleName == styleName)
+        return;
+    m_styleName = styleName;
+    refreshStyle();
+}
+
+const Style &Widget::style() const
+{
+    if (!m_style)
+        m_style = Theme::instance().style(m_styleName, objectName(), metaObject(), m_isInverted);
+    return *m_style;
+}
+
+Window *Widget::hostWindow() const
+{
+    if (!scene() || scene()->views().isEmpty())
+        return nullptr;
+    return qobject_cast<Window *>(scene()->views().constFirst());
+}
+
+QRectF Widget::paddedRect() const
+{
+    const QMarginsF padding = style().padding;
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    return contentsRect().adjusted(mirrored ? padding.right() : padding.left(), padding.top(),
+                                   mirrored ? -padding.left() : -padding.right(), -padding.bottom());
+}
+
+void Widget::refreshDisplay()
+{
+    const Window *window = hostWindow();
+    const bool isNow = isVisible() && window && window->isOnScreen();
+    if (m_isOnDisplay == isNow)
+        return;
+    m_isOnDisplay = isNow;
+    if (isNow)
+        enterDisplay();
+    else
+        exitDisplay();
+}
+
+void Widget::refreshStyle()
+{
+    const Window *window = hostWindow();
+    m_isInverted = window && window->isInverted();
+    m_style.reset();
+    styleChanged();
+}
+
+void Widget::styleChanged()
+{
+    if (layout())
+        layout()->invalidate();
+    updateGeometry();
+    update();
+}
+
+void Widget::enterDisplay() { }
+
+void Widget::exitDisplay() { }
+
+QSizeF Widget::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
+{
+    if (which == Qt::MaximumSize)
+        return styledSize(which, {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX});
+    // A layout of the toolkit has counted the padding in already.
+    const QMarginsF padding = style().padding;
+    const QSizeF content
+        = layout() ? layout()->effectiveSizeHint(which, constraint).shrunkBy(padding) : QSizeF(0, 0);
+    return styledSize(which, content);
+}
+
+QSizeF Widget::styledSize(Qt::SizeHint which, const QSizeF &content) const
+{
+    const Style &look = style();
+    qreal left, top, right, bottom;
+    getContentsMargins(&left, &top, &right, &bottom);
+    QSizeF size = content.grownBy(look.padding).grownBy({left, top, right, bottom});
+    if (which == Qt::PreferredSize && look.preferredSize.width() >= 0)
+        size.setWidth(look.preferredSize.width());
+    if (which == Qt::PreferredSize && look.preferredSize.height() >= 0)
+        size.setHeight(look.preferredSize.height());
+    if (which != Qt::MaximumSize)
+        size = size.expandedTo(look.minimumSize);
+    if (look.maximumSize.width() >= 0)
+        size.setWidth(qMin(size.width(), look.maximumSize.width()));
+    if (look.maximumSize.height() >= 0)
+        size.setHeight(qMin(size.height(), look.maximumSize.height()));
+    return size;
+}
+
+QVariant Widget::itemChange(GraphicsItemChange change, const QVariant &value)
+{
+    if (change == ItemVisibleHasChanged) {
+        refreshDisplay();
+        // A hidden item gives its place up; not asked for when only an ancestor was hidden.
+        if (!parentItem() || parentItem()->isVisible())
+            updateGeometry();
+    } else if (change == ItemSceneHasChanged) {
+        const Window *window = hostWindow();
+        if (window && window->isInverted() != m_isInverted)
+            refreshStyle();
+        refreshDisplay();
+    }
+    return QGraphicsWidget::itemChange(change, value);
+}
+
+void Widget::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::LayoutDirectionChange)
+        update();
+    QGraphicsWidget::changeEvent(event);
+}
+
+void Widget::focusInEvent(QFocusEvent *event)
+{
+    m_hasKeyboardFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
+        || event->reason() == Qt::ShortcutFocusReason;
+    update();
+    QGraphicsWidget::focusInEvent(event);
+}
+
+void Widget::focusOutEvent(QFocusEvent *event)
+{
+    m_hasKeyboardFocus = false;
+    update();
+    QGraphicsWidget::focusOutEvent(event);
+}
+
+void Widget::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
+{
+    paintBackground(painter,
+                    isEnabled() || !style().disabledBackground.isValid() ? style().background
+                                                                         : style().disabledBackground);
+}
+
+void Widget::paintBackground(QPainter *painter, const QColor &fill) const
+{
+    const Style &look = style();
+    const bool hasBorder = look.borderWidth > 0 && look.borderColor.isValid();
+    if (!fill.isValid() && !hasBorder)
+        return;
+    if (look.radius <= 0 && !hasBorder) {
+        painter->fillRect(rect(), fill);
+        return;
+    }
+    const qreal inset = hasBorder ? look.borderWidth / 2 : 0;
+    const qreal radius = qMin(look.radius, qMin(rect().width(), rect().height()) / 2);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(hasBorder ? QPen(look.borderColor, look.borderWidth) : QPen(Qt::NoPen));
+    painter->setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
+    painter->drawRoundedRect(rect().adjusted(inset, inset, -inset, -inset), radius, radius);
+    painter->restore();
+}
+
+void Widget::paintFocusRing(QPainter *painter) const
+{
+    const QColor color = style().focusColor;
+    if (!m_hasKeyboardFocus || !color.isValid())
+        return;
+    constexpr qreal width = 2;
+    const QRectF ring = rect().adjusted(width / 2, width / 2, -width / 2, -width / 2);
+    const qreal radius = qMin(style().radius, qMin(ring.width(), ring.height()) / 2);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(color, width));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(ring, radius, radius);
+    painter->restore();
+}
+
+} // namespace Touch

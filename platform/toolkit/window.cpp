@@ -1,0 +1,277 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/toolkit/window.h"
+
+#include "platform/toolkit/scenewindow.h"
+#include "platform/toolkit/theme.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGraphicsLayout>
+
+namespace Touch {
+
+namespace {
+
+constexpr QSize defaultSize(480, 854);
+
+QList<Window *> &allWindows()
+{
+    static QList<Window *> windows;
+    return windows;
+}
+
+template <typename Function>
+void forEachWidget(const QGraphicsScene *scene, Function function)
+{
+    const QList<QGraphicsItem *> items = scene->items();
+    for (QGraphicsItem *item : items) {
+        if (item->isWidget())
+            function(static_cast<QGraphicsWidget *>(item));
+    }
+}
+
+} // namespace
+
+Window::Window(QWidget *parent)
+    : QGraphicsView(parent)
+{
+    allWindows().append(this);
+    setScene(new QGraphicsScene(this));
+    // Few items, many of them moving: an index costs more than it finds.
+    scene()->setItemIndexMethod(QGraphicsScene::NoIndex);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setViewportUpdateMode(MinimalViewportUpdate);
+    setOptimizationFlags(DontSavePainterState | DontAdjustForAntialiasing);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    resize(defaultSize);
+    applyStyle();
+    connect(&Theme::instance(), &Theme::changed, this, &Window::applyStyle);
+}
+
+Window::~Window()
+{
+    allWindows().removeAll(this);
+    const QList<SceneWindow *> known = m_known;
+    for (SceneWindow *sceneWindow : known)
+        sceneWindow->leaveScene();
+}
+
+Window *Window::active()
+{
+    if (auto *window = qobject_cast<Window *>(QApplication::activeWindow()))
+        return window;
+    return allWindows().isEmpty() ? nullptr : allWindows().constLast();
+}
+
+void Window::setStyleName(const QString &styleName)
+{
+    if (m_styleName == styleName)
+        return;
+    m_styleName = styleName;
+    applyStyle();
+}
+
+void Window::setInverted(bool isInverted)
+{
+    if (m_isInverted == isInverted)
+        return;
+    m_isInverted = isInverted;
+    applyStyle();
+    forEachWidget(scene(), [](QGraphicsWidget *item) {
+        if (auto *widget = qobject_cast<Widget *>(item))
+            widget->refreshStyle();
+    });
+}
+
+void Window::setOrientation(Qt::Orientation orientation)
+{
+    applyOrientation(orientation);
+}
+
+void Window::setOrientationLocked(bool isLocked)
+{
+    m_isOrientationLocked = isLocked;
+    if (!isLocked)
+        applyOrientation(width() > height() ? Qt::Horizontal : Qt::Vertical);
+}
+
+void Window::applyOrientation(Qt::Orientation orientation)
+{
+    if (m_orientation == orientation)
+        return;
+    m_orientation = orientation;
+    forEachWidget(scene(), [](QGraphicsWidget *item) {
+        if (item->layout())
+            item->layout()->invalidate();
+    });
+    emit orientationChanged(orientation);
+}
+
+bool Window::isOnScreen() const
+{
+    return isVisible() && !isMinimized();
+}
+
+SceneWindow *Window::topSceneWindow() const
+{
+    for (auto it = m_stack.crbegin(); it != m_stack.crend(); ++it) {
+        if ((*it)->takesInput())
+            return *it;
+    }
+    return nullptr;
+}
+
+bool Window::stepBack()
+{
+    finishTransitions();
+    SceneWindow *top = topSceneWindow();
+    if (!top || top == m_stack.constFirst())
+        return false;
+    top->dismiss();
+    return true;
+}
+
+QSize Window::sizeHint() const
+{
+    return defaultSize;
+}
+
+void Window::present(SceneWindow *sceneWindow)
+{
+    if (sceneWindow->scene() != scene())
+        scene()->addItem(sceneWindow);
+    if (!m_known.contains(sceneWindow))
+        m_known.append(sceneWindow);
+    if (SceneWindow *top = topSceneWindow(); top && sceneWindow->takesInput())
+        top->rememberFocus();
+    m_stack.removeAll(sceneWindow);
+    const auto above = std::find_if(m_stack.begin(), m_stack.end(), [sceneWindow](const SceneWindow *other) {
+        return other->layer() > sceneWindow->layer();
+    });
+    m_stack.insert(above, sceneWindow);
+    for (int i = 0; i < m_stack.size(); ++i)
+        m_stack[i]->setZValue(i);
+    sceneWindow->place(viewport()->size());
+    emit stackChanged();
+}
+
+void Window::withdraw(SceneWindow *sceneWindow)
+{
+    const bool tookInput = topSceneWindow() == sceneWindow;
+    m_stack.removeAll(sceneWindow);
+    updateCovered();
+    if (SceneWindow *top = topSceneWindow(); top && tookInput)
+        top->recallFocus();
+    emit stackChanged();
+}
+
+void Window::forget(SceneWindow *sceneWindow)
+{
+    m_known.removeAll(sceneWindow);
+    if (m_stack.contains(sceneWindow))
+        withdraw(sceneWindow);
+}
+
+void Window::updateCovered()
+{
+    bool isCovered = false;
+    for (auto it = m_stack.crbegin(); it != m_stack.crend(); ++it) {
+        (*it)->setVisible(!isCovered);
+        isCovered = isCovered || ((*it)->coversWindow() && !(*it)->isInTransition());
+    }
+}
+
+void Window::finishTransitions()
+{
+    const QList<SceneWindow *> known = m_known;
+    for (SceneWindow *sceneWindow : known) {
+        if (m_known.contains(sceneWindow))
+            sceneWindow->finishTransition();
+    }
+}
+
+void Window::applyStyle()
+{
+    const auto style = Theme::instance().style(m_styleName, objectName(), metaObject(), m_isInverted);
+    setBackgroundBrush(style->background);
+}
+
+void Window::refreshDisplay()
+{
+    forEachWidget(scene(), [](QGraphicsWidget *item) {
+        if (auto *widget = qobject_cast<Widget *>(item))
+            widget->refreshDisplay();
+    });
+}
+
+void Window::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(!stepBack());
+}
+
+// What the user does goes to where the window will be when its transition is over.
+void Window::keyPressEvent(QKeyEvent *event)
+{
+    finishTransitions();
+    QGraphicsView::keyPressEvent(event);
+    if (!event->isAccepted() && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Back)) {
+        event->accept();
+        close();
+    }
+}
+
+void Window::mousePressEvent(QMouseEvent *event)
+{
+    finishTransitions();
+    QGraphicsView::mousePressEvent(event);
+}
+
+void Window::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    finishTransitions();
+    QGraphicsView::mouseDoubleClickEvent(event);
+}
+
+void Window::wheelEvent(QWheelEvent *event)
+{
+    finishTransitions();
+    QGraphicsView::wheelEvent(event);
+    // The view itself never scrolls.
+    event->accept();
+}
+
+void Window::resizeEvent(QResizeEvent *event)
+{
+    QGraphicsView::resizeEvent(event);
+    scene()->setSceneRect(QRectF(QPointF(0, 0), viewport()->size()));
+    if (!m_isOrientationLocked)
+        applyOrientation(width() > height() ? Qt::Horizontal : Qt::Vertical);
+    for (SceneWindow *sceneWindow : std::as_const(m_known))
+        sceneWindow->place(viewport()->size());
+}
+
+void Window::showEvent(QShowEvent *event)
+{
+    allWindows().removeAll(this);
+    allWindows().append(this);
+    QGraphicsView::showEvent(event);
+    refreshDisplay();
+}
+
+void Window::hideEvent(QHideEvent *event)
+{
+    QGraphicsView::hideEvent(event);
+    refreshDisplay();
+}
+
+void Window::changeEvent(QEvent *event)
+{
+    QGraphicsView::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && scene())
+        refreshDisplay();
+}
+
+} // namespace Touch

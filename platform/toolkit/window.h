@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QGraphicsView>
+
+namespace Touch {
+
+class SceneWindow;
+
+/**
+ * A window of the desktop that shows scene windows: pages, and sheets and banners above them. It does not own
+ * those that are kept when done; the others die with it at the latest. Closing and Escape go one step back:
+ * the topmost sheet is dismissed, a window that shows only its page is closed. GUI thread only.
+ */
+class Window : public QGraphicsView
+{
+    Q_OBJECT
+
+public:
+    explicit Window(QWidget *parent = nullptr);
+    ~Window() override;
+
+    /** The window that the user works in: the active one, or the one shown last. Null if there is none. */
+    static Window *active();
+
+    QString styleName() const { return m_styleName; }
+    void setStyleName(const QString &styleName);
+
+    /** Shows the contents in the colours of the other theme variant. */
+    bool isInverted() const { return m_isInverted; }
+    void setInverted(bool isInverted);
+
+    /** Vertical is portrait. Follows the shape of the window unless it is locked. */
+    Qt::Orientation orientation() const { return m_orientation; }
+    void setOrientation(Qt::Orientation orientation);
+    bool isOrientationLocked() const { return m_isOrientationLocked; }
+    void setOrientationLocked(bool isLocked);
+
+    /** Shown and not minimised. */
+    bool isOnScreen() const;
+    /** What the user sees on top, banners left out; null if the window is empty. */
+    SceneWindow *topSceneWindow() const;
+    /** From bottom to top. */
+    QList<SceneWindow *> sceneWindows() const { return m_stack; }
+
+    /** Dismisses the topmost scene window; false if there is nothing but a page. */
+    bool stepBack();
+
+    QSize sizeHint() const override;
+
+signals:
+    void orientationChanged(Qt::Orientation orientation);
+    /** A scene window came to the top or went. */
+    void stackChanged();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    friend class SceneWindow;
+
+    void present(SceneWindow *sceneWindow);
+    void withdraw(SceneWindow *sceneWindow);
+    void forget(SceneWindow *sceneWindow);
+    void updateCovered();
+    void finishTransitions();
+    void applyOrientation(Qt::Orientation orientation);
+    void applyStyle();
+    void refreshDisplay();
+
+    QString m_styleName;
+    bool m_isInverted = false;
+    bool m_isOrientationLocked = false;
+    Qt::Orientation m_orientation = Qt::Vertical;
+    QList<SceneWindow *> m_stack; ///< appearing or shown, bottom to top
+    QList<SceneWindow *> m_known; ///< all that are in the scene
+};
+
+} // namespace Touch
