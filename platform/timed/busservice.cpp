@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/busservice.h"
+
+#include "platform/context/contextpublisher.h"
+#include "platform/timed/clock.h"
+#include "platform/timed/eventbook.h"
+#include "platform/timed/eventservice.h"
+#include "platform/timed/health.h"
+#include "platform/timed/lifecycle.h"
+#include "platform/timed/moments.h"
+#include "platform/timed/triggers.h"
+#include "platform/timed/zonesource.h"
+#include "timedadaptor.h"
+
+#include <algorithm>
+#include <QDBusConnection>
+#include <QDBusMessage>
+
+namespace Astel::Timed {
+
+namespace {
+
+constexpr uint MaximalTriggers = 1000;
+constexpr qint64 MillisecondsOfSecond = 1000;
+
+} // namespace
+
+BusService::BusService(const Parts &parts)
+    : m_parts(parts)
+{
+    new TimedAdaptor(this);
+}
+
+void BusService::publishThrough(ContextPublisher &publisher)
+{
+    m_publisher = &publisher;
+    m_published = triggerMap(m_parts.book.events());
+    connect(&m_parts.lifeCycle, &LifeCycle::changed, this, &BusService::publish);
+    connect(&m_parts.lifeCycle, &LifeCycle::settingsChanged, this,
+            [this](bool timeChanged) { emit settings_changed(wallClock(), timeChanged); });
+}
+
+uint BusService::add_event(const Wire::Event &event)
+{
+    const auto cookie = m_parts.events.add(event);
+    if (cookie)
+        answer({*cookie});
+    else
+        refuse(cookie.error());
+    return 0;
+}
+
+uint BusService::replace_event(const Wire::Event &event, uint cookie)
+{
+    const auto newCookie = m_parts.events.replace(event, cookie);
+    if (newCookie)
+        answer({*newCookie});
+    else
+        refuse(newCookie.error());
+    return 0;
+}
+
+bool BusService::cancel(uint cookie)
+{
+    const auto found = m_parts.events.cancel(cookie);
+    if (found)
+        answer({*found});
+    else
+        refuse(found.error());
+    return false;
+}
+
+QVariantList BusService::query(const QVariantMap &attributes) const
+{
+    QVariantList result;
+    const QList<quint32> cookies = m_parts.events.query(attributes);
+    for (const quint32 cookie : cookies)
+        result.append(cookie);
+    return result;
+}
+
+QVariantMap BusService::query_attributes(uint cookie) const
+{
+    return m_parts.events.queryAttributes(cookie);
+}
+
+void BusService::rings(uint cookie)
+{
+    if (const auto done = m_parts.lifeCycle.rings(cookie); !done)
+        refuse(done.error());
+}
+
+void BusService::sounds(uint cookie, const QString &tone)
+{
+    if (const auto done = m_parts.lifeCycle.sounds(cookie, tone); !done)
+        refuse(done.error());
+}
+
+qulonglong BusService::snooze(uint cookie, uint seconds, const QString &by)
+{
+    const auto until = m_parts.lifeCycle.snooze(cookie, seconds, by);
+    if (until)
+        answer({toNanoseconds(*until)});
+    else
+        refuse(until.error());
+    return 0;
+}
+
+void BusService::dismiss(uint cookie, const QString &by)
+{
+    const auto done = m_parts.lifeCycle.dismiss(cookie, by);
+    if (done)
+        answer({});
+    else
+        refuse(done.error());
+}
+
+QList<Wire::Trigger> BusService::next_triggers(uint count) const
+{
+    return nextTriggers(m_parts.book.events(), m_parts.zone.zone(), std::min(count, MaximalTriggers));
+}
+
+QList<Wire::JournalEntry> BusService::journal(qlonglong since) const
+{
+    return m_parts.book.journal(since);
+}
+
+QVariantMap BusService::health() const
+{
+    return m_parts.health.facts();
+}
+
+void BusService::answer(const QVariantList &values)
+{
+    setDelayedReply(true);
+    connection().send(message().createReply(values));
+    publish();
+}
+
+void BusService::refuse(const Error &error) const
+{
+    sendErrorReply(error.name, error.text);
+}
+
+void BusService::publish()
+{
+    const QVariantMap triggers = triggerMap(m_parts.book.events());
+    if (triggers != m_published) {
+        m_published = triggers;
+        m_publisher->publish(triggers);
+    }
+    emit idle();
+}
+
+WallClock::Info BusService::wallClock() const
+{
+    const auto stretch = m_parts.zone.zone().stretchAt(m_parts.clock.now() / MillisecondsOfSecond);
+    return {QString::fromUtf8(m_parts.zone.zone().id()), qint32(stretch.offset), stretch.summerTime};
+}
+
+} // namespace Astel::Timed

@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/daemon.h"
+
+#include "platform/context/contextpublisher.h"
+#include "platform/timed/busringer.h"
+#include "platform/timed/busservice.h"
+#include "platform/timed/eventbook.h"
+#include "platform/timed/eventservice.h"
+#include "platform/timed/health.h"
+#include "platform/timed/lifecycle.h"
+#include "platform/timed/localzone.h"
+#include "platform/timed/logging.h"
+#include "platform/timed/ringing.h"
+#include "platform/timed/schedule.h"
+#include "platform/timed/sqlitestore.h"
+#include "platform/timed/systemclock.h"
+#include "platform/timed/timerfdwaketimer.h"
+#include "platform/timed/triggers.h"
+
+#include <QDBusConnection>
+#include <QDBusError>
+
+namespace Astel::Timed {
+
+namespace {
+
+// The standard name for an error of the bus itself.
+constexpr auto BusError = "org.freedesktop.DBus.Error.Failed";
+
+} // namespace
+
+struct Daemon::Parts
+{
+    Parts(const Settings &settings, SqliteStore &store, const QDBusConnection &bus)
+        : book(store)
+        , schedule(clock, timer)
+        , ringer(bus)
+        , ringing(book, schedule, clock, ringer)
+        , lifeCycle(book, schedule, ringing, clock, zone, settings.ringTime)
+        , events(book, lifeCycle)
+        , health(book, schedule, timer, zone, store)
+        , service({clock, zone, book, health, events, lifeCycle})
+    { }
+
+    SystemClock clock;
+    LocalZone zone;
+    EventBook book;
+    TimerFdWakeTimer timer;
+    Schedule schedule;
+    BusRinger ringer;
+    Ringing ringing;
+    LifeCycle lifeCycle;
+    EventService events;
+    Health health;
+    std::unique_ptr<ContextPublisher> publisher;
+    BusService service;
+};
+
+Daemon::Daemon(const Settings &settings, std::unique_ptr<SqliteStore> store)
+    : m_store(std::move(store))
+    , m_parts(std::make_unique<Parts>(settings, *m_store, QDBusConnection::sessionBus()))
+{
+    m_snapshotTimer.setSingleShot(true);
+    QObject::connect(&m_snapshotTimer, &QTimer::timeout, &m_snapshotTimer, [this] { m_store->takeSnapshot(); });
+}
+
+Daemon::~Daemon() = default;
+
+Result<std::unique_ptr<Daemon>> Daemon::create(const Settings &settings)
+{
+    Wire::registerTypes();
+    if (const auto bus = QDBusConnection::sessionBus(); !bus.isConnected())
+        return Error{BusError, QStringLiteral("no session bus: %1").arg(bus.lastError().message())};
+    auto store = SqliteStore::create(settings.folder, SystemClock().now());
+    if (!store)
+        return store.error();
+    std::unique_ptr<Daemon> daemon(new Daemon(settings, std::move(*store)));
+    if (const auto started = daemon->start(); !started)
+        return started.error();
+    return daemon;
+}
+
+Result<> Daemon::start()
+{
+    // Calls that come from here on wait for the event loop, when all parts are there.
+    auto bus = QDBusConnection::sessionBus();
+    Parts &parts = *m_parts;
+    if (!bus.registerObject(Wire::Path, &parts.service))
+        return Error{BusError, QStringLiteral("cannot export %1").arg(Wire::Path)};
+    if (!bus.registerService(Wire::Service))
+        return Error{BusError, QStringLiteral("%1 is taken: another daemon is running").arg(Wire::Service)};
+    parts.lifeCycle.start();
+    parts.publisher = std::make_unique<ContextPublisher>(Wire::TriggerProperty, triggerMap(parts.book.events()), bus);
+    if (!parts.publisher->isPublished())
+        return Error{BusError, QStringLiteral("%1 is published by somebody else").arg(Wire::TriggerProperty)};
+    parts.service.publishThrough(*parts.publisher);
+
+    QObject::connect(&parts.timer, &WakeTimer::clockSet, &parts.lifeCycle, &LifeCycle::clockSet);
+    QObject::connect(&parts.zone, &ZoneSource::changed, &parts.lifeCycle, &LifeCycle::zoneChanged);
+    QObject::connect(&parts.service, &BusService::idle, &m_snapshotTimer, [this] {
+        if (m_store->wantsSnapshot())
+            m_snapshotTimer.start(0);
+    });
+    qCInfo(lcTimed, "%zu events, zone %s, timer %ls", parts.book.events().size(), parts.zone.zone().id().constData(),
+           qUtf16Printable(parts.timer.kind()));
+    return Done{};
+}
+
+} // namespace Astel::Timed

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/timed/result.h"
+
+#include <QSqlDatabase>
+
+namespace Astel::Timed {
+
+/**
+ * The SQLite file of the store: locked for one process, opened durable, checked, and copied as a snapshot. A damaged
+ * file is set aside and the snapshot, or an empty database, takes its place; wasRestored() tells. Closed with the object.
+ */
+class Database
+{
+public:
+    static constexpr int SchemaVersion = 1;
+
+    /** Creates the folder; fails where it cannot be written, is in use, or holds a newer schema. */
+    static Result<std::shared_ptr<Database>> open(const QString &folder);
+    ~Database();
+    Q_DISABLE_COPY(Database)
+
+    QSqlDatabase connection() const;
+    QString path() const { return m_path; }
+    /** Whether a damaged file was replaced when this one was opened. */
+    bool wasRestored() const { return m_restored; }
+    /** Writes a consistent copy beside the file; a failure leaves the last one. */
+    Result<> takeSnapshot();
+
+    /** The error that a failed statement ended with. */
+    static Error failure(const QString &what, const QString &why);
+
+private:
+    enum class Condition {
+        Sound,
+        Damaged,
+        Unusable,
+    };
+
+    explicit Database(const QString &folder);
+    Result<> lock();
+    Condition connect();
+    Condition prepare();
+    void replaceDamaged();
+    void setAside(const QString &path);
+
+    QString m_path;
+    QString m_connectionName;
+    QString m_problem;
+    int m_lock = -1;
+    bool m_restored = false;
+};
+
+} // namespace Astel::Timed

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/eventbook.h"
+
+#include "platform/timed/logging.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace Astel::Timed {
+
+namespace {
+
+constexpr quint32 HighestCookie = std::numeric_limits<qint32>::max();
+
+} // namespace
+
+EventBook::EventBook(Store &store)
+    : m_store(store)
+    , m_lastCookie(store.lastCookie())
+{
+    const QList<AlarmEvent> stored = store.events();
+    for (const AlarmEvent &event : stored)
+        m_events.insert_or_assign(event.cookie(), event);
+}
+
+const AlarmEvent *EventBook::find(quint32 cookie) const
+{
+    const auto found = m_events.find(cookie);
+    return found == m_events.end() ? nullptr : &found->second;
+}
+
+Result<quint32> EventBook::nextCookie() const
+{
+    if (m_lastCookie >= HighestCookie)
+        return Error{Wire::LimitError, QStringLiteral("all cookies have been given")};
+    return m_lastCookie + 1;
+}
+
+Result<> EventBook::commit(const Change &change)
+{
+    const auto committed = m_store.commit(change);
+    if (committed)
+        apply(change);
+    return committed;
+}
+
+void EventBook::commitOrCarryOn(const Change &change)
+{
+    if (const auto committed = m_store.commit(change); !committed)
+        qCCritical(lcTimed, "carrying on unsaved: %ls", qUtf16Printable(committed.error().text));
+    apply(change);
+}
+
+void EventBook::apply(const Change &change)
+{
+    for (const AlarmEvent &event : change.put) {
+        m_events.insert_or_assign(event.cookie(), event);
+        m_lastCookie = std::max(m_lastCookie, event.cookie());
+    }
+    for (const quint32 cookie : change.erased)
+        m_events.erase(cookie);
+}
+
+} // namespace Astel::Timed

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/timed/store.h"
+
+#include <map>
+
+namespace Astel::Timed {
+
+/** The stored events in memory, in cookie order. Every change is committed to the store before it is seen here. */
+class EventBook
+{
+public:
+    using Events = std::map<quint32, AlarmEvent>;
+
+    explicit EventBook(Store &store);
+
+    const Events &events() const { return m_events; }
+    const AlarmEvent *find(quint32 cookie) const;
+    /** The cookie for the next new event; fails when all have been given. */
+    Result<quint32> nextCookie() const;
+    Result<> commit(const Change &change);
+    QList<Wire::JournalEntry> journal(qint64 since) const { return m_store.journal(since); }
+
+    /**
+     * As commit(), but goes on in memory where the store fails, and logs it: an alarm that is due rings, and one that
+     * was answered falls silent, with a full disk as well.
+     */
+    void commitOrCarryOn(const Change &change);
+
+private:
+    void apply(const Change &change);
+
+    Store &m_store;
+    Events m_events;
+    quint32 m_lastCookie = 0;
+};
+
+} // namespace Astel::Timed

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/eventcodec.h"
+
+#include "platform/timedclient/wire.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace Astel::Timed {
+
+namespace {
+
+constexpr int RecurrenceFields = 6;
+
+QJsonObject encodeAttributes(const Wire::Attributes &attributes)
+{
+    QJsonObject result;
+    for (auto it = attributes.begin(); it != attributes.end(); ++it)
+        result.insert(it.key(), it.value());
+    return result;
+}
+
+Wire::Attributes decodeAttributes(const QJsonObject &object)
+{
+    Wire::Attributes result;
+    for (auto it = object.begin(); it != object.end(); ++it)
+        result.insert(it.key(), it.value().toString());
+    return result;
+}
+
+QJsonArray encodeRecurrence(const Wire::Recurrence &recurrence)
+{
+    return {qint64(recurrence.hours),       qint64(recurrence.minutes), qint64(recurrence.daysOfWeek),
+            qint64(recurrence.daysOfMonth), qint64(recurrence.months),  recurrence.fillingGaps};
+}
+
+Wire::Recurrence decodeRecurrence(const QJsonArray &array)
+{
+    return {quint32(array[0].toInteger()), quint64(array[1].toInteger()), quint32(array[2].toInteger()),
+            quint32(array[3].toInteger()), quint32(array[4].toInteger()), array[5].toBool()};
+}
+
+} // namespace
+
+QString encodeEvent(const Wire::Event &event)
+{
+    QJsonArray recurrences;
+    for (const Wire::Recurrence &recurrence : event.recurrences)
+        recurrences.append(encodeRecurrence(recurrence));
+    QJsonArray buttons;
+    for (const Wire::Button &button : event.buttons)
+        buttons.append(QJsonArray{button.snooze, encodeAttributes(button.attributes)});
+    const QJsonObject object{
+        {"ticker", event.ticker},
+        {"flags", qint64(event.flags)},
+        {"timeoutSnooze", event.timeoutSnooze},
+        {"maximalTimeoutSnoozeCounter", qint64(event.maximalTimeoutSnoozeCounter)},
+        {"attributes", encodeAttributes(event.attributes)},
+        {"recurrences", recurrences},
+        {"buttons", buttons},
+    };
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+std::optional<Wire::Event> decodeEvent(const QString &text)
+{
+    const QJsonObject object = QJsonDocument::fromJson(text.toUtf8()).object();
+    if (!object["ticker"].isDouble() || !object["attributes"].isObject())
+        return std::nullopt;
+    Wire::Event event;
+    event.ticker = object["ticker"].toInteger();
+    event.flags = quint32(object["flags"].toInteger());
+    event.timeoutSnooze = qint32(object["timeoutSnooze"].toInteger());
+    event.maximalTimeoutSnoozeCounter = quint32(object["maximalTimeoutSnoozeCounter"].toInteger());
+    event.attributes = decodeAttributes(object["attributes"].toObject());
+    for (const QJsonValue &value : object["recurrences"].toArray()) {
+        if (value.toArray().size() != RecurrenceFields)
+            return std::nullopt;
+        event.recurrences.append(decodeRecurrence(value.toArray()));
+    }
+    for (const QJsonValue &value : object["buttons"].toArray())
+        event.buttons.append({qint32(value[0].toInteger()), decodeAttributes(value[1].toObject())});
+    return event;
+}
+
+} // namespace Astel::Timed

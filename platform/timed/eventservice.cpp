@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/eventservice.h"
+
+#include "platform/timed/eventbook.h"
+#include "platform/timed/lifecycle.h"
+#include "platform/timed/validator.h"
+
+namespace Astel::Timed {
+
+namespace {
+
+constexpr auto StateAttribute = "STATE";
+
+bool holdsAll(const Wire::Attributes &attributes, const QVariantMap &wanted)
+{
+    for (auto it = wanted.begin(); it != wanted.end(); ++it) {
+        const auto attribute = attributes.find(it.key());
+        if (attribute == attributes.end() || !it->canConvert<QString>() || *attribute != it->toString())
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+EventService::EventService(EventBook &book, LifeCycle &lifeCycle)
+    : m_book(book)
+    , m_lifeCycle(lifeCycle)
+{ }
+
+Result<quint32> EventService::add(const Wire::Event &event)
+{
+    if (m_book.events().size() >= MaximalEvents)
+        return Error{Wire::LimitError, QStringLiteral("%1 events are stored already").arg(MaximalEvents)};
+    return store(event, {});
+}
+
+Result<quint32> EventService::replace(const Wire::Event &event, quint32 cookie)
+{
+    if (!m_book.find(cookie))
+        return Error{Wire::UnknownError, QStringLiteral("there is no alarm %1 to replace").arg(cookie)};
+    return store(event, {cookie});
+}
+
+Result<quint32> EventService::store(const Wire::Event &event, const QList<quint32> &replaced)
+{
+    if (const auto valid = validate(event); !valid)
+        return valid.error();
+    const auto cookie = m_book.nextCookie();
+    if (!cookie)
+        return cookie;
+    const auto committed = m_lifeCycle.commit({{m_lifeCycle.fresh(*cookie, event)}, replaced, {}});
+    if (!committed)
+        return committed.error();
+    return *cookie;
+}
+
+Result<bool> EventService::cancel(quint32 cookie)
+{
+    if (!m_book.find(cookie))
+        return false;
+    const auto committed = m_lifeCycle.commit({{}, {cookie}, {}});
+    if (!committed)
+        return committed.error();
+    return true;
+}
+
+QList<quint32> EventService::query(const QVariantMap &attributes) const
+{
+    QList<quint32> result;
+    for (const auto &[cookie, event] : m_book.events()) {
+        if (holdsAll(event.wire().attributes, attributes))
+            result.append(cookie);
+    }
+    return result;
+}
+
+QVariantMap EventService::queryAttributes(quint32 cookie) const
+{
+    QVariantMap result;
+    const AlarmEvent *event = m_book.find(cookie);
+    if (!event)
+        return result;
+    const Wire::Attributes &attributes = event->wire().attributes;
+    for (auto it = attributes.begin(); it != attributes.end(); ++it)
+        result.insert(it.key(), it.value());
+    result.insert(StateAttribute, stateName(event->state()));
+    return result;
+}
+
+} // namespace Astel::Timed

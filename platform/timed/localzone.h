@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/timed/zonesource.h"
+
+#include <QFileSystemWatcher>
+
+namespace Astel::Timed {
+
+/**
+ * The zone of this process: TZ where it is set, otherwise the one that a localtime file links to, followed when the
+ * link changes. A zone that cannot be read is logged; UTC, or the zone before it, stays in force.
+ */
+class LocalZone final : public ZoneSource
+{
+    Q_OBJECT
+
+public:
+    explicit LocalZone(const QString &localtime = QStringLiteral("/etc/localtime"));
+
+    const Rules::Zone &zone() const override { return m_zone; }
+
+private:
+    std::optional<Rules::Zone> read() const;
+    void readAgain();
+
+    QString m_localtime;
+    QFileSystemWatcher m_watcher;
+    Rules::Zone m_zone;
+};
+
+} // namespace Astel::Timed

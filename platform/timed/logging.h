@@ -1,0 +1,11 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QLoggingCategory>
+
+namespace Astel::Timed {
+
+Q_DECLARE_LOGGING_CATEGORY(lcTimed)
+
+} // namespace Astel::Timed

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/daemon.h"
+#include "platform/timed/logging.h"
+#include "platform/timed/signals.h"
+
+#include <QCoreApplication>
+#include <QStandardPaths>
+
+using namespace Astel::Timed;
+
+namespace {
+
+constexpr auto RingTimeVariable = "TIMED_RING_TIME";
+constexpr qint64 MillisecondsOfSecond = 1000;
+
+Settings readSettings()
+{
+    Settings settings;
+    settings.folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/timed";
+    bool given = false;
+    const int seconds = qEnvironmentVariableIntValue(RingTimeVariable, &given);
+    if (given && seconds > 0)
+        settings.ringTime = seconds * MillisecondsOfSecond;
+    return settings;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    quitOnSignals();
+    const auto daemon = Daemon::create(readSettings());
+    if (!daemon) {
+        qCCritical(lcTimed, "%ls", qUtf16Printable(daemon.error().text));
+        return EXIT_FAILURE;
+    }
+    return QCoreApplication::exec();
+}

@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/ringing.h"
+
+#include "platform/timed/clock.h"
+#include "platform/timed/eventbook.h"
+#include "platform/timed/logging.h"
+#include "platform/timed/ringer.h"
+#include "platform/timed/schedule.h"
+
+namespace Astel::Timed {
+
+namespace {
+
+constexpr int QuickCalls = 3;
+constexpr qint64 TimeToAcknowledge = 5000;
+constexpr qint64 LongInterval = 15000;
+
+} // namespace
+
+Ringing::Ringing(const EventBook &book, Schedule &schedule, const Clock &clock, Ringer &ringer)
+    : m_book(book)
+    , m_schedule(schedule)
+    , m_clock(clock)
+    , m_ringer(ringer)
+{
+    connect(&ringer, &Ringer::vanished, this, &Ringing::ringerVanished);
+}
+
+void Ringing::follow(const AlarmEvent &event)
+{
+    if (event.state() != State::Triggered)
+        end(event.cookie());
+    else if (const auto [ring, begins] = m_rings.try_emplace(event.cookie()); begins)
+        call(event.cookie(), ring->second);
+}
+
+void Ringing::end(quint32 cookie)
+{
+    if (m_rings.erase(cookie) == 0)
+        return;
+    m_schedule.clear(cookie, Purpose::Retry);
+    m_ringer.stop(cookie);
+}
+
+bool Ringing::acknowledge(quint32 cookie)
+{
+    const auto ring = m_rings.find(cookie);
+    if (ring == m_rings.end() || ring->second.acknowledged)
+        return false;
+    ring->second.acknowledged = true;
+    m_schedule.clear(cookie, Purpose::Retry);
+    return true;
+}
+
+void Ringing::callAgain(quint32 cookie)
+{
+    const auto ring = m_rings.find(cookie);
+    if (ring != m_rings.end())
+        call(cookie, ring->second);
+}
+
+void Ringing::call(quint32 cookie, Ring &ring)
+{
+    const AlarmEvent *event = m_book.find(cookie);
+    if (!event)
+        return;
+    ++ring.calls;
+    ring.acknowledged = false;
+    if (ring.calls == QuickCalls + 1) {
+        qCCritical(lcTimed, "the ringer does not ring alarm %u after %d calls, calling on", cookie, QuickCalls);
+        emit ringerSilent(cookie, QuickCalls);
+    }
+    const qint64 patience = ring.calls <= QuickCalls ? TimeToAcknowledge : LongInterval;
+    m_schedule.set(cookie, Purpose::Retry, m_clock.now() + patience);
+    m_ringer.ring(cookie, event->wire(), event->moment().value_or(m_clock.now()));
+}
+
+void Ringing::ringerVanished()
+{
+    for (auto &[cookie, ring] : m_rings) {
+        qCWarning(lcTimed, "the ringer has gone while alarm %u rings", cookie);
+        // One that keeps dying is called again when its time to acknowledge is over, not in a tight circle.
+        if (ring.calls < QuickCalls)
+            call(cookie, ring);
+        else
+            m_schedule.set(cookie, Purpose::Retry, m_clock.now() + TimeToAcknowledge);
+    }
+}
+
+} // namespace Astel::Timed

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <map>
+#include <QObject>
+
+namespace Astel::Timed {
+
+class AlarmEvent;
+class Clock;
+class EventBook;
+class Ringer;
+class Schedule;
+
+/**
+ * Sees to it that what is to ring does ring: calls the ringer, and calls it again when it does not say within five
+ * seconds that it rings, or goes away.
+ */
+class Ringing : public QObject
+{
+    Q_OBJECT
+
+public:
+    Ringing(const EventBook &book, Schedule &schedule, const Clock &clock, Ringer &ringer);
+
+    /** Starts or ends the ringing of an event according to its state. */
+    void follow(const AlarmEvent &event);
+    void end(quint32 cookie);
+    /** The ringer says that it rings; true for the first time since it was called. */
+    bool acknowledge(quint32 cookie);
+    /** The time for acknowledging is over. */
+    void callAgain(quint32 cookie);
+
+signals:
+    /** The ringer was called several times and is silent; it is called on at longer intervals. */
+    void ringerSilent(quint32 cookie, int calls);
+
+private:
+    struct Ring
+    {
+        bool acknowledged = false;
+        int calls = 0;
+    };
+
+    void call(quint32 cookie, Ring &ring);
+    void ringerVanished();
+
+    const EventBook &m_book;
+    Schedule &m_schedule;
+    const Clock &m_clock;
+    Ringer &m_ringer;
+    std::map<quint32, Ring> m_rings;
+};
+
+} // namespace Astel::Timed

@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/sqlitestore.h"
+
+#include "platform/timed/database.h"
+#include "platform/timed/eventcodec.h"
+#include "platform/timed/logging.h"
+
+#include <QSqlDatabase>
+#include <QSqlError>
+
+namespace Astel::Timed {
+
+namespace {
+
+constexpr qint64 Day = 86400 * 1000;
+constexpr qint64 Year = 366 * Day;
+constexpr int CommitsBetweenSnapshots = 10;
+// After a restored snapshot, cookies given since it was taken are not known any more; they are stepped over.
+constexpr quint32 CookiesToStepOver = 100000;
+
+QVariant orNull(std::optional<qint64> moment)
+{
+    return moment ? QVariant(*moment) : QVariant(QMetaType::fromType<qint64>());
+}
+
+std::optional<qint64> orNothing(const QVariant &value)
+{
+    return value.isNull() ? std::nullopt : std::optional(value.toLongLong());
+}
+
+std::optional<AlarmEvent> readEvent(const QSqlQuery &row)
+{
+    const auto state = stateFromName(row.value(1).toString());
+    const auto wire = decodeEvent(row.value(6).toString());
+    if (!state || !wire)
+        return std::nullopt;
+    return AlarmEvent(
+        row.value(0).toUInt(), *wire,
+        {*state, orNothing(row.value(2)), row.value(3).toLongLong(), orNothing(row.value(4)), row.value(5).toUInt()});
+}
+
+} // namespace
+
+SqliteStore::SqliteStore(std::shared_ptr<Database> database)
+    : m_database(std::move(database))
+    , m_put(m_database->connection())
+    , m_erase(m_database->connection())
+    , m_count(m_database->connection())
+    , m_note(m_database->connection())
+{
+    m_put.prepare("INSERT OR REPLACE INTO events (cookie, state, moment, since, last_due, timeout_snoozes, event)"
+                  " VALUES (?, ?, ?, ?, ?, ?, ?)");
+    m_erase.prepare("DELETE FROM events WHERE cookie = ?");
+    m_count.prepare("UPDATE counter SET last_cookie = max(last_cookie, ?)");
+    m_note.prepare("INSERT INTO journal (moment, cookie, what, detail) VALUES (?, ?, ?, ?)");
+}
+
+SqliteStore::~SqliteStore() = default;
+
+Result<std::unique_ptr<SqliteStore>> SqliteStore::create(const QString &folder, qint64 now)
+{
+    auto database = Database::open(folder);
+    if (!database)
+        return database.error();
+    std::unique_ptr<SqliteStore> store(new SqliteStore(*database));
+    if (const auto begun = store->begin(now); !begun)
+        return begun.error();
+    return store;
+}
+
+Result<> SqliteStore::begin(qint64 now)
+{
+    QSqlQuery query(m_database->connection());
+    if (m_database->wasRestored()) {
+        query.prepare("UPDATE counter SET last_cookie = last_cookie + ?");
+        if (const auto done = run(query, {CookiesToStepOver}); !done)
+            return done;
+    }
+    query.prepare("DELETE FROM journal WHERE moment < ?");
+    if (const auto done = run(query, {now - Year}); !done)
+        qCWarning(lcTimed, "ignoring: %ls", qUtf16Printable(done.error().text));
+    takeSnapshot();
+    return Done{};
+}
+
+Result<> SqliteStore::commit(const Change &change)
+{
+    QSqlDatabase database = m_database->connection();
+    if (!database.transaction())
+        return Database::failure(QStringLiteral("cannot begin a change"), database.lastError().text());
+    if (const auto written = write(change); !written) {
+        database.rollback();
+        return written;
+    }
+    if (!database.commit()) {
+        const QString why = database.lastError().text();
+        database.rollback();
+        return Database::failure(QStringLiteral("cannot write the change"), why);
+    }
+    ++m_commitsSinceSnapshot;
+    return Done{};
+}
+
+Result<> SqliteStore::write(const Change &change)
+{
+    Result<> result = Done{};
+    for (qsizetype i = 0; result && i < change.put.size(); ++i)
+        result = put(change.put[i]);
+    for (qsizetype i = 0; result && i < change.erased.size(); ++i)
+        result = run(m_erase, {change.erased[i]});
+    for (qsizetype i = 0; result && i < change.journal.size(); ++i) {
+        const Wire::JournalEntry &entry = change.journal[i];
+        result = run(m_note, {entry.moment, entry.cookie, entry.what, entry.detail});
+    }
+    return result;
+}
+
+Result<> SqliteStore::put(const AlarmEvent &event)
+{
+    const Standing &standing = event.standing();
+    const auto counted = run(m_count, {event.cookie()});
+    if (!counted)
+        return counted;
+    return run(m_put,
+               {event.cookie(), stateName(standing.state), orNull(standing.moment), standing.since,
+                orNull(standing.lastDue), standing.timeoutSnoozes, encodeEvent(event.wire())});
+}
+
+Result<> SqliteStore::run(QSqlQuery &query, const QVariantList &values)
+{
+    for (qsizetype i = 0; i < values.size(); ++i)
+        query.bindValue(int(i), values[i]);
+    const bool done = query.exec();
+    const QString why = query.lastError().text();
+    query.finish();
+    if (!done)
+        return Database::failure(QStringLiteral("cannot write the change"), why);
+    return Done{};
+}
+
+QList<AlarmEvent> SqliteStore::events() const
+{
+    QList<AlarmEvent> result;
+    QSqlQuery query(m_database->connection());
+    query.setForwardOnly(true);
+    query.exec("SELECT cookie, state, moment, since, last_due, timeout_snoozes, event FROM events ORDER BY cookie");
+    while (query.next()) {
+        if (const auto event = readEvent(query))
+            result.append(*event);
+        else
+            qCWarning(lcTimed, "ignoring event %u, which cannot be read", query.value(0).toUInt());
+    }
+    return result;
+}
+
+quint32 SqliteStore::lastCookie() const
+{
+    QSqlQuery query("SELECT max(last_cookie, (SELECT ifnull(max(cookie), 0) FROM events)) FROM counter",
+                    m_database->connection());
+    return query.next() ? query.value(0).toUInt() : 0;
+}
+
+QList<Wire::JournalEntry> SqliteStore::journal(qint64 since) const
+{
+    QList<Wire::JournalEntry> result;
+    QSqlQuery query(m_database->connection());
+    query.setForwardOnly(true);
+    query.prepare("SELECT moment, cookie, what, detail FROM journal WHERE moment >= ? ORDER BY moment, rowid");
+    query.addBindValue(since);
+    query.exec();
+    while (query.next())
+        result.append({query.value(0).toLongLong(), query.value(1).toUInt(), query.value(2).toString(),
+                       query.value(3).toString()});
+    return result;
+}
+
+QVariantMap SqliteStore::facts() const
+{
+    QSqlQuery query("PRAGMA quick_check(1)", m_database->connection());
+    const QString integrity = query.next() ? query.value(0).toString() : query.lastError().text();
+    return {{"store_path", m_database->path()},
+            {"store_integrity", integrity},
+            {"store_restored", m_database->wasRestored()}};
+}
+
+bool SqliteStore::wantsSnapshot() const
+{
+    return m_commitsSinceSnapshot >= CommitsBetweenSnapshots
+        || (m_commitsSinceSnapshot > 0 && m_sinceSnapshot.hasExpired(Day));
+}
+
+void SqliteStore::takeSnapshot()
+{
+    m_commitsSinceSnapshot = 0;
+    m_sinceSnapshot.start();
+    if (const auto taken = m_database->takeSnapshot(); !taken)
+        qCWarning(lcTimed, "ignoring: %ls", qUtf16Printable(taken.error().text));
+}
+
+} // namespace Astel::Timed

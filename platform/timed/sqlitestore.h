@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/timed/store.h"
+
+#include <memory>
+#include <QElapsedTimer>
+#include <QSqlQuery>
+
+namespace Astel::Timed {
+
+class Database;
+
+/**
+ * The store in a SQLite database. A commit returns once it is synchronised to the disk. A record that cannot be read
+ * is logged and left alone. A
+ * snapshot is due after every tenth commit, and after a day with any.
+ */
+class SqliteStore final : public Store
+{
+public:
+    /** "now" in milliseconds: older journal entries than a year are dropped. */
+    static Result<std::unique_ptr<SqliteStore>> create(const QString &folder, qint64 now);
+    ~SqliteStore() override;
+
+    Result<> commit(const Change &change) override;
+    QList<AlarmEvent> events() const override;
+    quint32 lastCookie() const override;
+    QList<Wire::JournalEntry> journal(qint64 since) const override;
+    QVariantMap facts() const override;
+
+    /** Whether commits since the last snapshot ask for a new one; taking it is left to an idle moment. */
+    bool wantsSnapshot() const;
+    void takeSnapshot();
+
+private:
+    explicit SqliteStore(std::shared_ptr<Database> database);
+    Result<> begin(qint64 now);
+    Result<> write(const Change &change);
+    Result<> put(const AlarmEvent &event);
+    Result<> run(QSqlQuery &query, const QVariantList &values);
+
+    std::shared_ptr<Database> m_database;
+    QSqlQuery m_put;
+    QSqlQuery m_erase;
+    QSqlQuery m_count;
+    QSqlQuery m_note;
+    int m_commitsSinceSnapshot = 0;
+    QElapsedTimer m_sinceSnapshot;
+};
+
+} // namespace Astel::Timed

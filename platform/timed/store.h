@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/timed/alarmevent.h"
+#include "platform/timed/result.h"
+
+#include <QVariantMap>
+
+namespace Astel::Timed {
+
+/** What is written together: all of it or nothing. */
+struct Change
+{
+    QList<AlarmEvent> put; ///< new events and new versions of stored ones
+    QList<quint32> erased;
+    QList<Wire::JournalEntry> journal;
+
+    bool isEmpty() const { return put.isEmpty() && erased.isEmpty() && journal.isEmpty(); }
+};
+
+/** Where events, the last cookie and the journal outlive the daemon. */
+class Store
+{
+public:
+    virtual ~Store() = default;
+
+    /** Returns when the change is on the disk; a failure leaves everything as it was. */
+    virtual Result<> commit(const Change &change) = 0;
+    virtual QList<AlarmEvent> events() const = 0;
+    /** The highest cookie ever given. */
+    virtual quint32 lastCookie() const = 0;
+    /** Entries from a moment on, in milliseconds, oldest first. */
+    virtual QList<Wire::JournalEntry> journal(qint64 since) const = 0;
+    /** Facts for the health report. */
+    virtual QVariantMap facts() const = 0;
+};
+
+} // namespace Astel::Timed

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/timed/waketimer.h"
+
+class QSocketNotifier;
+
+namespace Astel::Timed {
+
+/**
+ * A timerfd on the real-time clock that wakes from sleep, or on the plain one where the process may not have that.
+ * Arming that fails is logged and seen in armedFor().
+ */
+class TimerFdWakeTimer final : public WakeTimer
+{
+    Q_OBJECT
+
+public:
+    TimerFdWakeTimer();
+    ~TimerFdWakeTimer() override;
+
+    void arm(std::optional<qint64> moment) override;
+    std::optional<qint64> armedFor() const override;
+    QString kind() const override;
+    bool wakesFromSleep() const override { return m_reason.isEmpty(); }
+    QString reason() const override { return m_reason; }
+
+private:
+    void readEvent();
+
+    int m_descriptor = -1;
+    QString m_reason;
+    QSocketNotifier *m_notifier = nullptr;
+    std::optional<qint64> m_wanted;
+};
+
+} // namespace Astel::Timed
