@@ -1,0 +1,80 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Clock authors -->
+<!-- SPDX-License-Identifier: LGPL-2.1-or-later -->
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="qtn_cloc_title">
+        <source>Clock</source>
+        <translation>Clock</translation>
+    </message>
+    <message id="qtn_cloc_alarms_header">
+        <source>Alarms</source>
+        <translation>Alarms</translation>
+    </message>
+    <message id="qtn_cloc_new_alarm">
+        <source>New alarm</source>
+        <extracomment>Spoken name of the button with the plus sign.</extracomment>
+        <translation>New alarm</translation>
+    </message>
+    <message id="qtn_cloc_no_alarms">
+        <source>No alarms yet</source>
+        <translation>No alarms yet</translation>
+    </message>
+    <message id="qtn_cloc_no_alarms_hint">
+        <source>Tap + to add your first one.</source>
+        <translation>Tap + to add your first one.</translation>
+    </message>
+    <message id="qtn_cloc_alarm_title">
+        <source>Alarm</source>
+        <extracomment>Title of an alarm that was saved without one.</extracomment>
+        <translation>Alarm</translation>
+    </message>
+    <message id="qtn_cloc_alarm_title_tooltip">
+        <source>Alarm name</source>
+        <extracomment>Prompt in the empty title field.</extracomment>
+        <translation>Alarm name</translation>
+    </message>
+    <message id="qtn_cloc_time_left_alarm">
+        <source>Alarm in %1</source>
+        <extracomment>%1 is a span of time, "07:05" or "about 3 days".</extracomment>
+        <translation>Alarm in %1</translation>
+    </message>
+    <message id="qtn_cloc_about_days" numerus="yes">
+        <source>about %n day(s)</source>
+        <translation>
+            <numerusform>about %n day</numerusform>
+            <numerusform>about %n days</numerusform>
+        </translation>
+    </message>
+    <message id="qtn_cloc_repeatalarm_ruleeveryday">
+        <source>Every day</source>
+        <translation>Every day</translation>
+    </message>
+    <message id="qtn_cloc_alarm_save_error">
+        <source>The alarm could not be saved</source>
+        <translation>The alarm could not be saved</translation>
+    </message>
+    <message id="qtn_cloc_alarm_delete_error">
+        <source>The alarm could not be deleted</source>
+        <translation>The alarm could not be deleted</translation>
+    </message>
+    <message id="qtn_comm_time_am">
+        <source>AM</source>
+        <translation>AM</translation>
+    </message>
+    <message id="qtn_comm_save">
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message id="qtn_comm_cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="qtn_comm_delete">
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+</context>
+</TS>
