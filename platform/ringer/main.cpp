@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/locale/locale.h"
 #include "platform/ringer/gsttoneplayer.h"
 #include "platform/ringer/logging.h"
 #include "platform/ringer/pluginloader.h"
@@ -9,7 +10,6 @@
 
 #include <QApplication>
 #include <QTimer>
-#include <QTranslator>
 
 #include <chrono>
 
@@ -64,10 +64,11 @@ int main(int argc, char **argv)
     if (QGuiApplication::platformName() == QLatin1String("offscreen"))
         qCWarning(lcRinger, "No display: alarms are heard, not seen");
 
-    QTranslator texts;
-    if (texts.load(QLocale(), QStringLiteral("ringer"), QStringLiteral("_"), QStringLiteral(":/texts"))
-        || texts.load(QStringLiteral(":/texts/ringer_en.qm")))
-        QApplication::installTranslator(&texts);
+    auto &locale = Touch::Locale::getDefault();
+    if (!locale.installTrCatalog(QStringLiteral("ringer")))
+        qCWarning(lcRinger, "No texts found, ignoring");
+    locale.connectSettings();
+    QApplication::setLayoutDirection(locale.textDirection());
 
     Ringer::TimedDaemon daemon;
     Ringer::GstTonePlayer player;

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/ringer/ringplugin.h"
+#include "platform/toolkit/applicationpage.h"
+
+#include <QList>
+#include <QTimer>
+
+namespace Touch {
+class Button;
+class Label;
+} // namespace Touch
+
+/**
+ * What is seen of ringing alarms: the time now, the title of the one in front, Snooze and, well away from it, Stop; and
+ * which others wait. Belongs to its window.
+ */
+class RingPage : public Touch::ApplicationPage
+{
+    Q_OBJECT
+
+public:
+    explicit RingPage(QGraphicsItem *parent = nullptr);
+
+    void setAlarms(const QList<Ringer::Alarm> &alarms);
+    void createContent() override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
+
+signals:
+    void snoozePressed();
+    void stopPressed();
+
+protected:
+    void enterDisplay() override;
+    void exitDisplay() override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void arrangeContent();
+    void refresh();
+    void refreshTime();
+    void refreshWaiting();
+
+    QList<Ringer::Alarm> m_alarms;
+    QTimer m_minute;
+    Touch::Label *m_date = nullptr;
+    Touch::Label *m_time = nullptr;
+    Touch::Label *m_half = nullptr;
+    Touch::Label *m_alarmTitle = nullptr;
+    Touch::Label *m_waiting = nullptr;
+    Touch::Button *m_snooze = nullptr;
+    Touch::Button *m_stop = nullptr;
+};
