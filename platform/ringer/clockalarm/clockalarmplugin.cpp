@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <QLoggingCategory>
+#include <QScreen>
 
 using Ringer::Alarm;
 using Touch::Theme;
@@ -76,10 +77,11 @@ void ClockAlarmPlugin::openWindow()
     Theme::instance().followDesktop();
     m_window = new RingWindow;
     connect(m_window, &RingWindow::painted, this, &ClockAlarmPlugin::reportShown);
-    connect(m_window, &RingWindow::snoozePressed, this, [this](quint32 cookie, int seconds) {
-        m_answers->snooze(cookie, seconds);
-    });
+    connect(m_window, &RingWindow::snoozePressed, this,
+            [this](quint32 cookie, int seconds) { m_answers->snooze(cookie, seconds); });
     connect(m_window, &RingWindow::stopPressed, this, [this](quint32 cookie) { m_answers->dismiss(cookie); });
+    // Where no window manager runs, full screen is only a wish.
+    m_window->setGeometry(m_window->screen()->geometry());
     m_window->showFullScreen();
     m_window->raise();
     m_window->activateWindow();

@@ -7,8 +7,10 @@
 #include "platform/toolkit/label.h"
 #include "platform/toolkit/layout.h"
 #include "platform/toolkit/linearlayoutpolicy.h"
+#include "platform/toolkit/stylablewidget.h"
 #include "platform/toolkit/theme.h"
 
+#include <algorithm>
 #include <QPainter>
 
 using Ringer::Alarm;
@@ -29,11 +31,17 @@ Label *createLabel(const char *styleName)
     return label;
 }
 
-Button *createButton(const char *styleName)
+Touch::Widget *createColumn(std::initializer_list<Touch::Widget *> items, Qt::Alignment alignment)
 {
-    auto *button = new Button;
-    button->setStyleName(QLatin1String(styleName));
-    return button;
+    auto *widget = new Touch::StylableWidget;
+    widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    auto *column = new Touch::LinearLayoutPolicy(new Touch::Layout(widget), Qt::Vertical);
+    column->addStretch();
+    for (auto *item : items)
+        column->addItem(item, Qt::AlignHCenter);
+    if (alignment == Qt::AlignVCenter)
+        column->addStretch();
+    return widget;
 }
 
 QString titleOf(const Alarm &alarm)
@@ -77,8 +85,12 @@ RingPage::RingPage(QGraphicsItem *parent)
 
 void RingPage::setAlarms(const QList<Alarm> &alarms)
 {
+    const auto isNewFront = m_alarms.isEmpty() || m_alarms.constFirst().cookie != alarms.constFirst().cookie;
     m_alarms = alarms;
     refresh();
+    // The key that answered the last alarm must not stop this one as well.
+    if (isNewFront && isContentCreated())
+        m_snooze->setFocus();
 }
 
 void RingPage::createContent()
@@ -91,27 +103,54 @@ void RingPage::createContent()
     m_alarmTitle = createLabel("RingTitle");
     m_alarmTitle->setWordWrap(true);
     m_waiting = createLabel("RingWaiting");
-    m_waiting->setWordWrap(true);
-    m_snooze = createButton("RingSnooze");
-    m_stop = createButton("RingStop");
+    m_next = createLabel("RingNext");
+    m_snooze = new Button;
+    m_snooze->setObjectName(QStringLiteral("snooze"));
+    m_stop = new Button;
+    m_stop->setObjectName(QStringLiteral("stop"));
     connect(m_snooze, &Button::clicked, this, &RingPage::snoozePressed);
     connect(m_stop, &Button::clicked, this, &RingPage::stopPressed);
+    applyStyles();
     arrangeContent();
     refresh();
-    m_snooze->setFocus();
 }
 
+// The moment above the answers, or beside them on a wide screen.
 void RingPage::arrangeContent()
 {
     auto *layout = new Touch::Layout(centralWidget());
-    auto *column = new Touch::LinearLayoutPolicy(layout, Qt::Vertical);
-    column->setContentsMargins(24, 24, 24, 40);
-    column->addStretch(3);
-    for (auto *label : {m_date, m_time, m_half, m_alarmTitle})
-        column->addItem(label);
-    column->addStretch(4);
-    for (auto *item : std::initializer_list<Touch::Widget *> {m_waiting, m_snooze, m_stop})
-        column->addItem(item);
+    auto *moment = createColumn({m_date, m_time, m_half, m_alarmTitle}, Qt::AlignVCenter);
+    auto *answers = createColumn({m_waiting, m_next, m_snooze, m_stop}, Qt::AlignBottom);
+    auto *portrait = new Touch::LinearLayoutPolicy(layout, Qt::Vertical);
+    layout->setPortraitPolicy(portrait);
+    auto *landscape = new Touch::LinearLayoutPolicy(layout, Qt::Horizontal);
+    layout->setLandscapePolicy(landscape);
+    for (auto *policy : {portrait, landscape}) {
+        policy->setContentsMargins(24, 24, 24, 36);
+        policy->setSpacing(24);
+        policy->addItem(moment);
+        policy->addItem(answers);
+    }
+}
+
+// A small screen gets smaller letters, never fewer of them.
+void RingPage::resizeEvent(QGraphicsSceneResizeEvent *event)
+{
+    ApplicationPage::resizeEvent(event);
+    applyStyles();
+}
+
+void RingPage::applyStyles()
+{
+    if (!isContentCreated())
+        return;
+    const auto shortSide = std::min(size().width(), size().height());
+    const auto longSide = std::max(size().width(), size().height());
+    const auto suffix = QLatin1String(shortSide < 400 || longSide < 720 ? "Compact" : "");
+    m_time->setStyleName(QLatin1String("RingTime") + suffix);
+    m_alarmTitle->setStyleName(QLatin1String("RingTitle") + suffix);
+    m_snooze->setStyleName(QLatin1String("RingSnooze") + suffix);
+    m_stop->setStyleName(QLatin1String("RingStop") + suffix);
 }
 
 // A glow like the first light, strongest behind the time.
@@ -119,7 +158,8 @@ void RingPage::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, 
 {
     ApplicationPage::paint(painter, option, widget);
     auto glow = Touch::Theme::instance().color(QStringLiteral("ringGlow"));
-    QRadialGradient light(QPointF(size().width() / 2, size().height() * 0.34), size().height() * 0.5);
+    const auto centre = mapFromItem(m_time, m_time->rect().center());
+    QRadialGradient light(centre, 0.9 * std::min(size().width(), size().height()));
     light.setColorAt(0, glow);
     glow.setAlpha(0);
     light.setColorAt(1, glow);
@@ -129,6 +169,7 @@ void RingPage::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, 
 void RingPage::enterDisplay()
 {
     ApplicationPage::enterDisplay();
+    m_snooze->setFocus();
     refreshTime();
 }
 
@@ -175,14 +216,13 @@ void RingPage::refreshTime()
 void RingPage::refreshWaiting()
 {
     const auto count = int(m_alarms.size()) - 1;
-    if (count == 0) {
-        m_waiting->setText({});
+    m_waiting->setVisible(count > 0);
+    m_next->setVisible(count > 0);
+    if (count == 0)
         return;
-    }
     const auto &next = m_alarms.at(1);
-    const auto time
-        = Locale::getDefault().formatDateTime(next.due.toLocalTime(), Locale::DateNone, Locale::TimeShort);
+    const auto time = Locale::getDefault().formatDateTime(next.due.toLocalTime(), Locale::DateNone, Locale::TimeShort);
     //% "%n more alarm(s)"
-    m_waiting->setText(qtTrId("qtn_ring_more", count) + QLatin1Char('\n') + time + QStringLiteral(" · ")
-                       + titleOf(next));
+    m_waiting->setText(qtTrId("qtn_ring_more", count));
+    m_next->setText(time + QStringLiteral(" · ") + titleOf(next));
 }

@@ -36,8 +36,10 @@ protected:
     void enterDisplay() override;
     void exitDisplay() override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QGraphicsSceneResizeEvent *event) override;
 
 private:
+    void applyStyles();
     void arrangeContent();
     void refresh();
     void refreshTime();
@@ -49,7 +51,8 @@ private:
     Touch::Label *m_time = nullptr;
     Touch::Label *m_half = nullptr;
     Touch::Label *m_alarmTitle = nullptr;
-    Touch::Label *m_waiting = nullptr;
+    Touch::Label *m_waiting = nullptr; ///< how many wait
+    Touch::Label *m_next = nullptr;    ///< which comes next
     Touch::Button *m_snooze = nullptr;
     Touch::Button *m_stop = nullptr;
 };
