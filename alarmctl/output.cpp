@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "alarmctl/output.h"
+
+#include "alarms/qmalarmevent.h"
+#include "alarms/utility.h"
+
+#include <QJsonDocument>
+
+#include <cstdio>
+
+namespace {
+
+constexpr quint64 NanosecondsOfMillisecond = 1000000;
+
+void printText(const QByteArray &text)
+{
+    std::fputs(text.constData(), stdout);
+    std::fputc('\n', stdout);
+    std::fflush(stdout);
+}
+
+QString daysText(const QList<int> &days)
+{
+    static const QStringList names{"sun", "mon", "tue", "wed", "thu", "fri", "sat"};
+    QStringList texts;
+    for (const int day : days)
+        texts.append(names.value(day, "?"));
+    return texts.isEmpty() ? QStringLiteral("once") : texts.join(',');
+}
+
+QJsonObject jsonOf(const Clock::QmAlarmEvent &alarm)
+{
+    QJsonArray days;
+    for (const int day : alarm.repeatDays())
+        days.append(day);
+    quint64 trigger = 0;
+    const bool hasTrigger = Clock::Utility::instance()->triggerFromContext(alarm.cookie(), trigger);
+    return {{"cookie", qint64(alarm.cookie())},
+            {"time", alarm.alarmTime().toString("HH:mm")},
+            {"title", alarm.title()},
+            {"enabled", alarm.isEnabled()},
+            {"days", days},
+            {"snooze", int(alarm.snooze())},
+            {"tone", alarm.tone()},
+            {"nextTrigger", hasTrigger ? QJsonValue(qint64(trigger)) : QJsonValue()}};
+}
+
+QString lineOf(const Clock::QmAlarmEvent &alarm)
+{
+    return QStringLiteral("%1  %2  %3  %4  snooze %5  %6")
+        .arg(alarm.cookie(), 5)
+        .arg(alarm.alarmTime().toString("HH:mm"), alarm.isEnabled() ? "on " : "off", daysText(alarm.repeatDays()))
+        .arg(alarm.snooze(), 2)
+        .arg(alarm.title())
+        .trimmed();
+}
+
+} // namespace
+
+void printLine(const QString &line)
+{
+    QString clean = line;
+    for (QChar &character : clean) {
+        if (character.category() == QChar::Other_Control)
+            character = ' ';
+    }
+    printText(clean.toUtf8());
+}
+
+void printJson(const QJsonArray &array)
+{
+    printText(QJsonDocument(array).toJson(QJsonDocument::Compact));
+}
+
+void printJson(const QJsonObject &object)
+{
+    printText(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+void printCookies(const QList<quint32> &cookies, bool json)
+{
+    QJsonArray array;
+    for (const quint32 cookie : cookies) {
+        array.append(qint64(cookie));
+        if (!json)
+            printLine(QString::number(cookie));
+    }
+    if (json)
+        printJson(array);
+}
+
+void printAlarms(const QList<Clock::QmAlarmEvent> &alarms, bool json)
+{
+    QJsonArray array;
+    for (const Clock::QmAlarmEvent &alarm : alarms) {
+        if (json)
+            array.append(jsonOf(alarm));
+        else
+            printLine(lineOf(alarm));
+    }
+    if (json)
+        printJson(array);
+}
+
+QString momentText(quint64 nanoseconds)
+{
+    return QDateTime::fromMSecsSinceEpoch(qint64(nanoseconds / NanosecondsOfMillisecond))
+        .toString("yyyy-MM-dd HH:mm:ss");
+}

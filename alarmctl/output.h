@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QList>
+
+namespace Clock {
+class QmAlarmEvent;
+}
+
+/** Writes a line to standard output and flushes it; control characters become blanks. */
+void printLine(const QString &line);
+void printJson(const QJsonArray &array);
+void printJson(const QJsonObject &object);
+
+/** Cookies, one on a line, or as an array of numbers. */
+void printCookies(const QList<quint32> &cookies, bool json);
+void printAlarms(const QList<Clock::QmAlarmEvent> &alarms, bool json);
+
+/** "2026-11-20 07:30:00", local. */
+QString momentText(quint64 nanoseconds);
