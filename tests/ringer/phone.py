@@ -1,0 +1,164 @@
+# SPDX-FileCopyrightText: 2026 The Clock authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+"""A phone for tests: a display, a session bus that starts the staged services, and a loudspeaker that is listened to."""
+import array
+import collections
+import os
+import pathlib
+import subprocess
+import threading
+import time
+
+import dbus.bus
+
+SILENCE = 0.002  # of full scale
+
+
+def wait_for(condition, seconds, what):
+    """Polls until the condition gives something true, and returns that."""
+    end = time.monotonic() + seconds
+    pause = threading.Event()
+    while True:
+        found = condition()
+        if found:
+            return found
+        if time.monotonic() > end:
+            raise AssertionError(f"not within {seconds} s: {what}")
+        pause.wait(0.05)
+
+
+class Recorder:
+    """What comes out of the sound server, in pieces of 20 ms with the moment at which they came."""
+
+    RATE = 8000
+
+    def __init__(self, environment):
+        self._lock = threading.Lock()
+        self._pieces = collections.deque(maxlen=5000)  # (epoch seconds, loudest sample 0..1)
+        self._process = subprocess.Popen(
+            ["parec", "-d", "null.monitor", "--format=s16le", "--channels=1", f"--rate={self.RATE}",
+             "--latency-msec=10"], env=environment, stdout=subprocess.PIPE)
+        self._thread = threading.Thread(target=self._listen, daemon=True)
+        self._thread.start()
+
+    def _listen(self):
+        size = 2 * self.RATE // 50
+        while piece := self._process.stdout.read(size):
+            samples = array.array("h", piece[: len(piece) // 2 * 2])
+            loudest = max(abs(sample) for sample in samples) / 32768
+            with self._lock:
+                self._pieces.append((time.time(), loudest))
+
+    def loudest(self, seconds):
+        """Of the last so many seconds; None before so much was heard."""
+        with self._lock:
+            pieces = list(self._pieces)[-round(seconds * 50):]
+        return max(loudness for _, loudness in pieces) if len(pieces) >= round(seconds * 50) else None
+
+    def is_silent(self, seconds=0.5):
+        loudest = self.loudest(seconds)
+        return loudest is not None and loudest < SILENCE
+
+    def heard_since(self, moment):
+        """When the first sound after a moment came, or None."""
+        with self._lock:
+            return next((when for when, loudness in self._pieces if when >= moment and loudness >= SILENCE), None)
+
+    def close(self):
+        self._process.kill()
+        self._process.wait()
+        self._thread.join()
+        self._process.stdout.close()
+
+
+class Phone:
+    """Starts everything; close() ends it. Needs a private XDG_RUNTIME_DIR in the environment."""
+
+    def __init__(self, build, theme):
+        self.build = pathlib.Path(build)
+        run = pathlib.Path(os.environ["XDG_RUNTIME_DIR"])
+        self.environment = dict(
+            os.environ, XDG_DATA_DIRS=f"{build}/share:/usr/share", CLOCK_THEME=theme, CLOCK_REDUCED_MOTION="1",
+            PULSE_SERVER=f"unix:{run}/sound")
+        for name in ("QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"):
+            self.environment.pop(name, None)
+        self._processes = []
+        self._start_display()
+        self._start_sound(run / "sound")
+        self._start_bus()
+
+    def _start(self, command, **options):
+        process = subprocess.Popen(command, env=self.environment, **options)
+        self._processes.append(process)
+        return process
+
+    def _start_display(self):
+        reader, writer = os.pipe()
+        self._start(["Xvfb", "-displayfd", str(writer), "-screen", "0", "480x854x24", "-nolisten", "tcp"],
+                    pass_fds=[writer], stderr=subprocess.DEVNULL)
+        os.close(writer)
+        with os.fdopen(reader) as answer:
+            self.environment["DISPLAY"] = ":" + answer.readline().strip()
+
+    def _start_sound(self, socket):
+        self._start(["pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1",
+                     "--log-level=error", "-L", "module-null-sink sink_name=null", "-L",
+                     f"module-native-protocol-unix auth-anonymous=1 socket={socket}"])
+        wait_for(socket.exists, 10, "sound server")
+        self.sound = Recorder(self.environment)
+        wait_for(lambda: self.sound.loudest(0.1) is not None, 10, "recording")
+
+    def _start_bus(self):
+        process = self._start(["dbus-daemon", "--session", "--nofork", "--print-address"],
+                              stdout=subprocess.PIPE, text=True)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = process.stdout.readline().strip()
+        self.bus = dbus.bus.BusConnection(self.environment["DBUS_SESSION_BUS_ADDRESS"])
+        self.bus.set_exit_on_disconnect(False)
+
+    def run(self, *command):
+        return subprocess.run(command, env=self.environment, check=True, capture_output=True, text=True).stdout
+
+    def alarmctl(self, *arguments):
+        return self.run(str(self.build / "bin" / "alarmctl"), *arguments)
+
+    def timed(self, method, *arguments):
+        timed = self.bus.get_object("com.astel.timed", "/com/astel/timed", introspect=False)
+        return timed.get_dbus_method(method, "com.astel.timed")(*arguments)
+
+    def triggers(self):
+        """The context property Alarm.Trigger: cookie to nanoseconds."""
+        value = self.bus.get_object("com.astel.context.Alarm.Trigger", "/com/astel/context/Alarm/Trigger",
+                                    introspect=False)
+        found = value.get_dbus_method("get", "com.astel.context.Property")()
+        return {int(cookie): int(moment) for cookie, moment in found.items()}
+
+    def ring_window(self):
+        """The number of the visible ring window, or None."""
+        search = subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "ringer"], env=self.environment,
+                                capture_output=True, text=True, check=False)
+        return search.stdout.split()[0] if search.returncode == 0 and search.stdout else None
+
+    def press(self, x, y):
+        self.run("xdotool", "mousemove", str(x), str(y), "click", "1")
+
+    def screenshot(self, name):
+        folder = self.build / "screenshots"
+        folder.mkdir(exist_ok=True)
+        self.run("import", "-window", "root", str(folder / name))
+
+    def kill_ringer(self):
+        """Ends the ringer, so that the next alarm has to start it."""
+        bus = self.bus.get_object("org.freedesktop.DBus", "/org/freedesktop/DBus")
+        if bus.NameHasOwner("com.astel.ringer"):
+            os.kill(bus.GetConnectionUnixProcessID("com.astel.ringer"), 9)
+            wait_for(lambda: not bus.NameHasOwner("com.astel.ringer"), 5, "end of the ringer")
+
+    def close(self):
+        self.sound.close()
+        self.bus.close()
+        # The bus goes before the rest; what it started ends with it.
+        for process in reversed(self._processes):
+            process.terminate()
+            process.wait()
+            if process.stdout:
+                process.stdout.close()

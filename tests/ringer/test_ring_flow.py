@@ -1,0 +1,143 @@
+#!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The Clock authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+"""Alarms ring on a whole phone: daemon and ringer started by the bus, a real display and a real sound server.
+
+    test_ring_flow.py BUILD-FOLDER
+"""
+import datetime
+import json
+import sys
+import time
+import unittest
+
+import dbus
+
+import phone
+
+BUILD = sys.argv.pop(1)
+
+SINGLE_SHOT, KEEP_ALIVE, ALARM, REMINDER = 1, 2, 8, 32
+
+# Where the buttons of the ring screen are on a display of 480 × 854.
+SNOOZE = (240, 610)
+STOP = (240, 778)
+
+
+class RingFlow(unittest.TestCase):
+    def setUp(self):
+        self.phone = phone.Phone(BUILD, "dark")
+        self.addCleanup(self.phone.close)
+
+    def add_event(self, title, due, snooze):
+        """An event straight on the bus, due at a second, whose button snoozes so many seconds."""
+        event = dbus.Struct(
+            (dbus.Int64(due), dbus.UInt32(SINGLE_SHOT | KEEP_ALIVE | ALARM | REMINDER), dbus.Int32(snooze),
+             dbus.UInt32(3),
+             dbus.Dictionary({"APPLICATION": "test", "TITLE": title, "PLUGIN": "libclockalarm"}, signature="ss"),
+             dbus.Array([], signature="(utuuub)"),
+             dbus.Array([(dbus.Int32(snooze), dbus.Dictionary({}, signature="ss"))], signature="(ia{ss})")),
+            signature="xuiua{ss}a(utuuub)a(ia{ss})")
+        return int(self.phone.timed("add_event", event))
+
+    def state(self, cookie):
+        return str(self.phone.timed("query_attributes", dbus.UInt32(cookie)).get("STATE", ""))
+
+    def wait_for_state(self, cookie, state, seconds=5):
+        phone.wait_for(lambda: self.state(cookie) == state, seconds, f"event {cookie} is {state}")
+
+    def wait_for_ring(self, due, seconds):
+        """Until an alarm is seen and heard; tells how long after its moment the sound came."""
+        phone.wait_for(self.phone.ring_window, seconds, "ring window")
+        heard = phone.wait_for(lambda: self.phone.sound.heard_since(due), 5, "sound")
+        phone.wait_for(lambda: (self.phone.sound.loudest(0.5) or 0) > 0.02, 5, "sound well above silence")
+        delay = heard - due
+        print(f"{self.id()}: first sound {1000 * delay:.0f} ms after the moment", file=sys.stderr)
+        return delay
+
+    def wait_for_silence(self):
+        phone.wait_for(lambda: not self.phone.ring_window(), 5, "ring window gone")
+        phone.wait_for(self.phone.sound.is_silent, 5, "silence")
+
+    def journal(self, cookie):
+        return [(str(what), str(detail)) for _, of, what, detail in self.phone.timed("journal", dbus.Int64(0))
+                if of == cookie]
+
+    def test_an_alarm_of_the_command_line_rings_snoozes_and_stops(self):
+        minute = datetime.datetime.now() + datetime.timedelta(seconds=63)
+        due = minute.replace(second=0, microsecond=0).timestamp()
+        cookie = int(self.phone.alarmctl("add", minute.strftime("%H:%M"), "--title", "Wake up"))
+        self.wait_for_state(cookie, "WAITING")
+        self.assertEqual(self.phone.triggers(), {cookie: due * 1e9})
+        self.assertTrue(self.phone.sound.is_silent())
+
+        self.wait_for_ring(due, 70)
+        self.assertEqual(self.state(cookie), "TRIGGERED")
+        self.phone.screenshot("ring-dark.png")
+
+        self.phone.press(*SNOOZE)
+        self.wait_for_state(cookie, "SNOOZED")
+        self.wait_for_silence()
+        self.assertGreater(self.phone.triggers()[cookie], time.time() * 1e9)
+
+    def test_a_snoozed_alarm_rings_again_and_stop_ends_it(self):
+        due = int(time.time()) + 2
+        cookie = self.add_event("Tea", due, snooze=3)
+        self.wait_for_ring(due, 10)
+        self.phone.press(*SNOOZE)
+        self.wait_for_state(cookie, "SNOOZED")
+        self.wait_for_silence()
+
+        again = self.phone.triggers()[cookie] / 1e9
+        self.assertLess(again, time.time() + 3)
+        self.wait_for_ring(again, 10)
+        self.phone.press(*STOP)
+        self.wait_for_state(cookie, "FINISHED")
+        self.wait_for_silence()
+        self.assertEqual(self.phone.triggers(), {})
+        words = [what for what, _ in self.journal(cookie)]
+        self.assertEqual(words, ["due", "rang", "sounded", "answered"] * 2)
+
+    def test_a_one_time_alarm_is_switched_off_by_stop(self):
+        minute = datetime.datetime.now() + datetime.timedelta(seconds=63)
+        due = minute.replace(second=0, microsecond=0).timestamp()
+        cookie = int(self.phone.alarmctl("add", minute.strftime("%H:%M")))
+        self.wait_for_ring(due, 70)
+        self.phone.press(*STOP)
+        self.wait_for_state(cookie, "FINISHED")
+        self.wait_for_silence()
+        self.assertEqual(self.phone.triggers(), {})
+        alarms = {alarm["cookie"]: alarm for alarm in json.loads(self.phone.alarmctl("list", "--json"))}
+        self.assertFalse(alarms[cookie]["enabled"])
+        self.assertIsNone(alarms[cookie]["nextTrigger"])
+
+    def test_two_alarms_are_answered_one_by_one(self):
+        due = int(time.time()) + 2
+        first = self.add_event("Wake up", due, snooze=600)
+        second = self.add_event("Take the pills", due, snooze=600)
+        self.wait_for_ring(due, 10)
+        self.wait_for_state(second, "TRIGGERED")
+        phone.wait_for(lambda: ("rang" in dict(self.journal(second))), 5, "the second alarm is seen as well")
+        self.phone.screenshot("ring-two-alarms.png")
+        self.phone.press(*STOP)
+        self.wait_for_state(first, "FINISHED")
+        phone.wait_for(lambda: ("sounded" in dict(self.journal(second))), 5, "the second alarm is heard")
+        self.assertEqual(self.state(second), "TRIGGERED")
+        self.assertTrue(self.phone.ring_window())
+        self.phone.press(*STOP)
+        self.wait_for_state(second, "FINISHED")
+        self.wait_for_silence()
+
+    def test_a_ringer_that_is_killed_rings_again(self):
+        due = int(time.time()) + 2
+        cookie = self.add_event("Wake up", due, snooze=600)
+        self.wait_for_ring(due, 10)
+        self.phone.kill_ringer()
+        self.wait_for_ring(time.time(), 10)
+        self.phone.press(*STOP)
+        self.wait_for_state(cookie, "FINISHED")
+        self.wait_for_silence()
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
