@@ -94,7 +94,7 @@ Result<> LifeCycle::rings(quint32 cookie)
     if (!event)
         return event.error();
     if (m_ringing.acknowledge(cookie))
-        apply({{}, {}, {entry(**event, "rang", {})}});
+        apply({{}, {}, {entry(**event, "rang", "")}});
     return Done{};
 }
 
