@@ -6,7 +6,7 @@
 
 namespace Ringer {
 
-/** The alarm daemon as the ringer needs it. Nothing blocks; an answer ends in exactly one of the two signals. */
+/** The alarm daemon as the ringer needs it. Nothing blocks; each answer ends in exactly one of the two signals. */
 class AlarmDaemon : public QObject
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ public:
     virtual void dismiss(quint32 cookie, const QString &by) = 0;
 
 Q_SIGNALS:
-    void answered(quint32 cookie);                            ///< taken, or the alarm was over anyway
-    void answerFailed(quint32 cookie, const QString &reason); ///< the alarm still rings
+    void answered(quint32 cookie); ///< nothing more to do for this alarm
+    void snoozeFailed(quint32 cookie, const QString &reason); ///< nobody would wake the user again
 };
 
 } // namespace Ringer

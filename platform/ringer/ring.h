@@ -44,7 +44,7 @@ public:
     void show();
     void takeSound(); ///< no effect unless it waits
     void answer();
-    void ringAgain(); ///< an answer could not be delivered
+    void ringAgain(); ///< a snooze could not be delivered
 
 Q_SIGNALS:
     void sounding();

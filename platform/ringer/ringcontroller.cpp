@@ -41,7 +41,7 @@ RingController::RingController(AlarmDaemon *daemon, TonePlayer *player, PluginLo
 {
     m_plugins->setAnswers(this);
     connect(m_daemon, &AlarmDaemon::answered, this, &RingController::onAnswered);
-    connect(m_daemon, &AlarmDaemon::answerFailed, this, &RingController::onAnswerFailed);
+    connect(m_daemon, &AlarmDaemon::snoozeFailed, this, &RingController::onSnoozeFailed);
 }
 
 RingController::~RingController() = default;
@@ -104,12 +104,12 @@ void RingController::onAnswered(quint32 cookie)
         stop(cookie);
 }
 
-void RingController::onAnswerFailed(quint32 cookie, const QString &reason)
+void RingController::onSnoozeFailed(quint32 cookie, const QString &reason)
 {
     auto *ring = find(cookie);
     if (!ring || ring->state() != Ring::State::Answered)
         return;
-    qCCritical(lcRinger, "Alarm %u: the answer was not taken: %s; rings again", cookie, qPrintable(reason));
+    qCCritical(lcRinger, "Alarm %u: the snooze was not taken: %s; rings again", cookie, qPrintable(reason));
     ring->ringAgain();
     passSoundOn();
 }

@@ -21,7 +21,7 @@ class TonePlayer;
 /**
  * Everything that rings now. One ring for each cookie, in the order in which they became due; the first has the sound,
  * the others wait on the screen for their turn. Carries the screen's answers to the daemon. Owned by the program, main
- * thread; an answer that cannot be delivered makes the alarm ring again.
+ * thread; a snooze that cannot be delivered makes the alarm ring again.
  */
 class RingController : public QObject, private Answers
 {
@@ -45,7 +45,7 @@ private:
     void snooze(quint32 cookie, int seconds) override;
     void dismiss(quint32 cookie) override;
     void onAnswered(quint32 cookie);
-    void onAnswerFailed(quint32 cookie, const QString &reason);
+    void onSnoozeFailed(quint32 cookie, const QString &reason);
 
     [[nodiscard]] Ring *find(quint32 cookie) const;
     [[nodiscard]] Ring *findUnanswered(quint32 cookie) const;

@@ -24,35 +24,39 @@ void TimedDaemon::sounds(quint32 cookie, const QString &tone)
 
 void TimedDaemon::snooze(quint32 cookie, quint32 seconds, const QString &by)
 {
-    watchAnswer(cookie, m_timed.snooze(cookie, seconds, by));
+    whenFinished(m_timed.snooze(cookie, seconds, by), [this, cookie](const QDBusError &error) {
+        // Unknown: it rings no more, so there is nothing left to snooze.
+        if (error.isValid() && error.name() != QLatin1String(Astel::Timed::Wire::UnknownError))
+            Q_EMIT snoozeFailed(cookie, error.message());
+        else
+            Q_EMIT answered(cookie);
+    });
 }
 
+// Stop is stop for the user; a daemon that did not take it asks to ring again by itself.
 void TimedDaemon::dismiss(quint32 cookie, const QString &by)
 {
-    watchAnswer(cookie, m_timed.dismiss(cookie, by));
+    const auto call = m_timed.dismiss(cookie, by);
+    watchReport(cookie, call, "dismiss");
+    whenFinished(call, [this, cookie](const QDBusError &) { Q_EMIT answered(cookie); });
+}
+
+template <typename Function>
+void TimedDaemon::whenFinished(const QDBusPendingCall &call, Function function)
+{
+    auto *watcher = new QDBusPendingCallWatcher(call, this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [function](QDBusPendingCallWatcher *finished) {
+        finished->deleteLater();
+        function(finished->error());
+    });
 }
 
 void TimedDaemon::watchReport(quint32 cookie, const QDBusPendingCall &call, const char *what)
 {
-    auto *watcher = new QDBusPendingCallWatcher(call, this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [cookie, what](QDBusPendingCallWatcher *reply) {
-        reply->deleteLater();
-        if (reply->isError())
-            qCWarning(lcRinger, "Alarm %u: report \"%s\" was refused, ignoring: %s", cookie, what,
-                      qPrintable(reply->error().message()));
-    });
-}
-
-void TimedDaemon::watchAnswer(quint32 cookie, const QDBusPendingCall &call)
-{
-    auto *watcher = new QDBusPendingCallWatcher(call, this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, cookie](QDBusPendingCallWatcher *reply) {
-        reply->deleteLater();
-        // Unknown: it rings no more, so there is nothing left to answer.
-        if (reply->isError() && reply->error().name() != QLatin1String(Astel::Timed::Wire::UnknownError))
-            Q_EMIT answerFailed(cookie, reply->error().message());
-        else
-            Q_EMIT answered(cookie);
+    whenFinished(call, [cookie, what](const QDBusError &error) {
+        if (error.isValid())
+            qCWarning(lcRinger, "Alarm %u: \"%s\" was refused, ignoring: %s", cookie, what,
+                      qPrintable(error.message()));
     });
 }
 

@@ -21,8 +21,9 @@ public:
     void dismiss(quint32 cookie, const QString &by) override;
 
 private:
+    template <typename Function>
+    void whenFinished(const QDBusPendingCall &call, Function function);
     void watchReport(quint32 cookie, const QDBusPendingCall &call, const char *what);
-    void watchAnswer(quint32 cookie, const QDBusPendingCall &call);
 
     Astel::Timed::Interface m_timed;
 };

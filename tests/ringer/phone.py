@@ -5,6 +5,7 @@ import array
 import collections
 import os
 import pathlib
+import signal
 import subprocess
 import threading
 import time
@@ -72,19 +73,19 @@ class Recorder:
 
 
 class Phone:
-    """Starts everything; close() ends it. Needs a private XDG_RUNTIME_DIR in the environment."""
+    """Starts everything, with alarms of its own in a folder; close() ends it."""
 
-    def __init__(self, build, theme):
+    def __init__(self, build, home, theme):
         self.build = pathlib.Path(build)
-        run = pathlib.Path(os.environ["XDG_RUNTIME_DIR"])
+        socket = pathlib.Path(home) / "sound"
         self.environment = dict(
-            os.environ, XDG_DATA_DIRS=f"{build}/share:/usr/share", CLOCK_THEME=theme, CLOCK_REDUCED_MOTION="1",
-            PULSE_SERVER=f"unix:{run}/sound")
+            os.environ, XDG_DATA_DIRS=f"{build}/share:/usr/share", XDG_DATA_HOME=f"{home}/data",
+            CLOCK_THEME=theme, CLOCK_REDUCED_MOTION="1", PULSE_SERVER=f"unix:{socket}")
         for name in ("QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"):
             self.environment.pop(name, None)
         self._processes = []
         self._start_display()
-        self._start_sound(run / "sound")
+        self._start_sound(socket)
         self._start_bus()
 
     def _start(self, command, **options):
@@ -146,17 +147,19 @@ class Phone:
         folder.mkdir(exist_ok=True)
         self.run("import", "-window", "root", str(folder / name))
 
-    def kill_ringer(self):
-        """Ends the ringer, so that the next alarm has to start it."""
-        bus = self.bus.get_object("org.freedesktop.DBus", "/org/freedesktop/DBus")
-        if bus.NameHasOwner("com.astel.ringer"):
-            os.kill(bus.GetConnectionUnixProcessID("com.astel.ringer"), 9)
-            wait_for(lambda: not bus.NameHasOwner("com.astel.ringer"), 5, "end of the ringer")
+    def kill(self, service):
+        """Ends the program behind a bus name at once, if there is one."""
+        if self.bus.name_has_owner(service):
+            process = self.bus.get_object("org.freedesktop.DBus", "/").GetConnectionUnixProcessID(service)
+            owner = self.bus.get_name_owner(service)
+            os.kill(process, signal.SIGKILL)
+            wait_for(lambda: not self.bus.name_has_owner(owner), 5, f"end of {service}")
 
     def close(self):
+        self.kill("com.astel.timed")
+        self.kill("com.astel.ringer")
         self.sound.close()
         self.bus.close()
-        # The bus goes before the rest; what it started ends with it.
         for process in reversed(self._processes):
             process.terminate()
             process.wait()

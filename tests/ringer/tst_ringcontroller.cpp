@@ -60,7 +60,7 @@ private slots:
     void twoAlarmsAreAnsweredOneByOne();
     void snoozeIsSilentAtOnceAndTold();
     void anAnswerIsGivenOnce();
-    void anAnswerThatFailsRingsAgain();
+    void aSnoozeThatFailsRingsAgain();
     void aLateConfirmationLeavesANewRingAlone();
     void aToneThatFailsIsFollowedByTheNext();
     void soundThatBreaksOffGoesOnWithTheNextTone();
@@ -216,12 +216,12 @@ void TestRingController::anAnswerIsGivenOnce()
     QCOMPARE(m_daemon->calls, QStringList({"rings 7", "snooze 7 600 librecording"}));
 }
 
-void TestRingController::anAnswerThatFailsRingsAgain()
+void TestRingController::aSnoozeThatFailsRingsAgain()
 {
     Support::LogCapture log;
     m_controller->ring(7, teaTime(), Due);
     pressSnooze(7, 600);
-    emit m_daemon->answerFailed(7, "disk full");
+    emit m_daemon->snoozeFailed(7, "disk full");
     QCOMPARE(shown().size(), 1);
     QCOMPARE(m_player->tone, QString("/tones/tea.aac"));
     pressSnooze(7, 600);
