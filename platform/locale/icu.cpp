@@ -78,16 +78,18 @@ QString withHalvesOfTheDay(QString pattern)
     return pattern;
 }
 
-icu::UnicodeString timePattern(const icu::Locale &locale, Locale::TimeType time, bool twelveHour)
+icu::UnicodeString bestPattern(const icu::Locale &locale, const icu::UnicodeString &fields)
 {
-    static const char *const fields[] = {"", "m", "ms", "msz", "mszzzz"};
     UErrorCode error = U_ZERO_ERROR;
     const std::unique_ptr<icu::DateTimePatternGenerator> generator(
         icu::DateTimePatternGenerator::createInstance(locale, error));
-    if (U_FAILURE(error))
-        return {};
-    const icu::UnicodeString skeleton = icu::UnicodeString(twelveHour ? u"h" : u"H") + fields[time];
-    return generator->getBestPattern(skeleton, error);
+    return U_SUCCESS(error) ? generator->getBestPattern(fields, error) : icu::UnicodeString();
+}
+
+icu::UnicodeString timePattern(const icu::Locale &locale, Locale::TimeType time, bool twelveHour)
+{
+    static const char *const fields[] = {"", "m", "ms", "msz", "mszzzz"};
+    return bestPattern(locale, icu::UnicodeString(twelveHour ? u"h" : u"H") + fields[time]);
 }
 
 QString makePattern(const QByteArray &name, Locale::DateType date, Locale::TimeType time, Locale::TimeFormat24h hours)
@@ -148,6 +150,13 @@ QString pattern(const QByteArray &locale, Locale::DateType date, Locale::TimeTyp
     static Cache<QString> patterns;
     const QByteArray key = locale + '\n' + char('0' + date) + char('0' + time) + char('0' + hours);
     return *cached(patterns, key, [&] { return new QString(makePattern(locale, date, time, hours)); });
+}
+
+QString patternOfFields(const QByteArray &locale, const QString &fields)
+{
+    static Cache<QString> patterns;
+    return *cached(patterns, locale + '\n' + fields.toUtf8(),
+                   [&] { return new QString(fromIcu(bestPattern(icu::Locale(locale.constData()), toIcu(fields)))); });
 }
 
 bool isTwelveHourPattern(const QString &pattern)

@@ -176,6 +176,11 @@ QString Locale::icuFormatString(DateType date, TimeType time, CalendarType calen
     return marked ? QChar(0x200F) + pattern : pattern;
 }
 
+QString Locale::icuFormatString(const QString &fields) const
+{
+    return Icu::patternOfFields(d->settings.names[TimeCategory], fields);
+}
+
 QString Locale::formatDateTime(const QDateTime &dateTime, DateType date, TimeType time, CalendarType calendar) const
 {
     const QByteArray name = Icu::withCalendar(d->settings.names[TimeCategory], calendar);

@@ -70,6 +70,8 @@ public:
     /// The ICU pattern that formatDateTime() uses. The half of the day is always the letter a. Times of Iran
     /// start with a right-to-left mark: digits and colons have no direction of their own to be laid out by.
     QString icuFormatString(DateType date, TimeType time, CalendarType calendar = DefaultCalendar) const;
+    /// The locale's own arrangement of these ICU fields, for instance "EEEE d MMMM" of "MMMMEEEEd".
+    QString icuFormatString(const QString &fields) const;
     /// The date-time's own fields, in whatever zone they are. Empty if it is not valid.
     QString formatDateTime(const QDateTime &dateTime, DateType date = DateLong, TimeType time = TimeLong,
                            CalendarType calendar = DefaultCalendar) const;

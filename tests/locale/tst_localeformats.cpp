@@ -41,6 +41,8 @@ private Q_SLOTS:
     void namesTheZoneOfTheDateTime();
     void formatsNothingForAnInvalidDateTime();
     void countsByTheCalendarAskedFor();
+    void arrangesFieldsAsTheLocaleDoes_data();
+    void arrangesFieldsAsTheLocaleDoes();
     void replacesDirectives_data();
     void replacesDirectives();
     void writesNumbersWithItsOwnDigits_data();
@@ -246,6 +248,23 @@ void tst_LocaleFormats::countsByTheCalendarAskedFor()
     const QString gregorian
         = thai.formatDateTime(afternoon, Locale::DateLong, Locale::TimeNone, Locale::GregorianCalendar);
     QVERIFY2(gregorian.contains(u"2026"), qPrintable(gregorian));
+}
+
+void tst_LocaleFormats::arrangesFieldsAsTheLocaleDoes_data()
+{
+    QTest::addColumn<QString>("date");
+    QTest::newRow("en_US") << "Monday, March 9";
+    QTest::newRow("en_GB") << "Monday, 9 March";
+    QTest::newRow("de_DE") << u"Montag, 9. März"_qs;
+    QTest::newRow("ja_JP") << u"3月9日月曜日"_qs;
+    QTest::newRow("fa_IR") << u"دوشنبه ۱۸ اسفند"_qs;
+}
+
+void tst_LocaleFormats::arrangesFieldsAsTheLocaleDoes()
+{
+    QFETCH(QString, date);
+    const Locale locale(QString::fromLatin1(QTest::currentDataTag()));
+    QCOMPARE(locale.formatDateTimeICU(afternoon, locale.icuFormatString(u"MMMMEEEEd"_qs)), date);
 }
 
 void tst_LocaleFormats::replacesDirectives_data()
