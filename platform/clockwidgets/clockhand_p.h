@@ -1,0 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+enum class ClockHand { None, Hour, Minute };

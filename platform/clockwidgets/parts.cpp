@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/clockwidgets/parts_p.h"
+
+#include "platform/toolkit/theme.h"
+#include "platform/toolkit/widget.h"
+#include "platform/toolkit/window.h"
+
+#include <algorithm>
+#include <QFontMetricsF>
+#include <QPainter>
+
+using Touch::Style;
+
+namespace {
+
+// Digits and what stands between them; anything else is shaped as a whole.
+bool isTabular(const Style &style, const QString &text)
+{
+    return style.tabularDigits && std::all_of(text.begin(), text.end(), [](QChar c) { return !c.isLetter(); });
+}
+
+qreal cellWidth(const QFontMetricsF &metrics, QChar c)
+{
+    if (!c.isDigit())
+        return metrics.horizontalAdvance(c);
+    const char16_t zero = char16_t(c.unicode() - c.digitValue());
+    qreal widest = 0;
+    for (char16_t digit = zero; digit < zero + 10; ++digit)
+        widest = qMax(widest, metrics.horizontalAdvance(QChar(digit)));
+    return widest;
+}
+
+} // namespace
+
+void loadClockTheme()
+{
+    static const bool loaded = [] {
+        QString error;
+        const bool ok = Touch::Theme::instance().load(QStringLiteral(":/theme/clockwidgets.json"), &error);
+        // The file is built in; a test reads it.
+        Q_ASSERT_X(ok, "loadClockTheme", qPrintable(error));
+        return ok;
+    }();
+    Q_UNUSED(loaded)
+}
+
+std::shared_ptr<const Style> partStyle(const Touch::Widget &widget, const QString &styleName)
+{
+    const Touch::Window *window = widget.hostWindow();
+    return Touch::Theme::instance().style(styleName, {}, &Touch::Widget::staticMetaObject,
+                                          window && window->isInverted());
+}
+
+qreal textWidth(const Style &style, const QString &text)
+{
+    const QFontMetricsF metrics(style.font());
+    if (!isTabular(style, text))
+        return metrics.horizontalAdvance(text);
+    qreal width = 0;
+    for (const QChar c : text)
+        width += cellWidth(metrics, c);
+    return width;
+}
+
+void drawPart(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, const Style &style, const QString &text)
+{
+    painter.setFont(style.font());
+    painter.setPen(style.color);
+    const QFontMetricsF metrics(style.font());
+    if (!isTabular(style, text)) {
+        const QString elided = metrics.elidedText(text, Qt::ElideRight, rect.width());
+        painter.drawText(rect, int(alignment) | Qt::TextSingleLine, elided);
+        return;
+    }
+    QRectF cell(rect.center().x() - textWidth(style, text) / 2, rect.top(), 0, rect.height());
+    for (const QChar c : text) {
+        cell.setWidth(cellWidth(metrics, c));
+        painter.drawText(cell, Qt::AlignCenter | Qt::TextDontClip, QString(c));
+        cell.moveLeft(cell.right());
+    }
+}

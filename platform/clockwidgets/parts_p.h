@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <memory>
+#include <QRectF>
+
+class QPainter;
+class QString;
+
+namespace Touch {
+struct Style;
+class Widget;
+} // namespace Touch
+
+// The clock widgets paint several texts each; every one has a style of its own in the theme.
+
+/// Adds the looks of the clock widgets to the theme; called by each of them before it asks for a style.
+void loadClockTheme();
+std::shared_ptr<const Touch::Style> partStyle(const Touch::Widget &widget, const QString &styleName);
+qreal textWidth(const Touch::Style &style, const QString &text);
+/// One line, elided where it is too long; digits of equal width, where the style says so, are centred.
+void drawPart(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, const Touch::Style &style,
+              const QString &text);

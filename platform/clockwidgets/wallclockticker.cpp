@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/clockwidgets/wallclockticker_p.h"
+
+#include <cerrno>
+#include <QSocketNotifier>
+#include <sys/timerfd.h>
+#include <unistd.h>
+
+namespace {
+
+time_t length(ClockTicker::Beat beat)
+{
+    return beat == ClockTicker::Beat::Second ? 1 : 60;
+}
+
+} // namespace
+
+WallClockTicker::WallClockTicker() = default;
+
+WallClockTicker::~WallClockTicker()
+{
+    stop();
+}
+
+time_t WallClockTicker::nextBeat(time_t time, Beat beat)
+{
+    return (time / length(beat) + 1) * length(beat);
+}
+
+void WallClockTicker::start(Beat beat)
+{
+    m_beat = beat;
+    if (m_timer < 0) {
+        m_timer = timerfd_create(CLOCK_REALTIME, TFD_NONBLOCK | TFD_CLOEXEC);
+        if (m_timer < 0)
+            return;
+        m_notifier = std::make_unique<QSocketNotifier>(m_timer, QSocketNotifier::Read);
+        connect(m_notifier.get(), &QSocketNotifier::activated, this, &WallClockTicker::readTimer);
+    }
+    arm();
+}
+
+void WallClockTicker::stop()
+{
+    if (m_timer < 0)
+        return;
+    m_notifier.reset();
+    ::close(m_timer);
+    m_timer = -1;
+}
+
+void WallClockTicker::arm()
+{
+    itimerspec beats = {};
+    beats.it_value.tv_sec = nextBeat(std::time(nullptr), m_beat);
+    beats.it_interval.tv_sec = length(m_beat);
+    timerfd_settime(m_timer, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &beats, nullptr);
+}
+
+void WallClockTicker::readTimer()
+{
+    quint64 beats = 0;
+    const ssize_t size = ::read(m_timer, &beats, sizeof beats);
+    if (size < 0 && errno == ECANCELED)
+        arm();
+    else if (size < 0)
+        return;
+    Q_EMIT ticked();
+}

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/clockwidgets/clockticker.h"
+#include "platform/toolkit/stylablewidget.h"
+
+#include <memory>
+
+class ClockFace;
+
+/// The time of day, analogue or digital, with the date under it, in the user's locale. A tap shows the other face.
+/// It ticks only while it can be seen: every second with the seconds hand, every minute without.
+class WorldClock : public Touch::StylableWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(Face face READ face WRITE setFace NOTIFY faceChanged)
+
+public:
+    enum class Face { Analogue, Digital };
+    Q_ENUM(Face)
+
+    explicit WorldClock(QGraphicsItem *parent = nullptr);
+    /// With another clock than that of the system.
+    explicit WorldClock(std::unique_ptr<ClockTicker> ticker, QGraphicsItem *parent = nullptr);
+    ~WorldClock() override;
+
+    Face face() const { return m_face; }
+    void setFace(Face face);
+    /// What is shown now.
+    QDateTime shownTime() const { return m_now; }
+
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
+
+Q_SIGNALS:
+    void faceChanged(WorldClock::Face face);
+
+protected:
+    void styleChanged() override;
+    void enterDisplay() override;
+    void exitDisplay() override;
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void tick();
+    void startTicking();
+    void localeChanged();
+    void showOtherFace();
+    void paintDigits(QPainter &painter, const QRectF &rect) const;
+    void paintDate(QPainter &painter, const QRectF &rect) const;
+
+    std::unique_ptr<ClockTicker> m_ticker;
+    std::unique_ptr<ClockFace> m_clockFace;
+    Face m_face = Face::Analogue;
+    QDateTime m_now;
+};

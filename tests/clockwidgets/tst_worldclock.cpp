@@ -1,0 +1,190 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/clockwidgets/worldclock.h"
+
+#include "platform/locale/locale.h"
+#include "tests/clockwidgets/stage.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using Touch::Locale;
+
+namespace {
+
+/// A clock that goes only when it is told to.
+class FakeTicker : public ClockTicker
+{
+public:
+    QDateTime now() const override { return time; }
+    void start(Beat newBeat) override
+    {
+        running = true;
+        beat = newBeat;
+    }
+    void stop() override { running = false; }
+    void goOn(int seconds)
+    {
+        time = time.addSecs(seconds);
+        if (running)
+            Q_EMIT ticked();
+    }
+
+    QDateTime time{QDate(2026, 3, 9), QTime(10, 9, 30)};
+    Beat beat = Beat::Minute;
+    bool running = false;
+};
+
+struct Scene
+{
+    Scene()
+        : ticker(new FakeTicker)
+        , clock(new WorldClock(std::unique_ptr<ClockTicker>(ticker)))
+        , stage(clock, {0, 0, 480, 324})
+    { }
+
+    FakeTicker *ticker;
+    WorldClock *clock;
+    Stage stage;
+};
+
+} // namespace
+
+class tst_WorldClock : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void ticksOnlyWhileDisplayed();
+    void ticksNotInAMinimisedWindow();
+    void showsTheTimeAtOnceWhenItComesBack();
+    void ticksEverySecondOnlyWithTheSecondsHand();
+    void aTapShowsTheOtherFace();
+    void keysShowTheOtherFace();
+    void anotherFaceLooksDifferent();
+    void followsTheUsersLocale();
+    void takesAboutTwoFifthsOfThePage();
+};
+
+void tst_WorldClock::init()
+{
+    Locale::setDefault(Locale(u"en_US"_qs));
+}
+
+void tst_WorldClock::ticksOnlyWhileDisplayed()
+{
+    Scene scene;
+    QVERIFY(!scene.ticker->running);
+    QVERIFY(scene.stage.show());
+    QVERIFY(scene.ticker->running);
+    scene.ticker->goOn(1);
+    QCOMPARE(scene.clock->shownTime(), scene.ticker->time);
+    scene.clock->hide();
+    QVERIFY(!scene.ticker->running);
+    scene.clock->show();
+    QVERIFY(scene.ticker->running);
+    scene.stage.window.hide();
+    QVERIFY(!scene.ticker->running);
+}
+
+void tst_WorldClock::ticksNotInAMinimisedWindow()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    scene.stage.window.showMinimized();
+    QTRY_VERIFY(!scene.ticker->running);
+    scene.stage.window.showNormal();
+    QTRY_VERIFY(scene.ticker->running);
+}
+
+void tst_WorldClock::showsTheTimeAtOnceWhenItComesBack()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    scene.clock->hide();
+    scene.ticker->goOn(3600);
+    QVERIFY(scene.clock->shownTime() != scene.ticker->time);
+    scene.clock->show();
+    QCOMPARE(scene.clock->shownTime(), scene.ticker->time);
+}
+
+void tst_WorldClock::ticksEverySecondOnlyWithTheSecondsHand()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    QCOMPARE(scene.ticker->beat, ClockTicker::Beat::Second);
+    scene.clock->setFace(WorldClock::Face::Digital);
+    QCOMPARE(scene.ticker->beat, ClockTicker::Beat::Minute);
+    scene.clock->hide();
+    scene.clock->setFace(WorldClock::Face::Analogue);
+    QVERIFY(!scene.ticker->running);
+}
+
+void tst_WorldClock::aTapShowsTheOtherFace()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    QSignalSpy spy(scene.clock, &WorldClock::faceChanged);
+    scene.stage.tap({240, 150});
+    QCOMPARE(scene.clock->face(), WorldClock::Face::Digital);
+    scene.stage.tap({240, 150});
+    QCOMPARE(scene.clock->face(), WorldClock::Face::Analogue);
+    QCOMPARE(spy.count(), 2);
+    // A finger that leaves the clock has changed its mind.
+    scene.stage.press({240, 150});
+    scene.stage.move({240, 400});
+    scene.stage.release({240, 400});
+    QCOMPARE(spy.count(), 2);
+}
+
+void tst_WorldClock::keysShowTheOtherFace()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    scene.stage.key(Qt::Key_Space);
+    QCOMPARE(scene.clock->face(), WorldClock::Face::Digital);
+    scene.stage.key(Qt::Key_Return);
+    QCOMPARE(scene.clock->face(), WorldClock::Face::Analogue);
+}
+
+void tst_WorldClock::anotherFaceLooksDifferent()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    const QImage analogue = scene.stage.window.grab().toImage();
+    scene.ticker->goOn(1);
+    QVERIFY(scene.stage.window.grab().toImage() != analogue);
+    scene.clock->setFace(WorldClock::Face::Digital);
+    const QImage digital = scene.stage.window.grab().toImage();
+    QVERIFY(digital != analogue);
+    // Within the minute nothing moves there.
+    scene.ticker->goOn(1);
+    QVERIFY(scene.stage.window.grab().toImage() == digital);
+    scene.ticker->goOn(60);
+    QVERIFY(scene.stage.window.grab().toImage() != digital);
+}
+
+void tst_WorldClock::followsTheUsersLocale()
+{
+    Scene scene;
+    scene.ticker->goOn(6 * 3600);
+    scene.clock->setFace(WorldClock::Face::Digital);
+    QVERIFY(scene.stage.show());
+    const QImage twelve = scene.stage.window.grab().toImage();
+    Locale::getDefault().setTimeFormat24h(Locale::TwentyFourHour);
+    const QImage twentyFour = scene.stage.window.grab().toImage();
+    QVERIFY(twentyFour != twelve);
+    Locale::setDefault(Locale(u"ar_EG"_qs));
+    QVERIFY(scene.stage.window.grab().toImage() != twentyFour);
+}
+
+void tst_WorldClock::takesAboutTwoFifthsOfThePage()
+{
+    const WorldClock clock;
+    const qreal part = clock.preferredHeight() / 854;
+    QVERIFY2(part >= 0.36 && part <= 0.40, qPrintable(QString::number(part)));
+}
+
+QTEST_MAIN(tst_WorldClock)
+#include "tst_worldclock.moc"
