@@ -231,7 +231,8 @@ QColor Button::backgroundColor() const
 
 void Button::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *widget)
 {
-    paintBackground(painter, backgroundColor());
+    // A border is for what stands out from the page by nothing else.
+    paintBackground(painter, backgroundColor(), !m_isChecked);
     QRectF area = paddedRect();
     const QColor color = foregroundColor();
     if (!m_iconId.isEmpty()) {

@@ -84,8 +84,7 @@ QList<Segment> GridLayoutPolicy::segments(Qt::Orientation direction, const QList
             const Span &cells = span(entry, direction);
             if ((cells.count > 1) != spansMany)
                 continue;
-            const qreal width
-                = columns ? spannedSize(*columns, entry.columns.first, entry.columns.last()) : -1;
+            const qreal width = columns ? spannedSize(*columns, entry.columns.first, entry.columns.last()) : -1;
             const Segment wanted = wantedSegment(entry.item, direction, width);
             if (!spansMany)
                 joinCell(result[cells.first], wanted);

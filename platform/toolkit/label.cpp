@@ -117,8 +117,7 @@ void Label::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWi
 {
     Widget::paint(painter, option, widget);
     const bool isDimmed = !isEnabled() && style().disabledColor.isValid();
-    prepared().draw(painter, paddedRect(), visualAlignment(),
-                    isDimmed ? style().disabledColor : style().color);
+    prepared().draw(painter, paddedRect(), visualAlignment(), isDimmed ? style().disabledColor : style().color);
 }
 
 } // namespace Touch

@@ -60,8 +60,7 @@ void Layout::setPortraitPolicy(AbstractLayoutPolicy *policy)
 
 AbstractLayoutPolicy *Layout::policy() const
 {
-    AbstractLayoutPolicy *oriented
-        = windowOrientation() == Qt::Horizontal ? m_landscapePolicy : m_portraitPolicy;
+    AbstractLayoutPolicy *oriented = windowOrientation() == Qt::Horizontal ? m_landscapePolicy : m_portraitPolicy;
     return oriented ? oriented : m_policy;
 }
 
@@ -178,8 +177,7 @@ QMarginsF Layout::outerMargins(bool isMirrored) const
 bool Layout::isMirrored() const
 {
     const QGraphicsItem *item = parentGraphicsItem();
-    return item && item->isWidget()
-        && static_cast<const QGraphicsWidget *>(item)->layoutDirection() == Qt::RightToLeft;
+    return item && item->isWidget() && static_cast<const QGraphicsWidget *>(item)->layoutDirection() == Qt::RightToLeft;
 }
 
 void Layout::updateHeightForWidth()

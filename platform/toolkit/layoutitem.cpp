@@ -20,8 +20,7 @@ QMarginsF marginsOf(const QGraphicsLayoutItem *item)
 QSizeF hint(const QGraphicsLayoutItem *item, Qt::SizeHint which, const QMarginsF &margins, qreal width)
 {
     const bool isConstrained = width >= 0 && heightFollowsWidth(item);
-    const QSizeF constraint
-        = isConstrained ? QSizeF(width - margins.left() - margins.right(), -1) : QSizeF(-1, -1);
+    const QSizeF constraint = isConstrained ? QSizeF(width - margins.left() - margins.right(), -1) : QSizeF(-1, -1);
     return item->effectiveSizeHint(which, constraint).grownBy(margins);
 }
 
@@ -40,8 +39,7 @@ Segment wantedSegment(const QGraphicsLayoutItem *item, Qt::Orientation direction
         return isHorizontal ? size.width() : size.height();
     };
     const QSizePolicy sizePolicy = item->sizePolicy();
-    const QSizePolicy::Policy policy
-        = isHorizontal ? sizePolicy.horizontalPolicy() : sizePolicy.verticalPolicy();
+    const QSizePolicy::Policy policy = isHorizontal ? sizePolicy.horizontalPolicy() : sizePolicy.verticalPolicy();
     segment.minimum = along(Qt::MinimumSize);
     segment.preferred = policy == QSizePolicy::Ignored ? segment.minimum : along(Qt::PreferredSize);
     segment.maximum = policy & QSizePolicy::GrowFlag ? along(Qt::MaximumSize) : segment.preferred;

@@ -99,9 +99,9 @@ qreal LinearLayoutPolicy::heightInWidth(Qt::SizeHint which, qreal width) const
     qreal height = 0;
     for (int i = 0; i < columns.size(); ++i) {
         if (m_entries[i].item)
-            height = qMax(height,
-                          totalSize({wantedSegment(m_entries[i].item, Qt::Vertical, columns[i].size)}, 0,
-                                    toSegmentSize(which)));
+            height = qMax(
+                height,
+                totalSize({wantedSegment(m_entries[i].item, Qt::Vertical, columns[i].size)}, 0, toSegmentSize(which)));
     }
     return height;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/scenewindow.h"
 
+#include "platform/toolkit/motion_p.h"
 #include "platform/toolkit/window.h"
 
 #include <QEvent>
@@ -16,11 +17,6 @@ Q_LOGGING_CATEGORY(lcSceneWindow, "touch.scenewindow")
 namespace {
 
 constexpr int transitionTime = 220;
-
-bool hasReducedMotion()
-{
-    return qgetenv("CLOCK_REDUCED_MOTION") == "1";
-}
 
 } // namespace
 
@@ -187,6 +183,11 @@ QRectF SceneWindow::placement(const QSizeF &windowSize) const
 }
 
 void SceneWindow::aboutToAppear() { }
+
+Window *SceneWindow::targetWindow() const
+{
+    return m_window;
+}
 
 void SceneWindow::setTransition(qreal progress)
 {

@@ -58,6 +58,8 @@ protected:
     virtual bool takesInput() const { return true; }
     virtual QRectF placement(const QSizeF &windowSize) const;
     virtual void aboutToAppear();
+    /** The window it appeared in last, or is about to appear in. */
+    Window *targetWindow() const;
     /** Paints one moment of the transition: 0 is gone, 1 is in its place. */
     virtual void setTransition(qreal progress);
 

@@ -35,9 +35,10 @@ struct Style
     QColor checkedBackground;
     QColor disabledBackground;
     QColor borderColor;
-    QColor focusColor;  ///< the ring around what has the keyboard focus
-    QColor accentColor; ///< selections, cursors, knobs
-    QColor promptColor; ///< a prompt in an empty field, a second line
+    QColor separatorColor; ///< the line between the rows of a list
+    QColor focusColor;     ///< the ring around what has the keyboard focus
+    QColor accentColor;    ///< selections, cursors, knobs
+    QColor promptColor;    ///< a prompt in an empty field, a second line
 
     // Shape
     qreal borderWidth = 0;

@@ -33,8 +33,7 @@ bool setMargins(Style &style, const QJsonValue &value, const Palette &)
     const QJsonArray sides = value.toArray();
     if (sides.size() != 4)
         return false;
-    style.*Member
-        = QMarginsF(sides[0].toDouble(), sides[1].toDouble(), sides[2].toDouble(), sides[3].toDouble());
+    style.*Member = QMarginsF(sides[0].toDouble(), sides[1].toDouble(), sides[2].toDouble(), sides[3].toDouble());
     return true;
 }
 
@@ -96,6 +95,7 @@ const QHash<QString, Setter> &setters()
         {QStringLiteral("checkedBackground"), setColor<&Style::checkedBackground>},
         {QStringLiteral("disabledBackground"), setColor<&Style::disabledBackground>},
         {QStringLiteral("borderColor"), setColor<&Style::borderColor>},
+        {QStringLiteral("separatorColor"), setColor<&Style::separatorColor>},
         {QStringLiteral("focusColor"), setColor<&Style::focusColor>},
         {QStringLiteral("accentColor"), setColor<&Style::accentColor>},
         {QStringLiteral("promptColor"), setColor<&Style::promptColor>},
@@ -131,8 +131,7 @@ QColor readColor(const QString &text, const Palette &palette)
     return color;
 }
 
-StyleProblem applyProperty(Style &style, const QString &property, const QJsonValue &value,
-                           const Palette &palette)
+StyleProblem applyProperty(Style &style, const QString &property, const QJsonValue &value, const Palette &palette)
 {
     const Setter setter = setters().value(property);
     if (!setter)

@@ -68,8 +68,7 @@ void PreparedText::setFit(Fit fit, Qt::Alignment lines)
 bool PreparedText::isTabular() const
 {
     return m_hasTabularDigits && m_fit != Fit::Wrap && !m_text.isEmpty()
-        && std::all_of(m_text.begin(), m_text.end(),
-                       [](QChar c) { return c.unicode() < firstComplexCharacter; });
+        && std::all_of(m_text.begin(), m_text.end(), [](QChar c) { return c.unicode() < firstComplexCharacter; });
 }
 
 QSizeF PreparedText::naturalSize(qreal width) const
@@ -118,8 +117,7 @@ void PreparedText::prepare(qreal width) const
     m_size = m_static.size();
 }
 
-void PreparedText::draw(QPainter *painter, const QRectF &rect, Qt::Alignment alignment,
-                        const QColor &color) const
+void PreparedText::draw(QPainter *painter, const QRectF &rect, Qt::Alignment alignment, const QColor &color) const
 {
     if (m_text.isEmpty())
         return;

@@ -104,11 +104,11 @@ void Theme::followDesktop()
     setVariant(window.lightness() < 128 ? Variant::Dark : Variant::Light);
 }
 
-std::shared_ptr<const Style> Theme::style(const QString &styleName, const QString &objectName,
-                                          const QMetaObject *type, bool inverted)
+std::shared_ptr<const Style> Theme::style(const QString &styleName, const QString &objectName, const QMetaObject *type,
+                                          bool inverted)
 {
-    const QString key = QLatin1String(type->className()) + QLatin1Char('|') + styleName + QLatin1Char('#')
-        + objectName + (inverted ? QLatin1String("|i") : QLatin1String());
+    const QString key = QLatin1String(type->className()) + QLatin1Char('|') + styleName + QLatin1Char('#') + objectName
+        + (inverted ? QLatin1String("|i") : QLatin1String());
     std::shared_ptr<const Style> &cached = m_styles[key];
     if (cached)
         return cached;

@@ -46,8 +46,8 @@ public:
     void followDesktop();
 
     /** The style of a widget. An unknown style name is as if none was given, and is warned about once. */
-    std::shared_ptr<const Style> style(const QString &styleName, const QString &objectName,
-                                       const QMetaObject *type, bool inverted = false);
+    std::shared_ptr<const Style> style(const QString &styleName, const QString &objectName, const QMetaObject *type,
+                                       bool inverted = false);
     bool hasStyle(const QString &styleName) const;
     /** A named colour of the palette; invalid if there is none. */
     QColor color(const QString &name, bool inverted = false) const;

@@ -30,8 +30,7 @@ int lineOf(const QByteArray &text, const QStringList &path)
 
 bool fail(const QByteArray &text, const QStringList &path, const QString &problem, QString *error)
 {
-    *error
-        = QStringLiteral("line %1: %2: %3").arg(lineOf(text, path)).arg(path.join(QLatin1Char('.')), problem);
+    *error = QStringLiteral("line %1: %2: %3").arg(lineOf(text, path)).arg(path.join(QLatin1Char('.')), problem);
     return false;
 }
 
@@ -71,13 +70,10 @@ bool ThemeFile::parse(const QByteArray &text, QJsonObject *root, QString *error)
     QJsonParseError parseError;
     *root = QJsonDocument::fromJson(text, &parseError).object();
     if (parseError.error != QJsonParseError::NoError) {
-        *error = QStringLiteral("line %1: %2")
-                     .arg(lineAt(text, parseError.offset))
-                     .arg(parseError.errorString());
+        *error = QStringLiteral("line %1: %2").arg(lineAt(text, parseError.offset)).arg(parseError.errorString());
         return false;
     }
-    static const QStringList sections{QStringLiteral("palettes"), QStringLiteral("classes"),
-                                      QStringLiteral("styles")};
+    static const QStringList sections{QStringLiteral("palettes"), QStringLiteral("classes"), QStringLiteral("styles")};
     for (auto it = root->begin(); it != root->end(); ++it) {
         if (!sections.contains(it.key()) || !it.value().isObject())
             return fail(text, {it.key()}, QStringLiteral("not a section of a theme"), error);
@@ -105,8 +101,7 @@ bool ThemeFile::readPalettes(const QByteArray &text, const QJsonObject &root, QS
     return true;
 }
 
-bool ThemeFile::readRules(const QByteArray &text, const QJsonObject &root, const QString &section,
-                          QString *error)
+bool ThemeFile::readRules(const QByteArray &text, const QJsonObject &root, const QString &section, QString *error)
 {
     const QJsonObject rules = root[section].toObject();
     const QString prefix = section == QLatin1String("classes") ? QStringLiteral(":") : QString();
@@ -120,8 +115,7 @@ bool ThemeFile::readRules(const QByteArray &text, const QJsonObject &root, const
     return true;
 }
 
-bool ThemeFile::checkRule(const QByteArray &text, const QString &name, const QJsonObject &rule,
-                          QString *error) const
+bool ThemeFile::checkRule(const QByteArray &text, const QString &name, const QJsonObject &rule, QString *error) const
 {
     for (auto it = rule.begin(); it != rule.end(); ++it) {
         if (it.key() == QLatin1String("extends") && it.value().isString())

@@ -28,8 +28,7 @@ private:
     bool parse(const QByteArray &text, QJsonObject *root, QString *error) const;
     bool readPalettes(const QByteArray &text, const QJsonObject &root, QString *error);
     bool readRules(const QByteArray &text, const QJsonObject &root, const QString &section, QString *error);
-    bool checkRule(const QByteArray &text, const QString &name, const QJsonObject &rule,
-                   QString *error) const;
+    bool checkRule(const QByteArray &text, const QString &name, const QJsonObject &rule, QString *error) const;
 
     QHash<QString, QJsonObject> m_rules;
     Palette m_dark;

@@ -90,8 +90,7 @@ QSizeF Widget::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
         return styledSize(which, {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX});
     // A layout of the toolkit has counted the padding in already.
     const QMarginsF padding = style().padding;
-    const QSizeF content
-        = layout() ? layout()->effectiveSizeHint(which, constraint).shrunkBy(padding) : QSizeF(0, 0);
+    const QSizeF content = layout() ? layout()->effectiveSizeHint(which, constraint).shrunkBy(padding) : QSizeF(0, 0);
     return styledSize(which, content);
 }
 
@@ -159,21 +158,21 @@ void Widget::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget 
                                                                          : style().disabledBackground);
 }
 
-void Widget::paintBackground(QPainter *painter, const QColor &fill) const
+void Widget::paintBackground(QPainter *painter, const QColor &fill, bool hasBorder) const
 {
     const Style &look = style();
-    const bool hasBorder = look.borderWidth > 0 && look.borderColor.isValid();
-    if (!fill.isValid() && !hasBorder)
+    const bool drawsBorder = hasBorder && look.borderWidth > 0 && look.borderColor.isValid();
+    if (!fill.isValid() && !drawsBorder)
         return;
-    if (look.radius <= 0 && !hasBorder) {
+    if (look.radius <= 0 && !drawsBorder) {
         painter->fillRect(rect(), fill);
         return;
     }
-    const qreal inset = hasBorder ? look.borderWidth / 2 : 0;
+    const qreal inset = drawsBorder ? look.borderWidth / 2 : 0;
     const qreal radius = qMin(look.radius, qMin(rect().width(), rect().height()) / 2);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(hasBorder ? QPen(look.borderColor, look.borderWidth) : QPen(Qt::NoPen));
+    painter->setPen(drawsBorder ? QPen(look.borderColor, look.borderWidth) : QPen(Qt::NoPen));
     painter->setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
     painter->drawRoundedRect(rect().adjusted(inset, inset, -inset, -inset), radius, radius);
     painter->restore();

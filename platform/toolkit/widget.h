@@ -61,7 +61,7 @@ protected:
 
     /** A size of content only, grown by the padding and bounded by the style's sizes. */
     QSizeF styledSize(Qt::SizeHint which, const QSizeF &content) const;
-    void paintBackground(QPainter *painter, const QColor &fill) const;
+    void paintBackground(QPainter *painter, const QColor &fill, bool hasBorder = true) const;
     /** Draws the ring if the focus came from the keyboard. */
     void paintFocusRing(QPainter *painter) const;
 

@@ -1,88 +1,81 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "platform/toolkit/applicationpage.h"
+#include "gallery.h"
 #include "platform/toolkit/applicationwindow.h"
-#include "platform/toolkit/button.h"
-#include "platform/toolkit/gridlayoutpolicy.h"
-#include "platform/toolkit/label.h"
-#include "platform/toolkit/layout.h"
-#include "platform/toolkit/linearlayoutpolicy.h"
-#include "platform/toolkit/sheet.h"
-#include "platform/toolkit/stylablewidget.h"
+#include "platform/toolkit/banner.h"
+#include "platform/toolkit/textedit.h"
 #include "platform/toolkit/theme.h"
 
+#include <QGuiApplication>
 #include <QSignalSpy>
 #include <QTest>
 
 using namespace Touch;
 
-namespace {
-
-class GalleryPage : public ApplicationPage
-{
-public:
-    void createContent() override
-    {
-        ApplicationPage::createContent();
-        setTitle(QStringLiteral("Gallery"));
-        auto *layout = new Layout(centralWidget());
-        auto *column = new LinearLayoutPolicy(layout, Qt::Vertical);
-        column->setContentsMargins(20, 20, 20, 20);
-        column->setSpacing(12);
-        auto *header = new Label(QStringLiteral("Alarms"));
-        header->setStyleName(QStringLiteral("CommonLargeHeader"));
-        auto *add = new Button;
-        add->setViewType(QStringLiteral("icon"));
-        add->setStyleName(QStringLiteral("CommonSmallIconButton"));
-        add->setIconID(QStringLiteral("icon-m-common-add"));
-        column->addItem(header);
-        column->addItem(add, Qt::AlignRight);
-        auto *wrapped
-            = new Label(QStringLiteral("A long text that needs more than one line because it says a lot of "
-                                       "things that nobody will ever read to the end."));
-        wrapped->setWordWrap(true);
-        column->addItem(wrapped);
-        auto *button = new Button(QStringLiteral("Delete"));
-        button->setStyleName(QStringLiteral("CommonSingleButton"));
-        column->addItem(button, Qt::AlignHCenter);
-        auto *primary = new Button(QStringLiteral("Save"));
-        primary->setStyleName(QStringLiteral("CommonPrimaryButton"));
-        column->addItem(primary);
-        column->addStretch();
-    }
-};
-
-} // namespace
-
+/** Takes the pictures of every control, to be looked at. */
 class TestGallery : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase();
+    void cleanup();
     void showsEveryControl_data();
     void showsEveryControl();
+
+private:
+    static bool save(Window &window, const char *what);
 };
+
+void TestGallery::initTestCase()
+{
+    qputenv("CLOCK_REDUCED_MOTION", "1");
+}
+
+void TestGallery::cleanup()
+{
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+bool TestGallery::save(Window &window, const char *what)
+{
+    const QString file
+        = QStringLiteral(PICTURE_DIR "/%1-%2.png").arg(QLatin1String(what), QLatin1String(QTest::currentDataTag()));
+    return window.grab().save(file);
+}
 
 void TestGallery::showsEveryControl_data()
 {
     QTest::addColumn<Theme::Variant>("variant");
-    QTest::newRow("dark") << Theme::Variant::Dark;
-    QTest::newRow("light") << Theme::Variant::Light;
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("dark") << Theme::Variant::Dark << Qt::LeftToRight;
+    QTest::newRow("light") << Theme::Variant::Light << Qt::LeftToRight;
+    QTest::newRow("mirrored") << Theme::Variant::Light << Qt::RightToLeft;
 }
 
 void TestGallery::showsEveryControl()
 {
     QFETCH(Theme::Variant, variant);
+    QFETCH(Qt::LayoutDirection, direction);
     Theme::instance().setVariant(variant);
+    QGuiApplication::setLayoutDirection(direction);
     ApplicationWindow window;
-    GalleryPage page;
+    Gallery::Page page;
     page.appear(&window);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QCOMPARE(window.windowTitle(), QStringLiteral("Gallery"));
-    const QString file
-        = QStringLiteral(PICTURE_DIR "/gallery-%1.png").arg(QLatin1String(QTest::currentDataTag()));
-    QVERIFY(window.grab().save(file));
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    Banner banner;
+    banner.setStyleName(QStringLiteral("InformationBanner"));
+    banner.setTitle(QStringLiteral("Alarm in 7 hours 25 minutes"));
+    banner.appear(&window);
+    QVERIFY(save(window, "page"));
+    banner.disappear();
+
+    Gallery::Editor editor;
+    editor.appear(&window);
+    editor.field->setFocus(Qt::TabFocusReason);
+    QVERIFY(save(window, "sheet"));
 }
 
 QTEST_MAIN(TestGallery)

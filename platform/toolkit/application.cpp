@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/toolkit/application.h"
+
+#include "platform/locale/locale.h"
+#include "platform/toolkit/applicationservice.h"
+#include "platform/toolkit/applicationwindow.h"
+#include "platform/toolkit/theme.h"
+
+#include <QEvent>
+#include <QFile>
+#include <QLoggingCategory>
+
+namespace Touch {
+
+Q_LOGGING_CATEGORY(lcApplication, "touch.application")
+
+Application::Application(int &argc, char **argv, const QString &appIdentifier, ApplicationService *service)
+    : QApplication(argc, argv)
+    , m_identifier(appIdentifier)
+    , m_service(service)
+{
+    setApplicationName(appIdentifier);
+    setDesktopFileName(appIdentifier);
+    // First of all: a second instance does nothing else.
+    if (m_service && !m_service->registerService())
+        m_service->handleServiceRegistrationFailure();
+    loadTheme();
+    Locale &locale = Locale::getDefault();
+    locale.connectSettings();
+    if (!locale.installTrCatalog(appIdentifier))
+        qCWarning(lcApplication).noquote() << "There are no texts for" << appIdentifier;
+    setLayoutDirection(locale.textDirection());
+}
+
+Application::~Application() = default;
+
+void Application::loadTheme()
+{
+    const QString file = QStringLiteral(":/theme/%1.json").arg(m_identifier);
+    QString error;
+    if (QFile::exists(file) && !Theme::instance().load(file, &error))
+        qCCritical(lcApplication).noquote() << "Cannot use the theme:" << error;
+}
+
+ApplicationWindow *Application::activeApplicationWindow()
+{
+    return qobject_cast<ApplicationWindow *>(Window::active());
+}
+
+bool Application::event(QEvent *event)
+{
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        Theme::instance().followDesktop();
+    return QApplication::event(event);
+}
+
+} // namespace Touch

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <memory>
+#include <QApplication>
+
+namespace Touch {
+
+class ApplicationService;
+class ApplicationWindow;
+
+/**
+ * The application: owns the service, and loads what bears its identifier, the theme ":/theme/<identifier>.json" and the
+ * translation catalogue. What is not there is left out.
+ */
+class Application : public QApplication
+{
+    Q_OBJECT
+
+public:
+    Application(int &argc, char **argv, const QString &appIdentifier, ApplicationService *service = nullptr);
+    ~Application() override;
+
+    QString identifier() const { return m_identifier; }
+    ApplicationService *service() const { return m_service.get(); }
+
+    /** The window the user works in, or null. */
+    static ApplicationWindow *activeApplicationWindow();
+
+protected:
+    bool event(QEvent *event) override;
+
+private:
+    void loadTheme();
+
+    QString m_identifier;
+    std::unique_ptr<ApplicationService> m_service;
+};
+
+} // namespace Touch

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/toolkit/listrows_p.h"
+#include "platform/toolkit/widget.h"
+#include "platform/toolkit/widgetrecycler.h"
+
+#include <memory>
+#include <QMap>
+#include <QPointer>
+#include <QSet>
+
+class QAbstractItemModel;
+class QVariantAnimation;
+
+namespace Touch {
+
+class CellCreator;
+
+/**
+ * The rows of a model as cells, one below the other; as tall as all of them, to be put into a viewport. Only cells that
+ * can be seen exist, and they are used again. Single insertions and removals are animated where the model asks for it.
+ * Does not own the model.
+ */
+class List : public Widget
+{
+    Q_OBJECT
+
+public:
+    /** Taps are for the cells themselves. */
+    enum SelectionMode { NoSelection };
+
+    explicit List(QGraphicsItem *parent = nullptr);
+    ~List() override;
+
+    QAbstractItemModel *itemModel() const { return m_model; }
+    void setItemModel(QAbstractItemModel *model);
+    CellCreator *cellCreator() const { return m_creator.get(); }
+    void setCellCreator(CellCreator *creator);
+    SelectionMode selectionMode() const { return m_selectionMode; }
+    void setSelectionMode(SelectionMode mode);
+    /** Rows are shown without group titles; that is the only way there is. */
+    bool showGroups() const { return false; }
+    void setShowGroups(bool showsGroups);
+    QString viewType() const { return m_viewType; }
+    void setViewType(const QString &viewType);
+
+    /** The cell of a row, or null while it cannot be seen. */
+    Widget *cellAt(int row) const { return m_cells.value(row); }
+    /** The row of a cell, or -1. */
+    int rowOf(const QGraphicsItem *cell) const;
+
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
+
+protected:
+    void styleChanged() override;
+    void exitDisplay() override;
+    QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
+    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
+    void resizeEvent(QGraphicsSceneResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void rowsInserted(int first, int last);
+    void rowsRemoved(int first, int last);
+    void dataChanged(int first, int last);
+    void rebuild();
+    void rekey(int first, int by);
+
+    bool isChangeAnimated(int first, int last) const;
+    void animateFrom(int row, qreal shift, Widget *cell, bool appears);
+    void setAnimationProgress(qreal progress);
+    void finishAnimation();
+
+    void scheduleUpdate();
+    void updateCells();
+    void placeCell(int row, Widget *cell);
+    QRectF visibleRect();
+    bool focusRow(int row);
+
+    QPointer<QAbstractItemModel> m_model;
+    std::unique_ptr<CellCreator> m_creator;
+    SelectionMode m_selectionMode = NoSelection;
+    QString m_viewType;
+    ListRows m_rows;
+
+    // Cells
+    QMap<int, Widget *> m_cells;
+    QSet<int> m_outdated;
+    WidgetRecycler m_recycler;
+    bool m_isUpdateScheduled = false;
+    QPointer<QGraphicsWidget> m_viewport;
+
+    // The change that is being animated
+    struct Change
+    {
+        int shiftedFrom = 0;
+        qreal shift = 0;
+        Widget *cell = nullptr;
+        bool appears = false;
+    };
+    Change m_change;
+    QVariantAnimation *m_animation = nullptr;
+};
+
+} // namespace Touch

@@ -1,0 +1,288 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/toolkit/pannableviewport.h"
+
+#include "platform/toolkit/contentlayout_p.h"
+
+#include <cmath>
+#include <QFocusEvent>
+#include <QGraphicsScene>
+#include <QGraphicsSceneMouseEvent>
+#include <QGraphicsSceneWheelEvent>
+#include <QTimerEvent>
+
+namespace Touch {
+
+namespace {
+
+constexpr qreal panThreshold = 10;
+constexpr int frameTime = 16;
+constexpr qreal wheelStep = 72; ///< pixels for one notch
+constexpr qreal wheelNotch = 120;
+constexpr qreal staleMove = 0.08; ///< seconds after which a resting finger no longer flicks
+constexpr qreal smoothing = 0.6;
+
+} // namespace
+
+PannableViewport::PannableViewport(QGraphicsItem *parent)
+    : Widget(parent)
+    , m_layout(new ContentLayout(this, [this] { arrange(); }))
+{
+    setFlag(ItemClipsChildrenToShape);
+    setFiltersChildEvents(true);
+    setAcceptedMouseButtons(Qt::LeftButton);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+PannableViewport::~PannableViewport() = default;
+
+void PannableViewport::setWidget(QGraphicsWidget *widget)
+{
+    if (m_widget == widget)
+        return;
+    delete m_widget;
+    m_widget = widget;
+    if (!widget)
+        return;
+    m_layout->setContent(widget);
+}
+
+void PannableViewport::setPanDirection(Qt::Orientations directions)
+{
+    if (m_directions == directions)
+        return;
+    m_directions = directions;
+    if (m_isPanning)
+        ungrabMouse();
+    stopMoving();
+    if (!pans(Qt::Horizontal))
+        m_x.jumpTo(0);
+    if (!pans(Qt::Vertical))
+        m_y.jumpTo(0);
+    arrange();
+}
+
+QPointF PannableViewport::position() const
+{
+    return {m_x.position(), m_y.position()};
+}
+
+void PannableViewport::setPosition(const QPointF &position)
+{
+    stopMoving();
+    if (pans(Qt::Horizontal))
+        m_x.jumpTo(position.x());
+    if (pans(Qt::Vertical))
+        m_y.jumpTo(position.y());
+    moveWidget();
+}
+
+QPointF PannableViewport::range() const
+{
+    return {m_x.maximum(), m_y.maximum()};
+}
+
+void PannableViewport::ensureVisible(const QRectF &rect)
+{
+    QPointF wanted = position();
+    const auto shift = [](qreal at, qreal length, qreal from, qreal to) {
+        return from < at ? from : to > at + length ? to - length : at;
+    };
+    wanted.setX(shift(wanted.x(), size().width(), rect.left(), rect.right()));
+    wanted.setY(shift(wanted.y(), size().height(), rect.top(), rect.bottom()));
+    if (wanted != position())
+        setPosition(wanted);
+}
+
+void PannableViewport::arrange()
+{
+    if (!m_widget)
+        return;
+    QSizeF wanted = size();
+    if (pans(Qt::Horizontal))
+        wanted.setWidth(qMax(wanted.width(), m_widget->effectiveSizeHint(Qt::PreferredSize).width()));
+    const QSizeF constraint(wanted.width(), -1);
+    wanted.setHeight(qMax(wanted.height(), m_widget->effectiveSizeHint(Qt::PreferredSize, constraint).height()));
+    m_widget->resize(wanted);
+    m_x.setMaximum(pans(Qt::Horizontal) ? wanted.width() - size().width() : 0);
+    m_y.setMaximum(pans(Qt::Vertical) ? wanted.height() - size().height() : 0);
+    if (!isMoving()) {
+        m_x.jumpTo(m_x.position());
+        m_y.jumpTo(m_y.position());
+    }
+    moveWidget();
+}
+
+void PannableViewport::moveWidget()
+{
+    if (!m_widget)
+        return;
+    // Whole pixels keep the text sharp.
+    m_widget->setPos(-std::round(m_x.position()), -std::round(m_y.position()));
+    if (m_reported == position())
+        return;
+    m_reported = position();
+    emit positionChanged(m_reported);
+}
+
+bool PannableViewport::press(const QGraphicsSceneMouseEvent *event)
+{
+    const bool wasMoving = m_timer.isActive();
+    stopMoving();
+    m_isPressed = event->button() == Qt::LeftButton;
+    m_pressPos = mapFromScene(event->scenePos());
+    return wasMoving;
+}
+
+bool PannableViewport::turnsIntoPanning(const QGraphicsSceneMouseEvent *event) const
+{
+    if (!m_isPressed || m_isPanning)
+        return false;
+    const QPointF way = mapFromScene(event->scenePos()) - m_pressPos;
+    const bool isSideways = std::abs(way.x()) > std::abs(way.y());
+    return pans(isSideways ? Qt::Horizontal : Qt::Vertical)
+        && qMax(std::abs(way.x()), std::abs(way.y())) >= panThreshold;
+}
+
+void PannableViewport::startPanning(const QGraphicsSceneMouseEvent *event)
+{
+    m_isPanning = true;
+    m_lastPos = mapFromScene(event->scenePos());
+    m_grip = m_lastPos + QPointF(m_x.dragPosition(), m_y.dragPosition());
+    m_velocity = {};
+    m_moveClock.start();
+    // Takes the mouse from the control that was pressed, which cancels its press.
+    grabMouse();
+}
+
+void PannableViewport::pan(const QGraphicsSceneMouseEvent *event)
+{
+    const QPointF at = mapFromScene(event->scenePos());
+    const qreal seconds = qMax(0.001, m_moveClock.restart() / 1000.0);
+    m_velocity = m_velocity * (1 - smoothing) + (m_lastPos - at) / seconds * smoothing;
+    m_lastPos = at;
+    if (pans(Qt::Horizontal))
+        m_x.dragTo(m_grip.x() - at.x());
+    if (pans(Qt::Vertical))
+        m_y.dragTo(m_grip.y() - at.y());
+    moveWidget();
+}
+
+void PannableViewport::release()
+{
+    m_isPressed = false;
+    if (!m_isPanning)
+        return;
+    m_isPanning = false;
+    const bool isStale = m_moveClock.elapsed() / 1000.0 > staleMove;
+    m_x.flick(pans(Qt::Horizontal) && !isStale ? m_velocity.x() : 0);
+    m_y.flick(pans(Qt::Vertical) && !isStale ? m_velocity.y() : 0);
+    startMoving();
+}
+
+void PannableViewport::startMoving()
+{
+    m_frameClock.start();
+    m_timer.start(frameTime, Qt::PreciseTimer, this);
+}
+
+void PannableViewport::stopMoving()
+{
+    m_timer.stop();
+    m_x.stop();
+    m_y.stop();
+}
+
+bool PannableViewport::sceneEventFilter(QGraphicsItem *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::GraphicsSceneMousePress:
+    case QEvent::GraphicsSceneMouseDoubleClick:
+        // Stopping it is all that such a press does.
+        return press(static_cast<QGraphicsSceneMouseEvent *>(event));
+    case QEvent::GraphicsSceneMouseMove: {
+        auto *mouse = static_cast<QGraphicsSceneMouseEvent *>(event);
+        if (!turnsIntoPanning(mouse))
+            break;
+        startPanning(mouse);
+        return true;
+    }
+    case QEvent::GraphicsSceneMouseRelease:
+        m_isPressed = false;
+        break;
+    case QEvent::FocusIn: {
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        if (m_widget && (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason))
+            ensureVisible(m_widget->mapRectFromItem(watched, watched->boundingRect()));
+        break;
+    }
+    default:
+        break;
+    }
+    return Widget::sceneEventFilter(watched, event);
+}
+
+void PannableViewport::mousePressEvent(QGraphicsSceneMouseEvent *event)
+{
+    press(event);
+    event->accept();
+}
+
+void PannableViewport::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
+{
+    if (m_isPanning)
+        pan(event);
+    else if (turnsIntoPanning(event))
+        startPanning(event);
+}
+
+void PannableViewport::mouseReleaseEvent(QGraphicsSceneMouseEvent *)
+{
+    if (m_isPanning)
+        ungrabMouse();
+    else
+        release();
+}
+
+void PannableViewport::ungrabMouseEvent(QEvent *event)
+{
+    release();
+    Widget::ungrabMouseEvent(event);
+}
+
+void PannableViewport::wheelEvent(QGraphicsSceneWheelEvent *event)
+{
+    const bool isVertical = event->orientation() == Qt::Vertical && pans(Qt::Vertical);
+    if (!isVertical && !pans(Qt::Horizontal)) {
+        event->ignore();
+        return;
+    }
+    (isVertical ? m_y : m_x).push(-event->delta() / wheelNotch * wheelStep);
+    startMoving();
+    event->accept();
+}
+
+void PannableViewport::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_timer.timerId()) {
+        Widget::timerEvent(event);
+        return;
+    }
+    const qreal seconds = m_frameClock.restart() / 1000.0;
+    const bool movesX = m_x.advance(seconds);
+    const bool movesY = m_y.advance(seconds);
+    if (!movesX && !movesY)
+        m_timer.stop();
+    moveWidget();
+}
+
+void PannableViewport::exitDisplay()
+{
+    stopMoving();
+    m_x.jumpTo(m_x.position());
+    m_y.jumpTo(m_y.position());
+    moveWidget();
+    Widget::exitDisplay();
+}
+
+} // namespace Touch

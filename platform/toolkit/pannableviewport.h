@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/toolkit/kinetics_p.h"
+#include "platform/toolkit/widget.h"
+
+#include <QBasicTimer>
+#include <QElapsedTimer>
+#include <QPointer>
+
+namespace Touch {
+
+class ContentLayout;
+
+/**
+ * Shows a part of a widget that may be larger than itself and lets the user pan it: by dragging, with a flick that runs
+ * on, by wheel or by moving the focus. A press that turns into panning is taken from the control beneath. Owns its
+ * widget. Nothing ticks once it rests.
+ */
+class PannableViewport : public Widget
+{
+    Q_OBJECT
+
+public:
+    explicit PannableViewport(QGraphicsItem *parent = nullptr);
+    ~PannableViewport() override;
+
+    QGraphicsWidget *widget() const { return m_widget; }
+    /** Takes the widget; the one before is deleted. */
+    void setWidget(QGraphicsWidget *widget);
+
+    /** Vertical unless set; with none, the widget cannot be panned and goes back to its start. */
+    Qt::Orientations panDirection() const { return m_directions; }
+    void setPanDirection(Qt::Orientations directions);
+
+    /** How far the widget is moved, in pixels from its start; positive is towards its end. */
+    QPointF position() const;
+    void setPosition(const QPointF &position);
+    /** The largest position. */
+    QPointF range() const;
+    bool isPanning() const { return m_isPanning; }
+    bool isMoving() const { return m_isPanning || m_timer.isActive(); }
+    /** Moves as little as needed to show a rectangle of the widget. */
+    void ensureVisible(const QRectF &rect);
+
+signals:
+    void positionChanged(const QPointF &position);
+
+protected:
+    bool sceneEventFilter(QGraphicsItem *watched, QEvent *event) override;
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    void ungrabMouseEvent(QEvent *event) override;
+    void wheelEvent(QGraphicsSceneWheelEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+    void exitDisplay() override;
+
+private:
+    /** Returns whether the press only stopped what was moving. */
+    bool press(const QGraphicsSceneMouseEvent *event);
+    bool turnsIntoPanning(const QGraphicsSceneMouseEvent *event) const;
+    void startPanning(const QGraphicsSceneMouseEvent *event);
+    void pan(const QGraphicsSceneMouseEvent *event);
+    void release();
+    void startMoving();
+    void stopMoving();
+    void arrange();
+    void moveWidget();
+    bool pans(Qt::Orientation direction) const { return m_directions.testFlag(direction); }
+
+    ContentLayout *m_layout; ///< owned by the base
+    QPointer<QGraphicsWidget> m_widget;
+    Qt::Orientations m_directions = Qt::Vertical;
+    Kinetics m_x;
+    Kinetics m_y;
+    QPointF m_reported;
+
+    // While a finger is down
+    bool m_isPressed = false;
+    bool m_isPanning = false;
+    QPointF m_pressPos;
+    QPointF m_grip; ///< where on the widget the finger holds it
+    QPointF m_lastPos;
+    QPointF m_velocity;
+    QElapsedTimer m_moveClock;
+
+    // While it runs on
+    QBasicTimer m_timer;
+    QElapsedTimer m_frameClock;
+};
+
+} // namespace Touch

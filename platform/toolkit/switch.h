@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/toolkit/button.h"
+
+class QVariantAnimation;
+
+namespace Touch {
+
+/** A checkable pill with a knob that slides over. */
+class Switch : public Button
+{
+    Q_OBJECT
+
+public:
+    explicit Switch(QGraphicsItem *parent = nullptr);
+    ~Switch() override;
+
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
+
+protected:
+    void exitDisplay() override;
+
+private:
+    void slideKnob();
+    void setKnob(qreal position);
+
+    qreal m_knob = 0; ///< 0 off, 1 on
+    QVariantAnimation *m_animation = nullptr;
+};
+
+} // namespace Touch

@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/toolkit/textedit.h"
+
+#include "platform/toolkit/lineeditproxy_p.h"
+#include "platform/toolkit/theme.h"
+
+#include <QGraphicsSceneMouseEvent>
+#include <QLineEdit>
+#include <QPainter>
+
+namespace Touch {
+
+namespace {
+
+QPalette editPalette(const Style &style)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::transparent);
+    palette.setColor(QPalette::Window, Qt::transparent);
+    palette.setColor(QPalette::Text, style.color);
+    palette.setColor(QPalette::PlaceholderText, style.promptColor);
+    palette.setColor(QPalette::Highlight, style.accentColor);
+    palette.setColor(QPalette::HighlightedText, style.checkedColor);
+    palette.setColor(QPalette::Disabled, QPalette::Text, style.disabledColor);
+    return palette;
+}
+
+} // namespace
+
+TextEdit::TextEdit(const QString &text, QGraphicsItem *parent)
+    : Widget(parent)
+    , m_proxy(new LineEditProxy(this))
+    , m_edit(new QLineEdit(text))
+{
+    m_edit->setFrame(false);
+    m_edit->setAttribute(Qt::WA_TranslucentBackground);
+    m_edit->setContextMenuPolicy(Qt::NoContextMenu);
+    m_proxy->setWidget(m_edit);
+    setFocusProxy(m_proxy);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(m_edit, &QLineEdit::textChanged, this, &TextEdit::textChanged);
+    connect(m_edit, &QLineEdit::returnPressed, this, &TextEdit::returnPressed);
+    connect(m_proxy, &LineEditProxy::gainedFocus, this, [this](Qt::FocusReason reason) {
+        update();
+        emit gainedFocus(reason);
+    });
+    connect(m_proxy, &LineEditProxy::lostFocus, this, [this](Qt::FocusReason reason) {
+        update();
+        emit lostFocus(reason);
+    });
+}
+
+TextEdit::TextEdit(QGraphicsItem *parent)
+    : TextEdit(QString(), parent)
+{ }
+
+TextEdit::~TextEdit() = default;
+
+QString TextEdit::text() const
+{
+    return m_edit->text();
+}
+
+void TextEdit::setText(const QString &text)
+{
+    m_edit->setText(text);
+}
+
+QString TextEdit::prompt() const
+{
+    return m_edit->placeholderText();
+}
+
+void TextEdit::setPrompt(const QString &prompt)
+{
+    m_edit->setPlaceholderText(prompt);
+}
+
+int TextEdit::maxLength() const
+{
+    return m_edit->maxLength();
+}
+
+void TextEdit::setMaxLength(int length)
+{
+    m_edit->setMaxLength(length);
+}
+
+int TextEdit::cursorPosition() const
+{
+    return m_edit->cursorPosition();
+}
+
+void TextEdit::setCursorPosition(int position)
+{
+    m_edit->setCursorPosition(position);
+}
+
+QString TextEdit::selectedText() const
+{
+    return m_edit->selectedText();
+}
+
+void TextEdit::styleChanged()
+{
+    m_isStyled = false;
+    Widget::styleChanged();
+    // Not before there is a scene: the style may still change several times until then.
+    if (scene())
+        applyStyle();
+}
+
+void TextEdit::applyStyle()
+{
+    if (m_isStyled)
+        return;
+    m_isStyled = true;
+    m_edit->setFont(style().font());
+    m_edit->setPalette(editPalette(style()));
+    placeEdit();
+}
+
+void TextEdit::placeEdit()
+{
+    m_proxy->setGeometry(paddedRect());
+}
+
+bool TextEdit::event(QEvent *event)
+{
+    if (event->type() == QEvent::Polish)
+        applyStyle();
+    return Widget::event(event);
+}
+
+void TextEdit::resizeEvent(QGraphicsSceneResizeEvent *event)
+{
+    Widget::resizeEvent(event);
+    applyStyle();
+    placeEdit();
+}
+
+void TextEdit::mousePressEvent(QGraphicsSceneMouseEvent *event)
+{
+    m_proxy->setFocus(Qt::MouseFocusReason);
+    event->accept();
+}
+
+QSizeF TextEdit::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
+{
+    if (which == Qt::MaximumSize)
+        return Widget::sizeHint(which, constraint);
+    return styledSize(which, {0, qreal(m_edit->sizeHint().height())});
+}
+
+void TextEdit::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
+{
+    paintBackground(painter, style().background);
+    if (!m_proxy->hasFocus())
+        return;
+    const QRectF ring = rect().adjusted(1, 1, -1, -1);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(style().focusColor, 2));
+    painter->drawRoundedRect(ring, style().radius, style().radius);
+    painter->restore();
+}
+
+} // namespace Touch

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/toolkit/widget.h"
+
+class QLineEdit;
+
+namespace Touch {
+
+class LineEditProxy;
+
+/** A line of text to edit. The editing is Qt's own line edit, so input methods, selection and clipboard work. */
+class TextEdit : public Widget
+{
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
+    Q_PROPERTY(QString prompt READ prompt WRITE setPrompt)
+    Q_PROPERTY(int maxLength READ maxLength WRITE setMaxLength)
+    Q_PROPERTY(int cursorPosition READ cursorPosition WRITE setCursorPosition)
+
+public:
+    explicit TextEdit(const QString &text = QString(), QGraphicsItem *parent = nullptr);
+    explicit TextEdit(QGraphicsItem *parent);
+    ~TextEdit() override;
+
+    QString text() const;
+    void setText(const QString &text);
+    /** Shown while the text is empty. */
+    QString prompt() const;
+    void setPrompt(const QString &prompt);
+    /** In characters; what is longer is cut. */
+    int maxLength() const;
+    void setMaxLength(int length);
+    int cursorPosition() const;
+    void setCursorPosition(int position);
+    QString selectedText() const;
+
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
+
+signals:
+    void gainedFocus(Qt::FocusReason reason);
+    void lostFocus(Qt::FocusReason reason);
+    void returnPressed();
+    void textChanged();
+
+protected:
+    void styleChanged() override;
+    QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
+    void resizeEvent(QGraphicsSceneResizeEvent *event) override;
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    void applyStyle();
+    void placeEdit();
+
+    LineEditProxy *m_proxy;
+    QLineEdit *m_edit; ///< owned by the proxy
+    bool m_isStyled = false;
+};
+
+} // namespace Touch

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "gallery.h"
+
+#include "platform/toolkit/basicsheetheader.h"
+#include "platform/toolkit/button.h"
+#include "platform/toolkit/gridlayoutpolicy.h"
+#include "platform/toolkit/imagewidget.h"
+#include "platform/toolkit/label.h"
+#include "platform/toolkit/layout.h"
+#include "platform/toolkit/linearlayoutpolicy.h"
+#include "platform/toolkit/list.h"
+#include "platform/toolkit/pannableviewport.h"
+#include "platform/toolkit/separator.h"
+#include "platform/toolkit/stylablewidget.h"
+#include "platform/toolkit/switch.h"
+#include "platform/toolkit/textedit.h"
+#include "rows.h"
+
+#include <QAction>
+
+using namespace Touch;
+
+namespace Gallery {
+
+namespace {
+
+template <typename Control, typename... Arguments>
+Control *make(const char *styleName, Arguments... arguments)
+{
+    auto *control = new Control(arguments...);
+    control->setStyleName(QString::fromLatin1(styleName));
+    return control;
+}
+
+} // namespace
+
+Page::Page()
+{
+    setTitle(QStringLiteral("Gallery"));
+}
+
+void Page::createContent()
+{
+    ApplicationPage::createContent();
+    auto *column = new LinearLayoutPolicy(new Layout(centralWidget()), Qt::Vertical);
+    column->addItem(make<Separator>("CommonSpacer"));
+    column->addItem(makeHeader());
+    column->addItem(makeButtons());
+    column->addItem(make<Separator>("CommonItemDivider"));
+    column->addItem(makeSwitches());
+    column->addItem(make<Separator>("CommonItemDivider"));
+    viewport = new PannableViewport;
+    list = new List;
+    list->setStyleName(QStringLiteral("CommonListWithSeparators"));
+    list->setCellCreator(new RowCreator);
+    auto *rows = new Rows(this);
+    rows->fill(1000);
+    list->setItemModel(rows);
+    viewport->setWidget(list);
+    column->addItem(viewport);
+}
+
+QGraphicsWidget *Page::makeHeader()
+{
+    auto *panel = make<StylableWidget>("CommonLargeGroupHeaderPanel");
+    auto *row = new LinearLayoutPolicy(new Layout(panel), Qt::Horizontal);
+    row->addItem(make<Label>("CommonLargeHeader", QStringLiteral("Alarms")));
+    auto *add = make<Button>("CommonSmallIconButton", QStringLiteral("New alarm"));
+    add->setViewType(QStringLiteral("icon"));
+    add->setIconID(QStringLiteral("icon-m-common-add"));
+    add->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    row->addItem(add);
+    return panel;
+}
+
+QGraphicsWidget *Page::makeButtons()
+{
+    auto *panel = make<StylableWidget>("CommonPanelNoFeedback");
+    auto *grid = new GridLayoutPolicy(new Layout(panel));
+    grid->setSpacing(12);
+    auto *wrapped = new Label(QStringLiteral("A label that wraps: it takes the lines that it needs and no more, in the "
+                                             "width that it is given."));
+    wrapped->setWordWrap(true);
+    grid->addItem(wrapped, 0, 0, 1, 2);
+    grid->addItem(new Button(QStringLiteral("Plain")), 1, 0);
+    grid->addItem(make<Button>("CommonPrimaryButton", QStringLiteral("Primary")), 1, 1);
+    auto *checked = new Button(QStringLiteral("Checked"));
+    checked->setCheckable(true);
+    checked->setChecked(true);
+    checked->setIconID(QStringLiteral("icon-m-common-done"));
+    grid->addItem(checked, 2, 0);
+    auto *disabled = new Button(QStringLiteral("Disabled"));
+    disabled->setEnabled(false);
+    grid->addItem(disabled, 2, 1);
+    return panel;
+}
+
+QGraphicsWidget *Page::makeSwitches()
+{
+    auto *panel = make<StylableWidget>("CommonPanel");
+    auto *grid = new GridLayoutPolicy(new Layout(panel));
+    grid->addItem(make<Label>("CommonSubTitleTop", QStringLiteral("Repeat")), 0, 0);
+    grid->addItem(make<Label>("CommonTitleBottom", QStringLiteral("Monday, Tuesday, Wednesday, Thursday, Friday")), 1,
+                  0);
+    grid->addItem(new Switch, 0, 1, 2, 1);
+    toggle = new Switch;
+    toggle->setChecked(true);
+    grid->addItem(toggle, 0, 2, 2, 1);
+    grid->addItem(make<ImageWidget>("CommonDrillDownIcon", QStringLiteral("icon-m-common-drilldown-arrow")), 0, 3, 2,
+                  1);
+    return panel;
+}
+
+Editor::Editor()
+{
+    setStyleName(QStringLiteral("CommonApplicationPage"));
+    auto *header = new BasicSheetHeader;
+    header->setNegativeAction(new QAction(QStringLiteral("Cancel"), this));
+    header->setPositiveAction(new QAction(QStringLiteral("Save"), this));
+    setHeaderWidget(header);
+    auto *column = new LinearLayoutPolicy(new Layout(centralWidget()), Qt::Vertical);
+    column->addItem(make<Separator>("CommonSpacer"));
+    field = make<TextEdit>("CommonSingleInputField", QStringLiteral("Morning run"));
+    column->addItem(field);
+    auto *empty = make<TextEdit>("CommonSingleInputField");
+    empty->setPrompt(QStringLiteral("Title"));
+    column->addItem(make<Separator>("CommonSpacer"));
+    column->addItem(empty);
+    column->addItem(makeTime(), Qt::AlignCenter);
+    column->addStretch();
+    auto *panel = make<StylableWidget>("CommonPanelNoFeedback");
+    auto *row = new LinearLayoutPolicy(new Layout(panel), Qt::Horizontal);
+    row->addItem(make<Button>("CommonDestructiveButton", QStringLiteral("Delete")), Qt::AlignCenter);
+    column->addItem(panel);
+}
+
+QGraphicsWidget *Editor::makeTime()
+{
+    auto *time = new Label(QStringLiteral("11:40"));
+    time->setObjectName(QStringLiteral("galleryTime"));
+    time->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    return time;
+}
+
+} // namespace Gallery

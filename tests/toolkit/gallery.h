@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/toolkit/applicationpage.h"
+#include "platform/toolkit/sheet.h"
+
+namespace Touch {
+class List;
+class PannableViewport;
+class Switch;
+class TextEdit;
+} // namespace Touch
+
+namespace Gallery {
+
+/** A page with every control and a long list. */
+class Page : public Touch::ApplicationPage
+{
+    Q_OBJECT
+
+public:
+    Page();
+    void createContent() override;
+
+    Touch::List *list = nullptr;
+    Touch::PannableViewport *viewport = nullptr;
+    Touch::Switch *toggle = nullptr;
+
+private:
+    QGraphicsWidget *makeHeader();
+    QGraphicsWidget *makeButtons();
+    QGraphicsWidget *makeSwitches();
+};
+
+/** A sheet with a header and a field. */
+class Editor : public Touch::Sheet
+{
+    Q_OBJECT
+
+public:
+    Editor();
+
+    Touch::TextEdit *field = nullptr;
+
+private:
+    QGraphicsWidget *makeTime();
+};
+
+} // namespace Gallery

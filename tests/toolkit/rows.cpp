@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "rows.h"
+
+#include "platform/toolkit/widgetrecycler.h"
+
+namespace Gallery {
+
+Rows::Rows(QObject *parent)
+    : AbstractItemModel(parent)
+{ }
+
+void Rows::fill(int count)
+{
+    beginResetModel();
+    m_texts.clear();
+    for (int i = 0; i < count; ++i)
+        m_texts.append(QStringLiteral("Row %1").arg(i));
+    endResetModel();
+}
+
+void Rows::insert(int row, const QString &text)
+{
+    beginInsertRows({}, row, row, true);
+    m_texts.insert(row, text);
+    endInsertRows();
+}
+
+void Rows::remove(int row)
+{
+    beginRemoveRows({}, row, row, true);
+    m_texts.removeAt(row);
+    endRemoveRows();
+}
+
+void Rows::change(int row, const QString &text)
+{
+    m_texts[row] = text;
+    emit dataChanged(index(row, 0), index(row, 0));
+}
+
+int Rows::rowCount(const QModelIndex &) const
+{
+    return int(m_texts.size());
+}
+
+int Rows::columnCount(const QModelIndex &) const
+{
+    return 1;
+}
+
+QVariant Rows::data(const QModelIndex &index, int role) const
+{
+    return role == Qt::DisplayRole ? m_texts.value(index.row()) : QVariant();
+}
+
+Touch::Widget *RowCreator::createCell(const QModelIndex &index, Touch::WidgetRecycler &recycler)
+{
+    auto *cell = qobject_cast<RowCell *>(recycler.take(QStringLiteral("RowCell")));
+    if (!cell) {
+        cell = new RowCell;
+        cell->setStyleName(QStringLiteral("CommonSheetHeaderButton"));
+        ++made;
+        QObject::connect(cell, &Touch::Button::clicked, cell, [this] {
+            if (clicks)
+                ++*clicks;
+        });
+    }
+    updateCell(index, cell);
+    return cell;
+}
+
+void RowCreator::updateCell(const QModelIndex &index, Touch::Widget *cell)
+{
+    ++updated;
+    static_cast<RowCell *>(cell)->setText(index.data(Qt::DisplayRole).toString());
+}
+
+} // namespace Gallery

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/toolkit/abstractitemmodel.h"
+#include "platform/toolkit/button.h"
+#include "platform/toolkit/cellcreator.h"
+
+namespace Gallery {
+
+/** Texts, one a row; single changes are animated. */
+class Rows : public Touch::AbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    explicit Rows(QObject *parent = nullptr);
+
+    void fill(int count);
+    void insert(int row, const QString &text);
+    void remove(int row);
+    void change(int row, const QString &text);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    using AbstractItemModel::itemData;
+    int groupCount() const override { return -1; }
+    int rowCountInGroup(int) const override { return rowCount(); }
+    QString groupTitle(int) const override { return {}; }
+    QVariant itemData(int, int, int) const override { return {}; }
+
+private:
+    QStringList m_texts;
+};
+
+/** A row that can be tapped. */
+class RowCell : public Touch::Button
+{
+    Q_OBJECT
+};
+
+class RowCreator : public Touch::CellCreator
+{
+public:
+    Touch::Widget *createCell(const QModelIndex &index, Touch::WidgetRecycler &recycler) override;
+    void updateCell(const QModelIndex &index, Touch::Widget *cell) override;
+    QSizeF cellSize() const override { return {0, 64}; }
+
+    int made = 0;
+    int updated = 0;
+    int *clicks = nullptr; ///< counted when a cell is clicked
+};
+
+} // namespace Gallery
