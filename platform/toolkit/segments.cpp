@@ -101,6 +101,11 @@ void widenSpan(QList<Segment> &segments, int first, int last, const Segment &wan
         }
         segment.isExpanding = segment.isExpanding || wanted.isExpanding;
     }
+    // What is too small together grows beyond its maximum.
+    if (totalSize(spanned, spacing, SegmentSize::Maximum) < wanted.preferred) {
+        for (Segment &segment : spanned)
+            segment.maximum = qMax(segment.maximum, wanted.preferred);
+    }
     QList<Segment> atMinimum = spanned;
     for (Segment &segment : atMinimum)
         segment.preferred = segment.minimum;
@@ -108,11 +113,12 @@ void widenSpan(QList<Segment> &segments, int first, int last, const Segment &wan
     distribute(spanned, 0, wanted.preferred, spacing);
     for (int i = 0; i < spanned.size(); ++i) {
         Segment &segment = segments[first + i];
+        const bool wasEmpty = segment.isEmpty;
         segment.isEmpty = spanned[i].isEmpty;
         segment.isExpanding = spanned[i].isExpanding;
         segment.minimum = qMax(segment.minimum, atMinimum[i].size);
         segment.preferred = qMax(qMax(segment.preferred, spanned[i].size), segment.minimum);
-        segment.maximum = qMax(spanned[i].maximum, segment.preferred);
+        segment.maximum = qMax(qMax(segment.maximum, wasEmpty ? wanted.maximum : 0), segment.preferred);
     }
 }
 

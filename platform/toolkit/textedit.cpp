@@ -37,6 +37,8 @@ TextEdit::TextEdit(const QString &text, QGraphicsItem *parent)
     m_edit->setAttribute(Qt::WA_TranslucentBackground);
     m_edit->setContextMenuPolicy(Qt::NoContextMenu);
     m_proxy->setWidget(m_edit);
+    // The field hands on the focus it is given; Tab goes to the line edit itself.
+    setFlag(ItemIsFocusable);
     setFocusProxy(m_proxy);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(m_edit, &QLineEdit::textChanged, this, &TextEdit::textChanged);
@@ -118,6 +120,9 @@ void TextEdit::applyStyle()
     m_isStyled = true;
     m_edit->setFont(style().font());
     m_edit->setPalette(editPalette(style()));
+    // The line edit follows its text; when mirrored, any text starts on the right.
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    m_edit->setAlignment(Qt::AlignVCenter | (isMirrored ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeft));
     placeEdit();
 }
 
@@ -128,7 +133,9 @@ void TextEdit::placeEdit()
 
 bool TextEdit::event(QEvent *event)
 {
-    if (event->type() == QEvent::Polish)
+    if (event->type() == QEvent::LayoutDirectionChange)
+        m_isStyled = false;
+    if (event->type() == QEvent::Polish || event->type() == QEvent::LayoutDirectionChange)
         applyStyle();
     return Widget::event(event);
 }

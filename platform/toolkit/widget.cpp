@@ -31,8 +31,11 @@ void Widget::setStyleName(const QString &styleName)
 
 const Style &Widget::style() const
 {
-    if (!m_style)
-        m_style = Theme::instance().style(m_styleName, objectName(), metaObject(), m_isInverted);
+    if (!m_style || m_styledClass != metaObject()) {
+        m_isStyleEarly = m_style != nullptr;
+        m_styledClass = metaObject();
+        m_style = Theme::instance().style(m_styleName, objectName(), m_styledClass, m_isInverted);
+    }
     return *m_style;
 }
 
@@ -69,6 +72,7 @@ void Widget::refreshStyle()
     const Window *window = hostWindow();
     m_isInverted = window && window->isInverted();
     m_style.reset();
+    m_isStyleEarly = false;
     styleChanged();
 }
 
@@ -127,6 +131,14 @@ QVariant Widget::itemChange(GraphicsItemChange change, const QVariant &value)
         refreshDisplay();
     }
     return QGraphicsWidget::itemChange(change, value);
+}
+
+void Widget::polishEvent()
+{
+    // What was derived from the style of a base class is wrong for this one.
+    if (m_isStyleEarly || (m_style && m_styledClass != metaObject()))
+        refreshStyle();
+    QGraphicsWidget::polishEvent();
 }
 
 void Widget::changeEvent(QEvent *event)

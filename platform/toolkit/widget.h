@@ -55,6 +55,7 @@ protected:
 
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
     QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
+    void polishEvent() override;
     void changeEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
@@ -71,6 +72,8 @@ private:
     bool m_hasKeyboardFocus = false;
     bool m_isInverted = false;
     mutable std::shared_ptr<const Style> m_style;
+    mutable bool m_isStyleEarly = false;
+    mutable const QMetaObject *m_styledClass = nullptr; ///< the style is first asked for while a base is constructed
 };
 
 } // namespace Touch
