@@ -11,14 +11,14 @@
 #include "platform/timed/validator.h"
 #include "platform/timed/zonesource.h"
 
-#include <algorithm>
-
 namespace Astel::Timed {
 
 namespace {
 
 constexpr qint64 MillisecondsOfSecond = 1000;
 constexpr qint64 MillisecondsOfMinute = 60000;
+// The start of 2026, when this was written: a device without a battery for its clock starts earlier.
+constexpr qint64 EarliestPlausible = Q_INT64_C(1767225600000);
 
 qint64 snoozeEnd(const AlarmEvent &event, qint64 from, qint64 seconds)
 {
@@ -58,15 +58,10 @@ LifeCycle::LifeCycle(EventBook &book, Schedule &schedule, Ringing &ringing, cons
 
 void LifeCycle::start()
 {
-    const bool asStored = distrustsClock();
-    if (asStored)
-        qCWarning(lcTimed, "the clock is far behind the last change, keeping all moments until it is set");
-    Change change;
-    for (const auto &[cookie, event] : m_book.events()) {
-        if (!asStored)
-            reconcile(event, change);
-    }
-    apply(change);
+    if (m_clock.now() < EarliestPlausible)
+        qCWarning(lcTimed, "the clock is not set, keeping all moments as they are stored");
+    else
+        reconcileAll();
     for (const auto &[cookie, event] : m_book.events())
         follow({{event}, {}, {}});
 }
@@ -148,10 +143,7 @@ void LifeCycle::zoneChanged()
 
 void LifeCycle::recomputeAll(bool timeChanged)
 {
-    Change change;
-    for (const auto &[cookie, event] : m_book.events())
-        reconcile(event, change);
-    apply(change);
+    reconcileAll();
     m_schedule.rearm();
     emit changed();
     emit settingsChanged(timeChanged);
@@ -197,6 +189,14 @@ void LifeCycle::follow(const Change &change)
             m_schedule.set(event.cookie(), Purpose::Due, *event.moment());
         m_ringing.follow(event);
     }
+}
+
+void LifeCycle::reconcileAll()
+{
+    Change change;
+    for (const auto &[cookie, event] : m_book.events())
+        reconcile(event, change);
+    apply(change);
 }
 
 void LifeCycle::reconcile(AlarmEvent event, Change &change)
@@ -314,13 +314,6 @@ void LifeCycle::serve(AlarmEvent event, Change &change)
         change.put.append(event);
     else
         change.erased.append(event.cookie());
-}
-
-bool LifeCycle::distrustsClock() const
-{
-    const auto fromTheFuture
-        = [this](const auto &stored) { return stored.second.standing().since - m_clock.now() > AbsurdLateness; };
-    return std::any_of(m_book.events().begin(), m_book.events().end(), fromTheFuture);
 }
 
 std::optional<qint64> LifeCycle::nextMoment(const AlarmEvent &event) const

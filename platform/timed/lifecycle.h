@@ -59,6 +59,7 @@ private:
     void follow(const Change &change);
 
     void recomputeAll(bool timeChanged);
+    void reconcileAll();
     void reconcile(AlarmEvent event, Change &change);
     void reconcileRinging(AlarmEvent event, Change &change);
     void reconcileSnooze(AlarmEvent event, Change &change);
@@ -68,7 +69,6 @@ private:
     void miss(const AlarmEvent &event, const QString &why, Change &change);
     void serve(AlarmEvent event, Change &change);
 
-    bool distrustsClock() const;
     std::optional<qint64> nextMoment(const AlarmEvent &event) const;
     Result<const AlarmEvent *> ringingEvent(quint32 cookie) const;
     Wire::JournalEntry entry(const AlarmEvent &event, const QString &what, const QString &detail) const;

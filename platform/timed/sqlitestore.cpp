@@ -24,6 +24,12 @@ QVariant orNull(std::optional<qint64> moment)
     return moment ? QVariant(*moment) : QVariant(QMetaType::fromType<qint64>());
 }
 
+QVariant notNull(const QString &text)
+{
+    // A null string would be written as NULL.
+    return text.isNull() ? QStringLiteral("") : text;
+}
+
 std::optional<qint64> orNothing(const QVariant &value)
 {
     return value.isNull() ? std::nullopt : std::optional(value.toLongLong());
@@ -111,7 +117,7 @@ Result<> SqliteStore::write(const Change &change)
         result = run(m_erase, {change.erased[i]});
     for (qsizetype i = 0; result && i < change.journal.size(); ++i) {
         const Wire::JournalEntry &entry = change.journal[i];
-        result = run(m_note, {entry.moment, entry.cookie, entry.what, entry.detail});
+        result = run(m_note, {entry.moment, entry.cookie, entry.what, notNull(entry.detail)});
     }
     return result;
 }

@@ -71,26 +71,22 @@ void tst_NextMoment::dailyTime_data()
     QTest::addColumn<QString>("after");
     QTest::addColumn<QString>("expected");
 
-    const auto row
-        = [](const char *name, const char *id, const Rule &rule, const char *after, const char *expected) {
-              QTest::newRow(name) << QByteArray(id) << rule << QString::fromLatin1(after)
-                                  << QString::fromLatin1(expected);
-          };
+    const auto row = [](const char *name, const char *id, const Rule &rule, const char *after, const char *expected) {
+        QTest::newRow(name) << QByteArray(id) << rule << QString::fromLatin1(after) << QString::fromLatin1(expected);
+    };
     // The moments are UTC.
     row("plain day", "Europe/Berlin", at(7, 0), "2026-01-10T12:00:00", "2026-01-11T06:00:00");
     row("strictly later", "Europe/Berlin", at(7, 0), "2026-01-10T06:00:00", "2026-01-11T06:00:00");
     row("a second before", "Europe/Berlin", at(7, 0), "2026-01-10T05:59:59", "2026-01-10T06:00:00");
     row("spring gap filled", "Europe/Berlin", at(2, 30), "2026-03-28T12:00:00", "2026-03-29T01:30:00");
-    row("spring gap skipped", "Europe/Berlin", at(2, 30, Gaps::Skip), "2026-03-28T12:00:00",
-        "2026-03-30T00:30:00");
+    row("spring gap skipped", "Europe/Berlin", at(2, 30, Gaps::Skip), "2026-03-28T12:00:00", "2026-03-30T00:30:00");
     row("start of the gap", "Europe/Berlin", at(2, 0), "2026-03-28T12:00:00", "2026-03-29T01:00:00");
     row("end of the gap", "Europe/Berlin", at(3, 0), "2026-03-28T12:00:00", "2026-03-29T01:00:00");
     row("day after the gap", "Europe/Berlin", at(2, 30), "2026-03-29T01:30:00", "2026-03-30T00:30:00");
     row("autumn, first of two", "Europe/Berlin", at(2, 30), "2026-10-24T12:00:00", "2026-10-25T00:30:00");
     row("autumn, not the second", "Europe/Berlin", at(2, 30), "2026-10-25T00:30:00", "2026-10-26T01:30:00");
     row("autumn, between the two", "Europe/Berlin", at(2, 30), "2026-10-25T01:10:00", "2026-10-26T01:30:00");
-    row("half-hour gap filled", "Australia/Lord_Howe", at(2, 15), "2026-10-03T12:00:00",
-        "2026-10-03T15:45:00");
+    row("half-hour gap filled", "Australia/Lord_Howe", at(2, 15), "2026-10-03T12:00:00", "2026-10-03T15:45:00");
     row("half-hour gap skipped", "Australia/Lord_Howe", at(2, 15, Gaps::Skip), "2026-10-03T12:00:00",
         "2026-10-04T15:15:00");
     row("half-hour overlap", "Australia/Lord_Howe", at(1, 45), "2026-04-04T12:00:00", "2026-04-04T14:45:00");
@@ -102,13 +98,11 @@ void tst_NextMoment::dailyTime_data()
     row("overlap at midnight", "America/Havana", at(0, 30), "2026-10-31T12:00:00", "2026-11-01T04:30:00");
     row("skipped day filled", "Pacific/Apia", at(7, 0), "2011-12-29T18:00:00", "2011-12-30T17:00:00");
     row("skipped day rings once", "Pacific/Apia", at(7, 0), "2011-12-30T17:00:00", "2011-12-31T17:00:00");
-    row("skipped day left out", "Pacific/Apia", at(7, 0, Gaps::Skip), "2011-12-29T18:00:00",
-        "2011-12-30T17:00:00");
+    row("skipped day left out", "Pacific/Apia", at(7, 0, Gaps::Skip), "2011-12-29T18:00:00", "2011-12-30T17:00:00");
     row("beyond the zone's table", "Europe/Berlin", at(7, 0), "2050-07-01T12:00:00", "2050-07-02T05:00:00");
     row("gap beyond the table", "Europe/Berlin", at(2, 30), "2050-03-26T12:00:00", "2050-03-27T01:30:00");
     row("before the epoch", "Europe/Berlin", at(7, 0), "1965-07-01T12:00:00", "1965-07-02T06:00:00");
-    row("POSIX description", "CET-1CEST,M3.5.0,M10.5.0/3", at(2, 30), "2026-03-28T12:00:00",
-        "2026-03-29T01:30:00");
+    row("POSIX description", "CET-1CEST,M3.5.0,M10.5.0/3", at(2, 30), "2026-03-28T12:00:00", "2026-03-29T01:30:00");
     row("UTC", "UTC", at(0, 0), "2026-12-31T23:59:59", "2027-01-01T00:00:00");
 }
 
@@ -147,10 +141,8 @@ void tst_NextMoment::sparseRule_data()
     row("29 February", onDate(2, 29, 7, 0), "2026-01-01T00:00:00", "2028-02-29T07:00:00");
     row("29 February over 2100", onDate(2, 29, 7, 0), "2096-03-01T00:00:00", "2104-02-29T07:00:00");
     row("29 February, a Sunday", onDate(2, 29, 7, 0, sunday), "2026-01-01T00:00:00", "2032-02-29T07:00:00");
-    row("forty years, the longest wait", onDate(2, 29, 7, 0, sunday), "2088-02-29T07:00:00",
-        "2128-02-29T07:00:00");
-    row("Friday the 13th of November", onDate(11, 13, 7, 0, 1u << 5), "2026-11-14T00:00:00",
-        "2037-11-13T07:00:00");
+    row("forty years, the longest wait", onDate(2, 29, 7, 0, sunday), "2088-02-29T07:00:00", "2128-02-29T07:00:00");
+    row("Friday the 13th of November", onDate(11, 13, 7, 0, 1u << 5), "2026-11-14T00:00:00", "2037-11-13T07:00:00");
     row("31st", onDate(12, 31, 23, 59), "2026-12-31T23:59:00", "2027-12-31T23:59:00");
 }
 
@@ -222,9 +214,9 @@ void tst_NextMoment::filledTimeComesAfterAnEarlierLaterOne()
         now = *nextMoment(rule, berlin, now);
         found.append(now);
     }
-    QCOMPARE(found,
-             (QList<qint64>{moment("2026-03-29T01:10:00"), moment("2026-03-29T01:30:00"),
-                            moment("2026-03-30T00:10:00")}));
+    QCOMPARE(
+        found,
+        (QList<qint64>{moment("2026-03-29T01:10:00"), moment("2026-03-29T01:30:00"), moment("2026-03-30T00:10:00")}));
 }
 
 void tst_NextMoment::unknownZoneIsRefusedWithItsName()

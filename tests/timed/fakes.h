@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/timed/clock.h"
+#include "platform/timed/ringer.h"
+#include "platform/timed/store.h"
+#include "platform/timed/waketimer.h"
+#include "platform/timed/zonesource.h"
+
+#include <map>
+
+class FakeClock final : public Astel::Timed::Clock
+{
+public:
+    qint64 now() const override { return time; }
+
+    qint64 time = 0;
+};
+
+class FakeTimer final : public Astel::Timed::WakeTimer
+{
+    Q_OBJECT
+
+public:
+    void arm(std::optional<qint64> moment) override { armed = moment; }
+    std::optional<qint64> armedFor() const override { return armed; }
+    QString kind() const override { return QStringLiteral("fake"); }
+    bool wakesFromSleep() const override { return true; }
+    QString reason() const override { return {}; }
+
+    std::optional<qint64> armed;
+};
+
+class FakeZone final : public Astel::Timed::ZoneSource
+{
+    Q_OBJECT
+
+public:
+    const Astel::Timed::Rules::Zone &zone() const override { return current; }
+
+    Astel::Timed::Rules::Zone current = *Astel::Timed::Rules::Zone::create("Europe/Berlin");
+};
+
+/** A store in memory that fails on demand. */
+class FakeStore final : public Astel::Timed::Store
+{
+public:
+    Astel::Timed::Result<> commit(const Astel::Timed::Change &change) override;
+    QList<Astel::Timed::AlarmEvent> events() const override;
+    quint32 lastCookie() const override { return last; }
+    QList<Astel::Timed::Wire::JournalEntry> journal(qint64 since) const override;
+    QVariantMap facts() const override { return {}; }
+
+    /** The words of the journal so far, without their details. */
+    QStringList words() const;
+
+    std::map<quint32, Astel::Timed::AlarmEvent> stored;
+    QList<Astel::Timed::Wire::JournalEntry> entries;
+    quint32 last = 0;
+    int commits = 0;
+    bool failing = false;
+};
+
+/** Notes the calls, and what was stored of the event when they came. */
+class FakeRinger final : public Astel::Timed::Ringer
+{
+    Q_OBJECT
+
+public:
+    explicit FakeRinger(const FakeStore &store)
+        : m_store(store)
+    { }
+
+    void ring(quint32 cookie, const Astel::Timed::Wire::Event &event, qint64 due) override;
+    void stop(quint32 cookie) override { stopped.append(cookie); }
+
+    QList<quint32> rung;
+    QList<quint32> stopped;
+    QList<qint64> moments;
+    QList<Astel::Timed::State> storedStates;
+
+private:
+    const FakeStore &m_store;
+};

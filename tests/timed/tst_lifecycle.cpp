@@ -1,0 +1,332 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/triggers.h"
+#include "tests/timed/world.h"
+
+#include <QTest>
+
+using namespace Astel::Timed;
+
+namespace {
+
+const qint64 Start = utc("2026-11-20T05:00:00"); // six in the morning in Berlin
+const qint64 Seven = utc("2026-11-20T06:00:00");
+
+Wire::Event daily7(quint32 flags = Wire::KeepAlive)
+{
+    return daily(7, 0, flags);
+}
+
+Wire::Event ticker(qint64 milliseconds, quint32 flags = Wire::SingleShot | Wire::KeepAlive)
+{
+    Wire::Event event;
+    event.ticker = milliseconds / Second;
+    event.flags = flags;
+    return event;
+}
+
+} // namespace
+
+class tst_LifeCycle : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void newEventStandsAsItsTimesSay_data();
+    void newEventStandsAsItsTimesSay();
+    void eventWithoutMomentNeverRings();
+    void dueEventIsStoredAsTriggeredBeforeItRings();
+    void servedEventGoesOnAsItsFlagsSay_data();
+    void servedEventGoesOnAsItsFlagsSay();
+    void snoozeLastsAsAsked_data();
+    void snoozeLastsAsAsked();
+    void snoozeNeedsALengthAndARingingEvent();
+    void unansweredRingingSnoozesUntilItsCounterIsUsedUp();
+    void answeringBeginsTheCounterAgain();
+    void snoozedEventCanBeDismissed();
+    void twoEventsOfOneMinuteAreAnsweredOneByOne();
+    void fullDiskKeepsNothingFromRingingOrStopping();
+    void failedCommitOfANewEventLeavesNothing();
+    void comingTriggersRepeatRecurringEvents();
+};
+
+void tst_LifeCycle::newEventStandsAsItsTimesSay_data()
+{
+    QTest::addColumn<Wire::Event>("event");
+    QTest::addColumn<State>("state");
+    QTest::addColumn<qint64>("moment");
+
+    Wire::Event disabled = daily7();
+    disabled.ticker = 0;
+    Wire::Event both = daily7();
+    both.ticker = (Seven - 20 * Minute) / Second;
+    Wire::Event late = daily7();
+    late.ticker = (Seven + 20 * Minute) / Second;
+    Wire::Event two = daily7();
+    two.recurrences.append(daily(6, 30).recurrences);
+    Wire::Event never = daily7();
+    never.recurrences[0].daysOfMonth = 1u << 30;
+    never.recurrences[0].months = 1u << 2;
+
+    QTest::newRow("recurrence") << daily7() << State::Waiting << Seven;
+    QTest::newRow("ticker") << ticker(Start + Hour) << State::Waiting << Start + Hour;
+    QTest::newRow("earlier ticker wins") << both << State::Waiting << Seven - 20 * Minute;
+    QTest::newRow("earlier recurrence wins") << late << State::Waiting << Seven;
+    QTest::newRow("earliest of two recurrences") << two << State::Waiting << Seven - 30 * Minute;
+    QTest::newRow("ticker just passed") << ticker(Start - 5 * Minute) << State::Waiting << Start - 5 * Minute;
+    QTest::newRow("ticker long passed") << ticker(Start - Hour) << State::Inactive << qint64(0);
+    QTest::newRow("ticker 0") << disabled << State::Inactive << qint64(0);
+    QTest::newRow("neither ticker nor recurrence") << Wire::Event() << State::Inactive << qint64(0);
+    QTest::newRow("30 February") << never << State::Inactive << qint64(0);
+}
+
+void tst_LifeCycle::newEventStandsAsItsTimesSay()
+{
+    QFETCH(Wire::Event, event);
+    QFETCH(State, state);
+    QFETCH(qint64, moment);
+
+    World world(Start);
+    const quint32 cookie = world.add(event);
+    QCOMPARE(world.state(cookie), state);
+    QCOMPARE(world.moment(cookie).value_or(0), moment);
+    const QVariantMap map = triggerMap(world.parts->book.events());
+    QCOMPARE(map.size(), moment ? 1 : 0);
+    if (moment) {
+        QCOMPARE(map.value(QString::number(cookie)), QVariant(quint64(moment) * 1000000));
+        QCOMPARE(map.value(QString::number(cookie)).metaType(), QMetaType::fromType<quint64>());
+        QCOMPARE(world.timer.armed, std::optional(moment));
+    }
+}
+
+void tst_LifeCycle::eventWithoutMomentNeverRings()
+{
+    World world(Start);
+    Wire::Event disabled = daily7();
+    disabled.ticker = 0;
+    world.add(disabled);
+    world.passTo(Start + 3 * Day);
+    QVERIFY(world.ringer.rung.isEmpty());
+}
+
+void tst_LifeCycle::dueEventIsStoredAsTriggeredBeforeItRings()
+{
+    World world(Start);
+    const quint32 cookie = world.add(daily7());
+    world.passTo(Seven - 1);
+    QVERIFY(world.ringer.rung.isEmpty());
+    world.passTo(Seven);
+    QCOMPARE(world.ringer.rung, QList<quint32>{cookie});
+    QCOMPARE(world.ringer.moments, QList<qint64>{Seven});
+    QCOMPARE(world.ringer.storedStates, QList<State>{State::Triggered});
+    QCOMPARE(world.store.words(), QStringList{"due"});
+    QVERIFY(world.parts->life.rings(cookie));
+    QVERIFY(world.parts->life.rings(cookie));
+    QVERIFY(world.parts->life.sounds(cookie, "built-in"));
+    QCOMPARE(world.store.words(), (QStringList{"due", "rang", "sounded"}));
+    // While it rings it is still in the map.
+    QCOMPARE(triggerMap(world.parts->book.events()).size(), 1);
+}
+
+void tst_LifeCycle::servedEventGoesOnAsItsFlagsSay_data()
+{
+    QTest::addColumn<Wire::Event>("event");
+    QTest::addColumn<std::optional<State>>("state");
+
+    QTest::newRow("recurring") << daily7(0) << std::optional(State::Waiting);
+    QTest::newRow("single shot, kept") << daily7(Wire::SingleShot | Wire::KeepAlive) << std::optional(State::Finished);
+    QTest::newRow("single shot") << daily7(Wire::SingleShot) << std::optional<State>();
+    QTest::newRow("ticker, kept") << ticker(Seven, Wire::KeepAlive) << std::optional(State::Finished);
+    QTest::newRow("ticker") << ticker(Seven, 0) << std::optional<State>();
+}
+
+void tst_LifeCycle::servedEventGoesOnAsItsFlagsSay()
+{
+    QFETCH(Wire::Event, event);
+    QFETCH(std::optional<State>, state);
+
+    World world(Start);
+    const quint32 cookie = world.add(event);
+    world.passTo(Seven);
+    world.pass(20 * Second);
+    QVERIFY(world.parts->life.dismiss(cookie, "user"));
+    QCOMPARE(world.ringer.stopped, QList<quint32>{cookie});
+    QCOMPARE(world.parts->book.find(cookie) != nullptr, state.has_value());
+    QCOMPARE(world.store.stored.contains(cookie), state.has_value());
+    if (state)
+        QCOMPARE(world.state(cookie), *state);
+    if (state == State::Waiting)
+        QCOMPARE(world.moment(cookie), std::optional(Seven + Day));
+    else
+        QVERIFY(triggerMap(world.parts->book.events()).isEmpty());
+    QVERIFY(!world.parts->life.dismiss(cookie, "user"));
+}
+
+void tst_LifeCycle::snoozeLastsAsAsked_data()
+{
+    QTest::addColumn<quint32>("flags");
+    QTest::addColumn<qint64>("answeredAfter");
+    QTest::addColumn<quint32>("seconds");
+    QTest::addColumn<qint64>("end");
+
+    QTest::newRow("as asked") << 0u << 7 * Second << 300u << Seven + 307 * Second;
+    QTest::newRow("first button") << 0u << 7 * Second << 0u << Seven + 607 * Second;
+    QTest::newRow("aligned, rounded up") << quint32(Wire::AlignedSnooze) << 7 * Second << 300u << Seven + 6 * Minute;
+    QTest::newRow("aligned, whole already") << quint32(Wire::AlignedSnooze) << qint64(0) << 300u << Seven + 5 * Minute;
+}
+
+void tst_LifeCycle::snoozeLastsAsAsked()
+{
+    QFETCH(quint32, flags);
+    QFETCH(qint64, answeredAfter);
+    QFETCH(quint32, seconds);
+    QFETCH(qint64, end);
+
+    World world(Start);
+    const quint32 cookie = world.add(daily7(flags));
+    world.passTo(Seven + answeredAfter);
+    const auto until = world.parts->life.snooze(cookie, seconds, "user");
+    QVERIFY(until);
+    QCOMPARE(*until, end);
+    QCOMPARE(world.state(cookie), State::Snoozed);
+    QCOMPARE(world.moment(cookie), std::optional(end));
+    QCOMPARE(world.ringer.stopped, QList<quint32>{cookie});
+
+    world.ringer.rung.clear();
+    world.passTo(end);
+    QCOMPARE(world.state(cookie), State::Triggered);
+    QCOMPARE(world.ringer.rung, QList<quint32>{cookie});
+    QVERIFY(world.parts->life.dismiss(cookie, "user"));
+    QCOMPARE(world.moment(cookie), std::optional(Seven + Day));
+}
+
+void tst_LifeCycle::snoozeNeedsALengthAndARingingEvent()
+{
+    World world(Start);
+    const quint32 waiting = world.add(daily(8, 0));
+    QCOMPARE(world.parts->life.snooze(waiting, 60, "user").error().name, QLatin1String(Wire::UnknownError));
+    QCOMPARE(world.parts->life.snooze(77, 60, "user").error().name, QLatin1String(Wire::UnknownError));
+    QCOMPARE(world.parts->life.rings(waiting).error().name, QLatin1String(Wire::UnknownError));
+    QCOMPARE(world.parts->life.sounds(waiting, "x").error().name, QLatin1String(Wire::UnknownError));
+    QCOMPARE(world.parts->life.dismiss(waiting, "user").error().name, QLatin1String(Wire::UnknownError));
+
+    const quint32 noButton = world.add(ticker(Seven));
+    world.passTo(Seven);
+    QCOMPARE(world.parts->life.snooze(noButton, 0, "user").error().name, QLatin1String(Wire::InvalidError));
+    QCOMPARE(world.parts->life.snooze(noButton, 0xffffffffu, "user").error().name, QLatin1String(Wire::InvalidError));
+    QCOMPARE(world.state(noButton), State::Triggered);
+}
+
+void tst_LifeCycle::unansweredRingingSnoozesUntilItsCounterIsUsedUp()
+{
+    World world(Start);
+    Wire::Event event = daily7();
+    event.timeoutSnooze = 300;
+    event.maximalTimeoutSnoozeCounter = 2;
+    const quint32 cookie = world.add(event);
+    // Rings for two minutes, snoozes for five: at 7:00, 7:07 and 7:14.
+    for (const qint64 begin : {Seven, Seven + 7 * Minute, Seven + 14 * Minute}) {
+        world.passTo(begin);
+        QVERIFY(world.parts->life.rings(cookie));
+        QCOMPARE(world.state(cookie), State::Triggered);
+        world.passTo(begin + 2 * Minute - 1);
+        QCOMPARE(world.state(cookie), State::Triggered);
+        if (begin != Seven + 14 * Minute) {
+            world.passTo(begin + 2 * Minute);
+            QCOMPARE(world.moment(cookie), std::optional(begin + 7 * Minute));
+        }
+    }
+    world.passTo(Seven + 16 * Minute);
+    QCOMPARE(world.store.words(),
+             (QStringList{"due", "rang", "answered", "due", "rang", "answered", "due", "rang", "missed"}));
+    QCOMPARE(world.ringer.stopped.size(), 3);
+    QCOMPARE(world.state(cookie), State::Waiting);
+    QCOMPARE(world.moment(cookie), std::optional(Seven + Day));
+}
+
+void tst_LifeCycle::answeringBeginsTheCounterAgain()
+{
+    World world(Start);
+    Wire::Event event = daily7();
+    event.timeoutSnooze = 300;
+    event.maximalTimeoutSnoozeCounter = 1;
+    const quint32 cookie = world.add(event);
+    world.passTo(Seven + 7 * Minute);
+    QVERIFY(world.parts->life.snooze(cookie, 60, "user"));
+    world.pass(Minute);
+    QVERIFY(world.parts->life.rings(cookie));
+    world.pass(2 * Minute);
+    QCOMPARE(world.state(cookie), State::Snoozed);
+    QVERIFY(!world.store.words().contains("missed"));
+}
+
+void tst_LifeCycle::snoozedEventCanBeDismissed()
+{
+    World world(Start);
+    const quint32 cookie = world.add(daily7(Wire::SingleShot | Wire::KeepAlive));
+    world.passTo(Seven);
+    QVERIFY(world.parts->life.snooze(cookie, 600, "user"));
+    QVERIFY(world.parts->life.dismiss(cookie, "user"));
+    QCOMPARE(world.state(cookie), State::Finished);
+    world.ringer.rung.clear();
+    world.passTo(Seven + 2 * Day);
+    QVERIFY(world.ringer.rung.isEmpty());
+}
+
+void tst_LifeCycle::twoEventsOfOneMinuteAreAnsweredOneByOne()
+{
+    World world(Start);
+    const quint32 one = world.add(daily7());
+    const quint32 two = world.add(daily7());
+    world.passTo(Seven);
+    QCOMPARE(world.ringer.rung, (QList<quint32>{one, two}));
+    QVERIFY(world.parts->life.rings(one));
+    QVERIFY(world.parts->life.rings(two));
+    QVERIFY(world.parts->life.dismiss(one, "user"));
+    QCOMPARE(world.state(two), State::Triggered);
+    QCOMPARE(world.ringer.stopped, QList<quint32>{one});
+    QVERIFY(world.parts->life.snooze(two, 600, "user"));
+    QCOMPARE(world.state(one), State::Waiting);
+    QCOMPARE(world.state(two), State::Snoozed);
+}
+
+void tst_LifeCycle::fullDiskKeepsNothingFromRingingOrStopping()
+{
+    World world(Start);
+    const quint32 cookie = world.add(daily7());
+    world.store.failing = true;
+    world.passTo(Seven);
+    QCOMPARE(world.ringer.rung, QList<quint32>{cookie});
+    QVERIFY(world.parts->life.dismiss(cookie, "user"));
+    QCOMPARE(world.ringer.stopped, QList<quint32>{cookie});
+    QCOMPARE(world.moment(cookie), std::optional(Seven + Day));
+}
+
+void tst_LifeCycle::failedCommitOfANewEventLeavesNothing()
+{
+    World world(Start);
+    const quint32 cookie = world.add(daily7());
+    world.store.failing = true;
+    QCOMPARE(world.parts->service.add(daily(6, 30)).error().name, QLatin1String(Wire::StorageError));
+    QCOMPARE(world.parts->service.replace(daily(6, 30), cookie).error().name, QLatin1String(Wire::StorageError));
+    QCOMPARE(world.parts->service.cancel(cookie).error().name, QLatin1String(Wire::StorageError));
+    QCOMPARE(world.parts->book.events().size(), std::size_t(1));
+    QCOMPARE(world.timer.armed, std::optional(Seven));
+    world.store.failing = false;
+    QCOMPARE(world.add(daily7()), cookie + 1);
+}
+
+void tst_LifeCycle::comingTriggersRepeatRecurringEvents()
+{
+    World world(Start);
+    const quint32 recurring = world.add(daily7());
+    const quint32 once = world.add(daily(7, 30, Wire::SingleShot));
+    const auto coming = nextTriggers(world.parts->book.events(), world.zone.zone(), 4);
+    const auto trigger = [](quint32 cookie, qint64 moment) { return Wire::Trigger{cookie, quint64(moment) * 1000000}; };
+    QCOMPARE(coming,
+             (QList<Wire::Trigger>{trigger(recurring, Seven), trigger(once, Seven + 30 * Minute),
+                                   trigger(recurring, Seven + Day), trigger(recurring, Seven + 2 * Day)}));
+}
+
+QTEST_GUILESS_MAIN(tst_LifeCycle)
+#include "tst_lifecycle.moc"

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/localzone.h"
+#include "tests/support/logcapture.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Astel::Timed;
+
+class tst_LocalZone : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void linkNamesTheZone();
+    void replacedLinkIsFollowed();
+    void unknownZoneKeepsTheOneBefore();
+    void environmentWins();
+
+private:
+    QString path() const { return m_folder->filePath("localtime"); }
+    void link(const char *zone) const
+    {
+        QVERIFY(QFile::link(QStringLiteral("/usr/share/zoneinfo/") + zone, path() + ".new"));
+        QCOMPARE(std::rename(QFile::encodeName(path() + ".new"), QFile::encodeName(path())), 0);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void tst_LocalZone::init()
+{
+    qunsetenv("TZ");
+    m_folder = std::make_unique<QTemporaryDir>();
+    link("Asia/Kathmandu");
+}
+
+void tst_LocalZone::linkNamesTheZone()
+{
+    const LocalZone zone(path());
+    QCOMPARE(zone.zone().id(), "Asia/Kathmandu");
+}
+
+void tst_LocalZone::replacedLinkIsFollowed()
+{
+    const LocalZone zone(path());
+    const QSignalSpy changed(&zone, &ZoneSource::changed);
+    link("America/Havana");
+    QTRY_COMPARE(changed.size(), 1);
+    QCOMPARE(zone.zone().id(), "America/Havana");
+}
+
+void tst_LocalZone::unknownZoneKeepsTheOneBefore()
+{
+    const LocalZone zone(path());
+    const QSignalSpy changed(&zone, &ZoneSource::changed);
+    const Support::LogCapture log;
+    link("Atlantis/Capital");
+    QTRY_COMPARE(log.lines(QtWarningMsg).value(0),
+                 QStringLiteral("unknown time zone \"Atlantis/Capital\", keeping Asia/Kathmandu"));
+    QCOMPARE(zone.zone().id(), "Asia/Kathmandu");
+    link("Europe/Rome");
+    QTRY_COMPARE(zone.zone().id(), "Europe/Rome");
+    QCOMPARE(changed.size(), 1);
+}
+
+void tst_LocalZone::environmentWins()
+{
+    qputenv("TZ", "Australia/Lord_Howe");
+    const LocalZone zone(path());
+    QCOMPARE(zone.zone().id(), "Australia/Lord_Howe");
+}
+
+QTEST_GUILESS_MAIN(tst_LocalZone)
+#include "tst_localzone.moc"

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/timerfdwaketimer.h"
+
+#include <QDateTime>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Astel::Timed;
+
+class tst_TimerFdWakeTimer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void armedMomentIsReadBack();
+    void unarmedTimerSaysSo();
+    void expiresAtItsMomentAndNotBefore();
+    void momentThatPassedExpiresAtOnce();
+    void kindAndReasonAgree();
+};
+
+void tst_TimerFdWakeTimer::armedMomentIsReadBack()
+{
+    TimerFdWakeTimer timer;
+    const qint64 moment = QDateTime::currentMSecsSinceEpoch() + 3600000;
+    timer.arm(moment);
+    QVERIFY(timer.armedFor());
+    QVERIFY(std::abs(*timer.armedFor() - moment) <= 2);
+}
+
+void tst_TimerFdWakeTimer::unarmedTimerSaysSo()
+{
+    TimerFdWakeTimer timer;
+    QVERIFY(!timer.armedFor());
+    timer.arm(QDateTime::currentMSecsSinceEpoch() + 3600000);
+    timer.arm(std::nullopt);
+    QVERIFY(!timer.armedFor());
+}
+
+void tst_TimerFdWakeTimer::expiresAtItsMomentAndNotBefore()
+{
+    TimerFdWakeTimer timer;
+    const QSignalSpy expired(&timer, &WakeTimer::expired);
+    const qint64 moment = QDateTime::currentMSecsSinceEpoch() + 300;
+    timer.arm(moment);
+    QTRY_COMPARE(expired.size(), 1);
+    QVERIFY(QDateTime::currentMSecsSinceEpoch() >= moment);
+    QVERIFY(!timer.armedFor());
+}
+
+void tst_TimerFdWakeTimer::momentThatPassedExpiresAtOnce()
+{
+    TimerFdWakeTimer timer;
+    const QSignalSpy expired(&timer, &WakeTimer::expired);
+    timer.arm(-5);
+    QTRY_COMPARE(expired.size(), 1);
+}
+
+void tst_TimerFdWakeTimer::kindAndReasonAgree()
+{
+    const TimerFdWakeTimer timer;
+    QCOMPARE(timer.reason().isEmpty(), timer.wakesFromSleep());
+    QCOMPARE(timer.kind(), timer.wakesFromSleep() ? "CLOCK_REALTIME_ALARM" : "CLOCK_REALTIME");
+}
+
+QTEST_GUILESS_MAIN(tst_TimerFdWakeTimer)
+#include "tst_timerfdwaketimer.moc"
