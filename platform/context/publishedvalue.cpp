@@ -4,7 +4,10 @@
 
 PublishedValue::PublishedValue(const QVariant &initial)
     : m_value(initial)
-{ }
+{
+    // Qt DBus registers its own types late; the adaptor relays no signal with one that is not known yet.
+    qRegisterMetaType<QDBusVariant>();
+}
 
 QDBusVariant PublishedValue::get() const
 {

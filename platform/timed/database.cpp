@@ -35,6 +35,8 @@ constexpr auto Schema = {
     "CREATE INDEX IF NOT EXISTS journal_moment ON journal (moment)",
 };
 
+constexpr int MostSetAside = 100;
+
 QString snapshotOf(const QString &path)
 {
     return path + ".snapshot";
@@ -164,9 +166,18 @@ void Database::replaceDamaged()
 
 void Database::setAside(const QString &path)
 {
-    const QString aside = path + QDateTime::currentDateTimeUtc().toString(".'damaged'-yyyyMMdd'T'HHmmsszzz");
-    if (QFile::rename(path, aside))
-        qCWarning(lcTimed, "set aside as %ls", qUtf16Printable(aside));
+    if (!QFile::exists(path))
+        return;
+    const QString stamp = QDateTime::currentDateTimeUtc().toString("yyyyMMdd'T'HHmmss");
+    // Two files may be set aside within a second, and the clock may stand still.
+    for (int copy = 1; copy <= MostSetAside; ++copy) {
+        const QString aside = QStringLiteral("%1.damaged-%2-%3").arg(path, stamp).arg(copy);
+        if (QFile::rename(path, aside)) {
+            qCWarning(lcTimed, "set aside as %ls", qUtf16Printable(aside));
+            return;
+        }
+    }
+    qCCritical(lcTimed, "cannot set %ls aside", qUtf16Printable(path));
 }
 
 QSqlDatabase Database::connection() const

@@ -94,9 +94,8 @@ QList<Zone::Stretch> Zone::stretches(qint64 from, qint64 to) const
     QList<Stretch> result;
     for (qint64 number = from >> EraBits; number <= to >> EraBits; ++number) {
         const QList<Stretch> &all = era(number);
-        auto stretch
-            = std::upper_bound(all.begin(), all.end(), from,
-                               [](qint64 moment, const Stretch &other) { return moment < other.to; });
+        auto stretch = std::upper_bound(all.begin(), all.end(), from,
+                                        [](qint64 moment, const Stretch &other) { return moment < other.to; });
         for (; stretch != all.end() && stretch->from <= to; ++stretch)
             result.append(*stretch);
     }

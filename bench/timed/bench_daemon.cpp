@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/eventcodec.h"
+#include "platform/timedclient/wire.h"
+
+#include <benchmark/benchmark.h>
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusPendingReply>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+
+using namespace Astel::Timed;
+
+namespace {
+
+constexpr int ManyEvents = 1000;
+constexpr int StartTimeout = 10000;
+
+Wire::Event weekdayAlarm()
+{
+    Wire::Event event;
+    event.flags = Wire::KeepAlive | Wire::Boot | Wire::Alarm | Wire::AlignedSnooze;
+    event.attributes = {{"APPLICATION", "clock"}, {"TITLE", "Wake up"},   {"enabled", "1"},           {"sound", ""},
+                        {"snooze", "10"},         {"alarmtime", "07:00"}, {"PLUGIN", "libclockalarm"}};
+    event.recurrences = {{1u << 7, 1, 0x3e, Wire::AllDaysOfMonth, Wire::AllMonths, true}};
+    event.buttons = {{600, {}}, {0, {}}};
+    return event;
+}
+
+/** The real daemon with a store of its own. */
+class Daemon
+{
+public:
+    bool start()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_DATA_HOME", m_home.path());
+        m_process.setProcessEnvironment(environment);
+        m_process.start(CLOCK_BIN_DIR "/timed", QStringList());
+        const auto *bus = QDBusConnection::sessionBus().interface();
+        QElapsedTimer waited;
+        waited.start();
+        while (!bus->isServiceRegistered("com.astel.context.Alarm.Trigger")) {
+            if (waited.hasExpired(StartTimeout) || m_process.state() == QProcess::NotRunning)
+                return false;
+        }
+        return true;
+    }
+
+    void stop()
+    {
+        m_process.terminate();
+        m_process.waitForFinished();
+    }
+
+    bool add(const Wire::Event &event) const
+    {
+        auto call = QDBusMessage::createMethodCall(Wire::Service, Wire::Path, Wire::Interface, "add_event");
+        call.setArguments({QVariant::fromValue(event)});
+        QDBusPendingReply<uint> reply = QDBusConnection::sessionBus().asyncCall(call);
+        reply.waitForFinished();
+        return reply.isValid();
+    }
+
+    double proportionalSetKilobytes() const
+    {
+        QFile file(QStringLiteral("/proc/%1/smaps_rollup").arg(m_process.processId()));
+        if (!file.open(QIODevice::ReadOnly))
+            return 0;
+        for (const QByteArray &line : file.readAll().split('\n')) {
+            if (line.startsWith("Pss:"))
+                return line.simplified().split(' ').value(1).toDouble();
+        }
+        return 0;
+    }
+
+private:
+    QTemporaryDir m_home;
+    QProcess m_process;
+};
+
+/** One call over the bus, answered when the event is on the disk. */
+void addEvent(benchmark::State &state)
+{
+    Daemon daemon;
+    if (!daemon.start())
+        state.SkipWithError("the daemon does not start");
+    const Wire::Event event = weekdayAlarm();
+    for (auto _ : state) {
+        if (!daemon.add(event))
+            state.SkipWithError("the event was not added");
+    }
+    daemon.stop();
+}
+BENCHMARK(addEvent)->Iterations(ManyEvents)->UseRealTime()->Unit(benchmark::kMicrosecond);
+
+/** What SQLite alone takes for the same bytes, with the same durability. */
+void bareCommit(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE");
+    database.setDatabaseName(folder.filePath("bare.db"));
+    database.open();
+    QSqlQuery query(database);
+    for (const char *statement : {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL",
+                                  "CREATE TABLE events (cookie INTEGER PRIMARY KEY, event TEXT NOT NULL)"})
+        query.exec(statement);
+    query.prepare("INSERT INTO events (event) VALUES (?)");
+    const QString text = encodeEvent(weekdayAlarm());
+    for (auto _ : state) {
+        query.bindValue(0, text);
+        if (!query.exec())
+            state.SkipWithError("the row was not written");
+    }
+}
+BENCHMARK(bareCommit)->Iterations(ManyEvents)->UseRealTime()->Unit(benchmark::kMicrosecond);
+
+/** From the start of the process to the published triggers of many events. */
+void startWithManyEvents(benchmark::State &state)
+{
+    Daemon daemon;
+    if (!daemon.start())
+        state.SkipWithError("the daemon does not start");
+    for (int i = 0; i < state.range(0); ++i)
+        daemon.add(weekdayAlarm());
+    daemon.stop();
+    for (auto _ : state) {
+        if (!daemon.start())
+            state.SkipWithError("the daemon does not start");
+        state.PauseTiming();
+        state.counters["PSS kB"] = daemon.proportionalSetKilobytes();
+        daemon.stop();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(startWithManyEvents)->Arg(0)->Arg(ManyEvents)->Iterations(5)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    Wire::registerTypes();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

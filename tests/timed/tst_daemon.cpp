@@ -1,0 +1,370 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timedclient/wire.h"
+#include "tests/support/privatebus.h"
+#include "tests/timed/buswatch.h"
+#include "tests/timed/world.h"
+
+#include <QDBusInterface>
+#include <QDBusReply>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTest>
+#include <QXmlStreamReader>
+
+using namespace Astel::Timed;
+
+namespace {
+
+/** Methods and signals with arguments and annotations, one line each, as an introspection text has them. */
+QStringList described(const QByteArray &xml)
+{
+    QStringList result;
+    QStringList context;
+    QXmlStreamReader reader(xml);
+    bool ours = false;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const auto attribute = [&](const char *name) { return reader.attributes().value(name).toString(); };
+        if (reader.name() == QLatin1String("interface"))
+            ours = attribute("name") == QLatin1String(Wire::Interface);
+        if (!ours)
+            continue;
+        if (reader.name() == QLatin1String("method") || reader.name() == QLatin1String("signal"))
+            context = QStringList{reader.name().toString(), attribute("name")};
+        const QString direction = context.value(0) == "signal" ? QString() : attribute("direction");
+        result.append((context
+                       + QStringList{reader.name().toString(), attribute("name"), attribute("type"), direction,
+                                     attribute("value")})
+                          .join(' '));
+    }
+    result.sort();
+    return result;
+}
+
+QVariantList randomArguments(QRandomGenerator &random)
+{
+    switch (random.bounded(8)) {
+    case 0:
+        return {QStringLiteral("cookie %1").arg(random.generate())};
+    case 1:
+        return {int(random.generate())};
+    case 2:
+        return {QVariantMap{{"cookie", random.generate()}}};
+    case 3:
+        return {};
+    case 4:
+        return {random.generate(), random.generate()};
+    case 5:
+        return {random.generate64()};
+    default:
+        return {random.generate() >> random.bounded(32)};
+    }
+}
+
+} // namespace
+
+/** The real program on a bus of its own. */
+class tst_Daemon : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+
+    void introspectionEqualsTheDescription();
+    void scheduledEventSaysWaitingAtOnce();
+    void eachChangeIsAnsweredAndThenPublishedOnce();
+    void unknownCookieIsNoError();
+    void queryHoldsAllAttributesInCookieOrder();
+    void refusalsAreNamed();
+    void cookiesGrowOverRestartAndDeletion();
+    void acknowledgedEventOutlivesAKill();
+    void healthKnowsWhatTheTimerIsArmedFor();
+    void dueEventRingsAndIsAnswered();
+    void ringerThatGoesIsCalledAgain();
+    void secondDaemonSaysWhyItEnds();
+    void terminatedDaemonEndsCleanly();
+    void randomCallsEndInAnswersOrNamedErrors();
+
+private:
+    QDBusPendingCall call(const QString &method, const QVariantList &arguments) const
+    {
+        QDBusMessage message = QDBusMessage::createMethodCall(Wire::Service, Wire::Path, Wire::Interface, method);
+        message.setArguments(arguments);
+        return QDBusConnection::sessionBus().asyncCall(message);
+    }
+    template <typename T>
+    T ask(const QString &method, const QVariantList &arguments) const
+    {
+        QDBusPendingReply<T> reply = call(method, arguments);
+        reply.waitForFinished();
+        return reply.value();
+    }
+    QString errorOf(const QString &method, const QVariantList &arguments) const
+    {
+        QDBusPendingCall pending = call(method, arguments);
+        pending.waitForFinished();
+        return pending.error().name();
+    }
+    uint add(const Wire::Event &event) const { return ask<uint>("add_event", {QVariant::fromValue(event)}); }
+    QString stateOf(uint cookie) const
+    {
+        return ask<QVariantMap>("query_attributes", {cookie}).value("STATE").toString();
+    }
+
+    Support::PrivateBus m_bus;
+    Support::TimedProcess m_daemon;
+};
+
+void tst_Daemon::initTestCase()
+{
+    QVERIFY(m_bus.isRunning());
+    Wire::registerTypes();
+    QVERIFY(m_daemon.start());
+}
+
+void tst_Daemon::cleanup()
+{
+    const auto cookies = ask<QVariantList>("query", {QVariantMap()});
+    for (const QVariant &cookie : cookies)
+        QVERIFY(ask<bool>("cancel", {cookie}));
+}
+
+void tst_Daemon::introspectionEqualsTheDescription()
+{
+    QFile file(CLOCK_SOURCE_DIR "/platform/timedclient/com.astel.timed.xml");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList expected = described(file.readAll());
+    QVERIFY(expected.size() > 30);
+
+    const QDBusMessage question = QDBusMessage::createMethodCall(Wire::Service, Wire::Path,
+                                                                 "org.freedesktop.DBus.Introspectable", "Introspect");
+    const QDBusReply<QString> live = QDBusConnection::sessionBus().call(question);
+    QVERIFY(live.isValid());
+    QCOMPARE(described(live.value().toUtf8()), expected);
+}
+
+void tst_Daemon::scheduledEventSaysWaitingAtOnce()
+{
+    const uint cookie = add(daily(7, 0));
+    QCOMPARE(stateOf(cookie), "WAITING");
+    const uint replacement = ask<uint>("replace_event", {QVariant::fromValue(daily(8, 0)), cookie});
+    QCOMPARE(stateOf(replacement), "WAITING");
+    QVERIFY(ask<QVariantMap>("query_attributes", {cookie}).isEmpty());
+    Wire::Event disabled = daily(7, 0);
+    disabled.ticker = 0;
+    QCOMPARE(stateOf(add(disabled)), "INACTIVE");
+    QCOMPARE(stateOf(add({})), "INACTIVE");
+}
+
+void tst_Daemon::eachChangeIsAnsweredAndThenPublishedOnce()
+{
+    BusWatch watch(QDBusConnection::sessionBus());
+    QStringList expected;
+    for (int i = 1; i <= 20; ++i) {
+        watch.expect(call("add_event", {QVariant::fromValue(daily(7, i))}));
+        expected += {"reply", QStringLiteral("published %1").arg(i)};
+    }
+    QTRY_COMPARE(watch.arrived, expected);
+    const uint one = watch.lastMap.firstKey().toUInt();
+    QCOMPARE(watch.lastMap.first().metaType(), QMetaType::fromType<qulonglong>());
+    const quint64 now = quint64(QDateTime::currentMSecsSinceEpoch()) * 1000000;
+    QVERIFY(watch.lastMap.first().toULongLong() > now);
+
+    watch.arrived.clear();
+    watch.expect(call("replace_event", {QVariant::fromValue(daily(9, 0)), one}));
+    watch.expect(call("cancel", {watch.lastMap.lastKey().toUInt()}));
+    watch.expect(call("cancel", {watch.lastMap.lastKey().toUInt()}));
+    watch.expect(call("add_event", {QVariant::fromValue(Wire::Event())}));
+    watch.expect(call("query_attributes", {one}));
+    QTRY_COMPARE(watch.arrived,
+                 (QStringList{"reply", "published 20", "reply", "published 19", "reply", "reply", "reply"}));
+    QVERIFY(!watch.lastMap.contains(QString::number(one)));
+}
+
+void tst_Daemon::unknownCookieIsNoError()
+{
+    QDBusPendingReply<bool> cancelled = call("cancel", {4711u});
+    cancelled.waitForFinished();
+    QVERIFY(cancelled.isValid());
+    QVERIFY(!cancelled.value());
+    QDBusPendingReply<QVariantMap> attributes = call("query_attributes", {4711u});
+    attributes.waitForFinished();
+    QVERIFY(attributes.isValid());
+    QVERIFY(attributes.value().isEmpty());
+}
+
+void tst_Daemon::queryHoldsAllAttributesInCookieOrder()
+{
+    const auto event = [](const Wire::Attributes &attributes) {
+        Wire::Event result = daily(7, 0);
+        result.attributes = attributes;
+        return result;
+    };
+    const uint one = add(event({{"APPLICATION", "clock"}, {"snooze", "10"}}));
+    const uint two = add(event({{"APPLICATION", "calendar"}, {"snooze", "10"}}));
+    const uint three = add(event({{"APPLICATION", "clock"}, {"snooze", "5"}}));
+    const auto query = [this](const QVariantMap &attributes) { return ask<QVariantList>("query", {attributes}); };
+    QCOMPARE(query({{"APPLICATION", "clock"}}), (QVariantList{one, three}));
+    QCOMPARE(query({{"snooze", 10}}), (QVariantList{one, two}));
+    QCOMPARE(query({{"APPLICATION", "clock"}, {"snooze", 10}}), QVariantList{one});
+    QCOMPARE(query({{"missing", ""}}), QVariantList());
+    QCOMPARE(query({}), (QVariantList{one, two, three}));
+}
+
+void tst_Daemon::refusalsAreNamed()
+{
+    Wire::Event invalid;
+    invalid.ticker = -2;
+    Wire::Event large;
+    large.attributes = {{"TITLE", QString(5000, 'x')}};
+    QCOMPARE(errorOf("add_event", {QVariant::fromValue(invalid)}), Wire::InvalidError);
+    QCOMPARE(errorOf("add_event", {QVariant::fromValue(large)}), Wire::LimitError);
+    QCOMPARE(errorOf("replace_event", {QVariant::fromValue(daily(7, 0)), 4711u}), Wire::UnknownError);
+    QCOMPARE(errorOf("rings", {4711u}), Wire::UnknownError);
+    QCOMPARE(errorOf("sounds", {4711u, "tone"}), Wire::UnknownError);
+    QCOMPARE(errorOf("snooze", {4711u, 60u, "user"}), Wire::UnknownError);
+    QCOMPARE(errorOf("dismiss", {4711u, "user"}), Wire::UnknownError);
+}
+
+void tst_Daemon::cookiesGrowOverRestartAndDeletion()
+{
+    const uint first = add(daily(7, 0));
+    QVERIFY(ask<bool>("cancel", {first}));
+    m_daemon.terminate();
+    QVERIFY(m_daemon.start());
+    const uint second = add(daily(7, 0));
+    QVERIFY(second > first);
+    m_daemon.kill();
+    QVERIFY(m_daemon.start());
+    QVERIFY(add(daily(7, 0)) > second);
+}
+
+void tst_Daemon::acknowledgedEventOutlivesAKill()
+{
+    Wire::Event event = daily(7, 0);
+    event.attributes = {{"TITLE", "Wake up"}};
+    const uint cookie = add(event);
+    m_daemon.kill();
+    QVERIFY(m_daemon.start());
+    QCOMPARE(stateOf(cookie), "WAITING");
+    QCOMPARE(ask<QVariantMap>("query_attributes", {cookie}).value("TITLE"), "Wake up");
+    QCOMPARE(ask<QList<Wire::Trigger>>("next_triggers", {1u}).value(0).cookie, cookie);
+}
+
+void tst_Daemon::healthKnowsWhatTheTimerIsArmedFor()
+{
+    QVERIFY(!ask<QVariantMap>("health", {}).contains("armed_moment"));
+    add(daily(7, 0));
+    const auto facts = ask<QVariantMap>("health", {});
+    const auto armed = facts.value("armed_moment").toULongLong();
+    const auto next = ask<QList<Wire::Trigger>>("next_triggers", {1u}).value(0).moment;
+    QVERIFY(armed > 0);
+    QVERIFY(std::llabs(qint64(armed - next)) < 5000000);
+    QCOMPARE(facts.value("next_moment").toULongLong(), next);
+    QCOMPARE(facts.value("events").toUInt(), 1u);
+    QCOMPARE(facts.value("store_integrity").toString(), "ok");
+    QCOMPARE(facts.value("zone").toString(), qEnvironmentVariable("TZ"));
+}
+
+void tst_Daemon::dueEventRingsAndIsAnswered()
+{
+    NotingRinger ringer(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "ringer"));
+    const qint64 begin = QDateTime::currentMSecsSinceEpoch();
+    Wire::Event event;
+    event.ticker = begin / 1000 + 1;
+    event.flags = Wire::SingleShot | Wire::KeepAlive;
+    const uint cookie = add(event);
+    const QString ring = QStringLiteral("ring %1").arg(cookie);
+    QTRY_COMPARE(ringer.calls, QStringList{ring});
+    QCOMPARE(stateOf(cookie), "TRIGGERED");
+    QVERIFY(errorOf("rings", {cookie}).isEmpty());
+    QVERIFY(errorOf("sounds", {cookie, "/tone.aac"}).isEmpty());
+
+    const auto until = ask<qulonglong>("snooze", {cookie, 1u, "user"});
+    QVERIFY(until > quint64(begin) * 1000000);
+    QCOMPARE(stateOf(cookie), "SNOOZED");
+    const QString stop = QStringLiteral("stop %1").arg(cookie);
+    QTRY_COMPARE(ringer.calls, (QStringList{ring, stop, ring}));
+    QVERIFY(errorOf("dismiss", {cookie, "user"}).isEmpty());
+    QCOMPARE(stateOf(cookie), "FINISHED");
+
+    QStringList words;
+    const auto journal = ask<QList<Wire::JournalEntry>>("journal", {begin});
+    for (const Wire::JournalEntry &entry : journal)
+        words.append(entry.what);
+    QCOMPARE(words, (QStringList{"due", "rang", "sounded", "answered", "due", "answered"}));
+}
+
+void tst_Daemon::ringerThatGoesIsCalledAgain()
+{
+    Wire::Event event;
+    event.ticker = QDateTime::currentSecsSinceEpoch();
+    uint cookie = 0;
+    {
+        NotingRinger ringer(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "ringer"));
+        cookie = add(event);
+        QTRY_COMPARE(ringer.calls.size(), 1);
+        QVERIFY(errorOf("rings", {cookie}).isEmpty());
+    }
+    const NotingRinger next(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "ringer"));
+    QTRY_VERIFY_WITH_TIMEOUT(next.calls.contains(QStringLiteral("ring %1").arg(cookie)), 10000);
+}
+
+void tst_Daemon::secondDaemonSaysWhyItEnds()
+{
+    const auto run = [](const QString &dataHome) {
+        QProcess second;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_DATA_HOME", dataHome);
+        second.setProcessEnvironment(environment);
+        second.start(CLOCK_BIN_DIR "/timed", QStringList());
+        second.waitForFinished();
+        return QString::number(second.exitCode()) + ' ' + second.readAllStandardError();
+    };
+    const QString sameStore = run(qEnvironmentVariable("XDG_DATA_HOME"));
+    QVERIFY2(sameStore.startsWith("1 ") && sameStore.contains("another daemon is using it"), qPrintable(sameStore));
+    const QTemporaryDir elsewhere;
+    const QString sameName = run(elsewhere.path());
+    QVERIFY2(sameName.startsWith("1 ") && sameName.contains("com.astel.timed is taken"), qPrintable(sameName));
+}
+
+void tst_Daemon::terminatedDaemonEndsCleanly()
+{
+    const uint cookie = add(daily(7, 0));
+    m_daemon.terminate();
+    QVERIFY(Support::PrivateBus::waitForService(Wire::Service, false));
+    QVERIFY(!QFile::exists(qEnvironmentVariable("XDG_DATA_HOME") + "/timed/events.db-wal"));
+    QVERIFY(m_daemon.start());
+    QCOMPARE(stateOf(cookie), "WAITING");
+}
+
+void tst_Daemon::randomCallsEndInAnswersOrNamedErrors()
+{
+    constexpr int calls = 10000;
+    constexpr int atOnce = 100;
+    QRandomGenerator random(20261120);
+    const uint cookie = add(daily(7, 0));
+    const qint64 process = m_daemon.processId();
+    int answers = 0;
+    for (int i = 0; i < calls; i += atOnce) {
+        QList<QDBusPendingCall> pending;
+        for (int j = 0; j < atOnce; ++j)
+            pending.append(call("query_attributes", randomArguments(random)));
+        for (QDBusPendingCall &one : pending) {
+            one.waitForFinished();
+            answers += one.isError() ? 0 : 1;
+            if (one.isError())
+                QCOMPARE(one.error().name(), "org.freedesktop.DBus.Error.UnknownMethod");
+        }
+    }
+    QVERIFY(answers > 0 && answers < calls);
+    QCOMPARE(m_daemon.processId(), process);
+    QCOMPARE(stateOf(cookie), "WAITING");
+}
+
+QTEST_GUILESS_MAIN(tst_Daemon)
+#include "tst_daemon.moc"
