@@ -132,6 +132,7 @@ Result<> LifeCycle::dismiss(quint32 cookie, const QString &by)
 void LifeCycle::clockSet()
 {
     qCInfo(lcTimed, "the clock was set");
+    restartRingTimes();
     recomputeAll(true);
 }
 
@@ -139,6 +140,20 @@ void LifeCycle::zoneChanged()
 {
     qCInfo(lcTimed, "the time zone is %s", m_zone.zone().id().constData());
     recomputeAll(false);
+}
+
+void LifeCycle::restartRingTimes()
+{
+    // The new clock does not tell how long it has been ringing, and nobody's alarm is cut short.
+    Change change;
+    for (const auto &[cookie, event] : m_book.events()) {
+        if (event.state() != State::Triggered)
+            continue;
+        change.put.append(event);
+        change.put.last().trigger(m_clock.now());
+    }
+    apply(change);
+    m_ringing.clockSet();
 }
 
 void LifeCycle::recomputeAll(bool timeChanged)
@@ -178,11 +193,12 @@ void LifeCycle::apply(const Change &change)
 void LifeCycle::follow(const Change &change)
 {
     for (const quint32 cookie : change.erased) {
-        m_ringing.end(cookie);
         m_schedule.clear(cookie);
+        m_ringing.end(cookie);
     }
     for (const AlarmEvent &event : change.put) {
-        m_schedule.clear(event.cookie());
+        m_schedule.clear(event.cookie(), Purpose::Due);
+        m_schedule.clear(event.cookie(), Purpose::RingEnd);
         if (event.state() == State::Triggered)
             m_schedule.set(event.cookie(), Purpose::RingEnd, event.standing().since + m_ringTime);
         else if (event.moment())

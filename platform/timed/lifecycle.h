@@ -58,6 +58,7 @@ private:
     void apply(const Change &change);
     void follow(const Change &change);
 
+    void restartRingTimes();
     void recomputeAll(bool timeChanged);
     void reconcileAll();
     void reconcile(AlarmEvent event, Change &change);

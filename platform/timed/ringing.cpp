@@ -60,6 +60,14 @@ void Ringing::callAgain(quint32 cookie)
         call(cookie, ring->second);
 }
 
+void Ringing::clockSet()
+{
+    for (const auto &[cookie, ring] : m_rings) {
+        if (!ring.acknowledged)
+            m_schedule.set(cookie, Purpose::Retry, m_clock.now() + TimeToAcknowledge);
+    }
+}
+
 void Ringing::call(quint32 cookie, Ring &ring)
 {
     const AlarmEvent *event = m_book.find(cookie);

@@ -31,6 +31,8 @@ public:
     bool acknowledge(quint32 cookie);
     /** The time for acknowledging is over. */
     void callAgain(quint32 cookie);
+    /** Moments from before do not count any more. */
+    void clockSet();
 
 signals:
     /** The ringer was called several times and is silent; it is called on at longer intervals. */

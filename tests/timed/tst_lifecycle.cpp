@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/triggers.h"
+#include "platform/timed/validator.h"
 #include "tests/timed/world.h"
 
 #include <QTest>
@@ -48,6 +49,8 @@ private slots:
     void fullDiskKeepsNothingFromRingingOrStopping();
     void failedCommitOfANewEventLeavesNothing();
     void comingTriggersRepeatRecurringEvents();
+    void tooManyEventsAreRefused();
+    void cookiesEndAtTheirLimit();
 };
 
 void tst_LifeCycle::newEventStandsAsItsTimesSay_data()
@@ -326,6 +329,26 @@ void tst_LifeCycle::comingTriggersRepeatRecurringEvents()
     QCOMPARE(coming,
              (QList<Wire::Trigger>{trigger(recurring, Seven), trigger(once, Seven + 30 * Minute),
                                    trigger(recurring, Seven + Day), trigger(recurring, Seven + 2 * Day)}));
+}
+
+void tst_LifeCycle::tooManyEventsAreRefused()
+{
+    World world(Start);
+    for (int i = 0; i < MaximalEvents; ++i)
+        world.add(daily7());
+    QCOMPARE(world.parts->service.add(daily7()).error().name, QLatin1String(Wire::LimitError));
+    QVERIFY(world.parts->service.replace(daily7(), 1));
+    QVERIFY(*world.parts->service.cancel(2));
+    QVERIFY(world.parts->service.add(daily7()));
+}
+
+void tst_LifeCycle::cookiesEndAtTheirLimit()
+{
+    World world(Start);
+    world.store.last = 2147483646;
+    world.restart(Start);
+    QCOMPARE(world.add(daily7()), 2147483647u);
+    QCOMPARE(world.parts->service.add(daily7()).error().name, QLatin1String(Wire::LimitError));
 }
 
 QTEST_GUILESS_MAIN(tst_LifeCycle)

@@ -38,7 +38,8 @@ private slots:
     void clockSetBackRecomputes();
     void clockSetBackASecondDoesNotRingAgain();
     void snoozeKeepsItsLengthWhenTheClockGoesBack();
-    void ringingGoesOnWhenTheClockGoesBack();
+    void ringingGoesOnWhenTheClockIsSet_data();
+    void ringingGoesOnWhenTheClockIsSet();
     void clockWithoutBatteryLosesNothing();
     void clockThatWasAheadByYearsIsForgotten();
     void clockThatJumpsByYearsNeitherRingsNorLoses();
@@ -53,6 +54,8 @@ private slots:
     void restartNeverReusesACookie();
 
     void silentRingerIsCalledAgain();
+    void silentRingerIsCalledAgainAfterARestart();
+    void silentRingerIsCalledAgainWhenTheClockGoesBack();
     void ringerThatDiesIsCalledAgain();
     void cancelledAndReplacedEventsFallSilent();
 };
@@ -137,16 +140,30 @@ void tst_TimeChanges::snoozeKeepsItsLengthWhenTheClockGoesBack()
     QCOMPARE(world.moment(cookie), std::optional(Seven - 2 * Day + 10 * Minute));
 }
 
-void tst_TimeChanges::ringingGoesOnWhenTheClockGoesBack()
+void tst_TimeChanges::ringingGoesOnWhenTheClockIsSet_data()
 {
+    QTest::addColumn<qint64>("jump");
+
+    QTest::newRow("back by an hour") << -Hour;
+    QTest::newRow("forward by a minute") << Minute;
+    QTest::newRow("forward by an hour") << Hour;
+    QTest::newRow("forward by years") << 20440 * Day;
+}
+
+void tst_TimeChanges::ringingGoesOnWhenTheClockIsSet()
+{
+    QFETCH(qint64, jump);
+
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
-    world.passTo(Seven);
+    world.passTo(Seven + Minute);
     QVERIFY(world.parts->life.rings(cookie));
-    world.setClock(Seven - Hour);
+    world.setClock(world.clock.time + jump);
     QCOMPARE(world.state(cookie), State::Triggered);
     QVERIFY(world.ringer.stopped.isEmpty());
-    world.pass(2 * Minute);
+    world.pass(2 * Minute - 1);
+    QVERIFY(world.ringer.stopped.isEmpty());
+    world.pass(1);
     QCOMPARE(world.ringer.stopped, QList<quint32>{cookie});
 }
 
@@ -312,6 +329,27 @@ void tst_TimeChanges::silentRingerIsCalledAgain()
     QCOMPARE(callsAt(Seven + 30 * Second), 5);
     QVERIFY(world.parts->life.rings(cookie));
     QCOMPARE(callsAt(Seven + 119 * Second), 5);
+}
+
+void tst_TimeChanges::silentRingerIsCalledAgainAfterARestart()
+{
+    World world(Start);
+    world.add(daily(7, 0));
+    world.restart(Seven + Minute);
+    QCOMPARE(world.ringer.rung.size(), 1);
+    world.pass(5 * Second);
+    QCOMPARE(world.ringer.rung.size(), 2);
+}
+
+void tst_TimeChanges::silentRingerIsCalledAgainWhenTheClockGoesBack()
+{
+    World world(Start);
+    world.add(daily(7, 0));
+    world.passTo(Seven);
+    world.setClock(Seven - Hour);
+    QCOMPARE(world.ringer.rung.size(), 1);
+    world.pass(5 * Second);
+    QCOMPARE(world.ringer.rung.size(), 2);
 }
 
 void tst_TimeChanges::ringerThatDiesIsCalledAgain()
