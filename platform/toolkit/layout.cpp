@@ -91,7 +91,8 @@ void Layout::setGeometry(const QRectF &rect)
     if (!active)
         return;
     const bool mirrored = isMirrored();
-    active->arrange(geometry().marginsRemoved(outerMargins(mirrored)), mirrored);
+    // Not geometry(), which is no larger than the items together want to be.
+    active->arrange(rect.marginsRemoved(outerMargins(mirrored)), mirrored);
 }
 
 void Layout::invalidate()

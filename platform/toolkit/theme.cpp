@@ -4,6 +4,7 @@
 
 #include "platform/toolkit/themefile_p.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QMetaObject>
@@ -39,9 +40,10 @@ QStringList classRules(const QMetaObject *type)
 
 QPixmap renderIcon(const QString &id, const QSize &size, const QColor &color, qreal devicePixelRatio)
 {
-    QSvgRenderer renderer(QStringLiteral(":/icons/%1.svg").arg(id));
-    if (!renderer.isValid() || size.isEmpty())
+    const QString file = QStringLiteral(":/icons/%1.svg").arg(id);
+    if (!QFile::exists(file) || size.isEmpty())
         return {};
+    QSvgRenderer renderer(file);
     QPixmap pixmap(size * devicePixelRatio);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);

@@ -124,6 +124,9 @@ QVariant Widget::itemChange(GraphicsItemChange change, const QVariant &value)
         // A hidden item gives its place up; not asked for when only an ancestor was hidden.
         if (!parentItem() || parentItem()->isVisible())
             updateGeometry();
+    } else if (change == ItemParentHasChanged && !testAttribute(Qt::WA_SetLayoutDirection)) {
+        // Graphics widgets hear of a new direction of their parent, but do not ask a new parent for its own.
+        unsetLayoutDirection();
     } else if (change == ItemSceneHasChanged) {
         const Window *window = hostWindow();
         if (window && window->isInverted() != m_isInverted)
