@@ -78,6 +78,11 @@ void List::setSelectionMode(SelectionMode mode)
     m_selectionMode = mode;
 }
 
+void List::setShowGroups(bool showsGroups)
+{
+    m_showsGroups = showsGroups;
+}
+
 void List::setViewType(const QString &viewType)
 {
     m_viewType = viewType;

@@ -40,8 +40,8 @@ public:
     void setCellCreator(CellCreator *creator);
     SelectionMode selectionMode() const { return m_selectionMode; }
     void setSelectionMode(SelectionMode mode);
-    /** Rows are shown without group titles; that is the only way there is. */
-    bool showGroups() const { return false; }
+    /** Group titles are for models with groups; so far rows are shown without them either way. */
+    bool showGroups() const { return m_showsGroups; }
     void setShowGroups(bool showsGroups);
     QString viewType() const { return m_viewType; }
     void setViewType(const QString &viewType);
@@ -82,6 +82,7 @@ private:
     QPointer<QAbstractItemModel> m_model;
     std::unique_ptr<CellCreator> m_creator;
     SelectionMode m_selectionMode = NoSelection;
+    bool m_showsGroups = false;
     QString m_viewType;
     ListRows m_rows;
 
