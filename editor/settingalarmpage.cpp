@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "editor/settingalarmpage.h"
+
+#include "alarmlist/notices/informationbanner.h"
+#include "alarms/qmalarm.h"
+#include "alarms/utility.h"
+#include "app/settings.h"
+#include "editor/timelabels.h"
+#include "platform/clockwidgets/timepicker.h"
+#include "platform/toolkit/label.h"
+#include "platform/toolkit/layout.h"
+#include "platform/toolkit/linearlayoutpolicy.h"
+#include "platform/toolkit/textedit.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QPointer>
+
+using Clock::QmAlarm;
+using Clock::QmAlarmEvent;
+using Clock::Utility;
+
+namespace {
+
+constexpr unsigned int DefaultSnooze = 10;
+
+QPointer<SettingAlarmPage> sharedPage;
+
+} // namespace
+
+SettingAlarmPage *SettingAlarmPage::instance()
+{
+    if (!sharedPage) {
+        sharedPage = new SettingAlarmPage;
+        // No item outlives the application object.
+        qAddPostRoutine([] { delete sharedPage; });
+    }
+    return sharedPage;
+}
+
+bool SettingAlarmPage::isNewAlarm() const
+{
+    return m_cookie == QmAlarmEvent::NotStored;
+}
+
+void SettingAlarmPage::loadAlarm(quint32 cookie, const QTime &time, const QString &title, const QString &tone, bool,
+                                 unsigned int snooze)
+{
+    hideInformationBanner();
+    m_snooze = snooze;
+    m_cookie = cookie;
+    if (isNewAlarm()) {
+        loadPreferences();
+    } else {
+        m_timePicker->setHours(time.hour());
+        m_timePicker->setMinutes(time.minute());
+        m_tone = tone;
+    }
+    if (!QFileInfo::exists(m_tone))
+        m_tone = Utility::instance()->defaultAlertTone();
+    timeChangedInTimePicker(m_timePicker->hours(), m_timePicker->minutes());
+    m_titleField->setText(title.trimmed().isEmpty() ? QString() : title);
+    m_titleField->setCursorPosition(0);
+    m_contentLayout->setPolicy(isNewAlarm() ? m_newAlarmPolicy : m_existingAlarmPolicy);
+}
+
+void SettingAlarmPage::loadPreferences()
+{
+    const QString text = m_settings.value(Settings::DefaultAlarmTimeKey, Settings::DefaultAlarmTime).toString();
+    const QTime time = QTime::fromString(text, Qt::TextDate);
+    m_timePicker->setHours(time.hour());
+    m_timePicker->setMinutes(time.minute());
+    m_tone = m_settings.value(Settings::DefaultToneKey, m_defaultTone).toString();
+    m_snooze = m_settings.value(Settings::SnoozeTimeKey, DefaultSnooze).toUInt();
+}
+
+void SettingAlarmPage::resetContent()
+{
+    qDebug() << "void SettingAlarmPage::resetContent()";
+    dismiss();
+}
+
+void SettingAlarmPage::saveAlarm()
+{
+    connect(Utility::instance(), &Utility::valueChanged, this, &SettingAlarmPage::onValueChanged, Qt::UniqueConnection);
+    QmAlarmEvent record = recordFromFields();
+    storeRecord(record);
+    rememberTime(record.alarmTime());
+    if (isNewAlarm()) {
+        dismiss();
+        showInformationBanner(qtTrId("qtn_cloc_alarm_save_error"));
+    }
+    record = QmAlarmEvent(m_cookie);
+    if (!record.isEnabled())
+        dismiss();
+}
+
+QmAlarmEvent SettingAlarmPage::recordFromFields() const
+{
+    QmAlarmEvent record;
+    record.setApplication("clock");
+    const QString title = m_titleField->text();
+    record.setTitle(title.trimmed().isEmpty() ? qtTrId("qtn_cloc_alarm_title") : title);
+    record.setAlarmTime(QTime(m_timePicker->hours(), m_timePicker->minutes()));
+    record.setTone(m_tone);
+    record.setSnooze(static_cast<int>(m_snooze));
+    return record;
+}
+
+void SettingAlarmPage::storeRecord(QmAlarmEvent &record)
+{
+    QmAlarm alarm;
+    if (isNewAlarm()) {
+        m_cookie = alarm.add(record);
+        return;
+    }
+    m_preEditAlarm = QmAlarmEvent();
+    m_preEditAlarm.fromAstelTimedEvent(m_cookie);
+    record.setRepeatDays(m_preEditAlarm.repeatDays());
+    m_cookie = alarm.replace(record, m_cookie);
+}
+
+void SettingAlarmPage::rememberTime(const QTime &time)
+{
+    m_settings.setValue(Settings::DefaultAlarmTimeKey, QTime(time.hour(), time.minute()));
+    m_settings.sync();
+}
+
+void SettingAlarmPage::onValueChanged()
+{
+    qDebug() << "void SettingAlarmPage::onValueChanged()";
+    Utility *utility = Utility::instance();
+    disconnect(utility, &Utility::valueChanged, this, &SettingAlarmPage::onValueChanged);
+    time_t trigger = 0;
+    const bool isFound = utility->triggerSecondsFromContext(m_cookie, trigger);
+    dismiss();
+    if (!isFound)
+        return;
+    QString timeLeft;
+    Utility::timeLeftForAlarmToTrigger(trigger, timeLeft);
+    showInformationBanner(timeLeft);
+    qDebug() << "Time Left for Alarm to trigger is" << timeLeft;
+}
+
+void SettingAlarmPage::cancelAlarm()
+{
+    dismiss();
+    Utility::instance()->onValueChanged();
+}
+
+void SettingAlarmPage::removeAlarm()
+{
+    if (isNewAlarm()) {
+        dismiss();
+        return;
+    }
+    const bool wasEnabled = QmAlarmEvent(m_cookie).isEnabled();
+    QmAlarm alarm;
+    // Twice on purpose: only the second answer counts.
+    alarm.deleteEvent(m_cookie);
+    if (alarm.deleteEvent(m_cookie)) {
+        m_cookie = QmAlarmEvent::NotStored;
+        refreshAfterDeletion(wasEnabled);
+    } else {
+        showInformationBanner(qtTrId("qtn_cloc_alarm_delete_error"));
+    }
+    dismiss();
+}
+
+void SettingAlarmPage::refreshAfterDeletion(bool wasEnabled)
+{
+    // The daemon publishes nothing when a switched-off alarm goes, so the list is told here.
+    time_t trigger = 0;
+    Utility *utility = Utility::instance();
+    const bool isStillPublished = isNewAlarm() && utility->triggerSecondsFromContext(m_cookie, trigger);
+    if (!wasEnabled && !isStillPublished)
+        utility->onValueChanged();
+}
+
+quint32 SettingAlarmPage::getAlarmCookie()
+{
+    return m_cookie;
+}
+
+void SettingAlarmPage::timeChangedInTimePicker(int hours, int minutes)
+{
+    m_workingDateTime.setTime(QTime(hours, minutes));
+    timeFormatChanged();
+}
+
+void SettingAlarmPage::verifyAlarmTitle()
+{
+    if (m_titleField->text().trimmed().isEmpty())
+        m_titleField->setText(QString());
+}
+
+void SettingAlarmPage::timeFormatChanged()
+{
+    const TimeLabels labels = timeLabels(m_locale, m_workingDateTime);
+    m_hourLabel->setText(labels.hour);
+    m_minuteLabel->setText(labels.minute);
+    if (labels.marker)
+        m_markerLabel->setText(*labels.marker);
+    switch (labels.arrangement) {
+    case TimeLabels::Arrangement::MarkerAfter:
+        m_timeRowLayout->setPolicy(m_markerAfterPolicy);
+        break;
+    case TimeLabels::Arrangement::MarkerBefore:
+        m_timeRowLayout->setPolicy(m_markerBeforePolicy);
+        break;
+    case TimeLabels::Arrangement::TwentyFourHours:
+        m_timeRowLayout->setPolicy(m_twentyFourHoursPolicy);
+        break;
+    }
+}
+
+void SettingAlarmPage::resetStyle()
+{
+    m_hourLabel->setStyleName("TimeLabel");
+    m_minuteLabel->setStyleName("TimeLabel");
+}
+
+void SettingAlarmPage::setStyle(bool hourTouched, bool minuteTouched)
+{
+    if (hourTouched)
+        m_hourLabel->setStyleName("TimeLabelManipulated");
+    if (minuteTouched)
+        m_minuteLabel->setStyleName("TimeLabelManipulated");
+}
+
+void SettingAlarmPage::clearFocus()
+{
+    QGuiApplication::inputMethod()->hide();
+    m_titleField->clearFocus();
+}
