@@ -48,12 +48,12 @@ QJsonObject jsonOf(const Clock::QmAlarmEvent &alarm)
 
 QString lineOf(const Clock::QmAlarmEvent &alarm)
 {
-    return QStringLiteral("%1  %2  %3  %4  snooze %5  %6")
-        .arg(alarm.cookie(), 5)
-        .arg(alarm.alarmTime().toString("HH:mm"), alarm.isEnabled() ? "on " : "off", daysText(alarm.repeatDays()))
-        .arg(alarm.snooze(), 2)
-        .arg(alarm.title())
-        .trimmed();
+    const QString line = QStringLiteral("%1  %2  %3  %4  snooze %5")
+                             .arg(alarm.cookie(), 5)
+                             .arg(alarm.alarmTime().toString("HH:mm"), alarm.isEnabled() ? "on " : "off",
+                                  daysText(alarm.repeatDays()))
+                             .arg(alarm.snooze(), 2);
+    return alarm.title().isEmpty() ? line : line + "  " + alarm.title();
 }
 
 } // namespace
