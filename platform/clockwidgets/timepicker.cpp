@@ -48,7 +48,7 @@ TimePicker::TimePicker(int hours, int minutes, QGraphicsItem *parent)
     loadClockTheme();
     setFocusPolicy(Qt::StrongFocus);
     connect(&Locale::getDefault(), &Locale::settingsChanged, this, &TimePicker::updateTexts);
-    styleChanged();
+    m_dial->setStyle(*this);
     updateTexts();
 }
 

@@ -20,7 +20,7 @@ WallClockTicker::WallClockTicker() = default;
 
 WallClockTicker::~WallClockTicker()
 {
-    stop();
+    closeTimer();
 }
 
 time_t WallClockTicker::nextBeat(time_t time, Beat beat)
@@ -42,6 +42,11 @@ void WallClockTicker::start(Beat beat)
 }
 
 void WallClockTicker::stop()
+{
+    closeTimer();
+}
+
+void WallClockTicker::closeTimer()
 {
     if (m_timer < 0)
         return;

@@ -27,6 +27,7 @@ public:
 
 private:
     void arm();
+    void closeTimer();
     void readTimer();
 
     int m_timer = -1;

@@ -34,7 +34,7 @@ WorldClock::WorldClock(std::unique_ptr<ClockTicker> ticker, QGraphicsItem *paren
     setFocusPolicy(Qt::TabFocus);
     connect(m_ticker.get(), &ClockTicker::ticked, this, &WorldClock::tick);
     connect(&Locale::getDefault(), &Locale::settingsChanged, this, &WorldClock::localeChanged);
-    styleChanged();
+    applyStyle();
     localeChanged();
 }
 
@@ -89,6 +89,11 @@ void WorldClock::localeChanged()
 void WorldClock::styleChanged()
 {
     StylableWidget::styleChanged();
+    applyStyle();
+}
+
+void WorldClock::applyStyle()
+{
     const auto numerals = partStyle(*this, QStringLiteral("ClockNumeral"));
     const Touch::Style &look = style();
     m_clockFace->setLook({look.background, look.borderColor, look.promptColor, look.color, look.accentColor,

@@ -46,6 +46,7 @@ protected:
 private:
     void tick();
     void startTicking();
+    void applyStyle();
     void localeChanged();
     void showOtherFace();
     void paintDigits(QPainter &painter, const QRectF &rect) const;

@@ -42,6 +42,13 @@ public:
         press(point);
         release(point);
     }
+    /// The second tap of a quick pair, as the window system tells it.
+    void doubleTap(const QPointF &point)
+    {
+        tap(point);
+        send(QEvent::MouseButtonDblClick, point, Qt::LeftButton, Qt::LeftButton, 10);
+        release(point);
+    }
     void key(int key)
     {
         m_widget->setFocus(Qt::TabFocusReason);

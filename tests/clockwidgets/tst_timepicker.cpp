@@ -67,6 +67,7 @@ private Q_SLOTS:
     void aTapOnARingGoesThere();
     void aTapStaysInTheHalfOfTheDay();
     void aTapInTheMiddleChangesTheHalfOfTheDay();
+    void eachOfTwoQuickTapsCounts();
     void saysWhichDiscIsTouchedBeforeItChanges();
     void isReleasedWhenSomeoneElseTakesTheTouch();
     void takesNoTouchOutsideTheRings();
@@ -241,6 +242,15 @@ void tst_TimePicker::aTapInTheMiddleChangesTheHalfOfTheDay()
     scene.stage.release(middle + QPointF(0, 150));
     QCOMPARE(scene.time(), QTime(7, 20));
     QCOMPARE(pressed.count(), 0);
+}
+
+void tst_TimePicker::eachOfTwoQuickTapsCounts()
+{
+    Scene scene(7, 20);
+    QVERIFY(scene.stage.show());
+    scene.stage.doubleTap(middle);
+    QCOMPARE(scene.time(), QTime(7, 20));
+    QCOMPARE(scene.changes.count(), 2);
 }
 
 void tst_TimePicker::saysWhichDiscIsTouchedBeforeItChanges()

@@ -61,6 +61,7 @@ private Q_SLOTS:
     void showsTheTimeAtOnceWhenItComesBack();
     void ticksEverySecondOnlyWithTheSecondsHand();
     void aTapShowsTheOtherFace();
+    void eachOfTwoQuickTapsCounts();
     void keysShowTheOtherFace();
     void anotherFaceLooksDifferent();
     void followsTheUsersLocale();
@@ -135,6 +136,15 @@ void tst_WorldClock::aTapShowsTheOtherFace()
     scene.stage.press({240, 150});
     scene.stage.move({240, 400});
     scene.stage.release({240, 400});
+    QCOMPARE(spy.count(), 2);
+}
+
+void tst_WorldClock::eachOfTwoQuickTapsCounts()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    QSignalSpy spy(scene.clock, &WorldClock::faceChanged);
+    scene.stage.doubleTap({240, 150});
     QCOMPARE(spy.count(), 2);
 }
 
