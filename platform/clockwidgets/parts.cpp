@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/clockwidgets/parts_p.h"
 
+#include "platform/locale/locale.h"
 #include "platform/toolkit/theme.h"
 #include "platform/toolkit/widget.h"
 #include "platform/toolkit/window.h"
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QStyle>
 
 using Touch::Style;
 
@@ -29,6 +31,16 @@ qreal cellWidth(const QFontMetricsF &metrics, QChar c)
     for (char16_t digit = zero; digit < zero + 10; ++digit)
         widest = qMax(widest, metrics.horizontalAdvance(QChar(digit)));
     return widest;
+}
+
+// Placed by the direction of the layout, written in its own.
+void drawLine(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, const QString &text)
+{
+    const Qt::LayoutDirection layout = painter.layoutDirection();
+    const Qt::Alignment absolute = QStyle::visualAlignment(layout, alignment) | Qt::AlignAbsolute;
+    painter.setLayoutDirection(Touch::Locale::directionForText(text));
+    painter.drawText(rect, int(absolute) | Qt::TextSingleLine, text);
+    painter.setLayoutDirection(layout);
 }
 
 } // namespace
@@ -69,8 +81,7 @@ void drawPart(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, co
     painter.setPen(style.color);
     const QFontMetricsF metrics(style.font());
     if (!isTabular(style, text)) {
-        const QString elided = metrics.elidedText(text, Qt::ElideRight, rect.width());
-        painter.drawText(rect, int(alignment) | Qt::TextSingleLine, elided);
+        drawLine(painter, rect, alignment, metrics.elidedText(text, Qt::ElideRight, rect.width()));
         return;
     }
     QRectF cell(rect.center().x() - textWidth(style, text) / 2, rect.top(), 0, rect.height());

@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/clockwidgets/alarmlistitem.h"
+
+#include "platform/clockwidgets/parts_p.h"
+#include "platform/clockwidgets/timetext_p.h"
+#include "platform/locale/locale.h"
+#include "platform/toolkit/switch.h"
+
+#include <QGraphicsSceneMouseEvent>
+#include <QKeyEvent>
+#include <QPainter>
+
+using Touch::Locale;
+
+AlarmListItem::AlarmListItem(ItemStyle style, QGraphicsItem *parent)
+    : Widget(parent)
+    , m_itemStyle(style)
+    , m_switch(new Touch::Switch(this))
+{
+    loadClockTheme();
+    setFocusPolicy(Qt::TabFocus);
+    connect(m_switch, &Touch::Switch::clicked, this, &AlarmListItem::alarmStateChanged);
+    connect(m_switch, &Touch::Switch::toggled, this, [this] { update(); });
+    connect(&Locale::getDefault(), &Locale::settingsChanged, this, [this] { update(); });
+}
+
+AlarmListItem::~AlarmListItem() = default;
+
+void AlarmListItem::setAlarmCookie(const long &cookie)
+{
+    m_alarmCookie = cookie;
+}
+
+void AlarmListItem::setTitle(const QTime &time)
+{
+    if (m_title == time)
+        return;
+    m_title = time;
+    update();
+}
+
+void AlarmListItem::setSubTitle(const QString &text)
+{
+    if (m_subTitle == text)
+        return;
+    m_subTitle = text;
+    update();
+}
+
+void AlarmListItem::setSubText(const QString &text)
+{
+    if (m_subText == text)
+        return;
+    m_subText = text;
+    update();
+}
+
+void AlarmListItem::setAlarmTone(const QString &path)
+{
+    m_alarmTone = path;
+}
+
+bool AlarmListItem::enabled() const
+{
+    return m_switch->isChecked();
+}
+
+void AlarmListItem::setEnabled(bool enabled)
+{
+    m_switch->setChecked(enabled);
+}
+
+void AlarmListItem::setSnoozeValue(unsigned char minutes)
+{
+    m_snoozeValue = minutes;
+}
+
+void AlarmListItem::setItemStyle(ItemStyle style)
+{
+    if (m_itemStyle == style)
+        return;
+    m_itemStyle = style;
+    update();
+}
+
+void AlarmListItem::resizeEvent(QGraphicsSceneResizeEvent *event)
+{
+    Widget::resizeEvent(event);
+    placeSwitch();
+}
+
+void AlarmListItem::changeEvent(QEvent *event)
+{
+    Widget::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        placeSwitch();
+}
+
+void AlarmListItem::styleChanged()
+{
+    Widget::styleChanged();
+    placeSwitch();
+}
+
+void AlarmListItem::placeSwitch()
+{
+    const QSizeF toggle = m_switch->effectiveSizeHint(Qt::PreferredSize);
+    const QMarginsF padding = style().padding;
+    const QRectF place(size().width() - padding.right() - toggle.width(), (size().height() - toggle.height()) / 2,
+                       toggle.width(), toggle.height());
+    m_switch->setGeometry(mirrored(place));
+}
+
+QRectF AlarmListItem::mirrored(const QRectF &rect) const
+{
+    if (layoutDirection() != Qt::RightToLeft)
+        return rect;
+    return {size().width() - rect.right(), rect.top(), rect.width(), rect.height()};
+}
+
+QString AlarmListItem::partName(const char *part) const
+{
+    return QStringLiteral("AlarmItem%1%2").arg(QLatin1String(part), QLatin1String(enabled() ? "" : "Off"));
+}
+
+// The same in all rows, so that the titles stand below each other.
+qreal AlarmListItem::timeWidth() const
+{
+    const TimeText widest = timeText(Locale::getDefault(), QTime(22, 28));
+    const auto digits = partStyle(*this, partName("Time"));
+    const auto marker = partStyle(*this, partName("Marker"));
+    const qreal markerWidth = widest.marker.isEmpty() ? 0 : marker->spacing + textWidth(*marker, widest.marker);
+    return textWidth(*digits, widest.digits) + markerWidth + 1;
+}
+
+void AlarmListItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
+{
+    const Touch::Style &look = style();
+    paintBackground(painter, m_isPressed ? look.pressedBackground : look.background);
+    painter->save();
+    painter->setLayoutDirection(layoutDirection());
+    const QRectF content = rect().marginsRemoved(look.padding);
+    const QRectF time(content.left(), content.top(), timeWidth(), content.height());
+    const qreal textsLeft = time.right() + look.spacing;
+    const qreal textsRight = content.right() - m_switch->size().width() - look.spacing;
+    paintTime(*painter, mirrored(time));
+    paintTexts(*painter, mirrored({textsLeft, content.top(), textsRight - textsLeft, content.height()}));
+    painter->restore();
+    paintFocusRing(painter);
+}
+
+void AlarmListItem::paintTime(QPainter &painter, const QRectF &rect) const
+{
+    const TimeText text = timeText(Locale::getDefault(), m_title);
+    const auto digits = partStyle(*this, partName("Time"));
+    const auto marker = partStyle(*this, partName("Marker"));
+    const qreal digitsWidth = textWidth(*digits, text.digits) + 1;
+    const qreal markerWidth = text.marker.isEmpty() ? 0 : textWidth(*marker, text.marker) + 1;
+    const qreal gap = text.marker.isEmpty() ? 0 : marker->spacing;
+    const qreal start = text.markerFirst ? markerWidth + gap : 0;
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    const auto part = [&](qreal offset, qreal width) {
+        return QRectF(isMirrored ? rect.right() - offset - width : rect.left() + offset, rect.top(), width,
+                      rect.height());
+    };
+    drawPart(painter, part(start, digitsWidth), Qt::AlignCenter, *digits, text.digits);
+    if (text.marker.isEmpty())
+        return;
+    const QFontMetricsF digitMetrics(digits->font());
+    const QFontMetricsF markerMetrics(marker->font());
+    QRectF markerRect = part(text.markerFirst ? 0 : digitsWidth + gap, markerWidth);
+    const qreal baseline = rect.center().y() + (digitMetrics.ascent() - digitMetrics.descent()) / 2;
+    markerRect.setTop(baseline - markerMetrics.ascent());
+    markerRect.setHeight(markerMetrics.height());
+    drawPart(painter, markerRect, Qt::AlignCenter, *marker, text.marker);
+}
+
+void AlarmListItem::paintTexts(QPainter &painter, const QRectF &rect) const
+{
+    const auto title = partStyle(*this, partName("Title"));
+    if (m_itemStyle == OneLine) {
+        drawPart(painter, rect, Qt::AlignLeft | Qt::AlignVCenter, *title, m_subTitle);
+        return;
+    }
+    const auto repeat = partStyle(*this, QStringLiteral("AlarmItemRepeat"));
+    const qreal titleHeight = QFontMetricsF(title->font()).height();
+    const qreal repeatHeight = QFontMetricsF(repeat->font()).height();
+    const qreal gap = 2;
+    const qreal top = rect.center().y() - (titleHeight + gap + repeatHeight) / 2;
+    drawPart(painter, {rect.left(), top, rect.width(), titleHeight}, Qt::AlignLeft | Qt::AlignVCenter, *title,
+             m_subTitle);
+    drawPart(painter, {rect.left(), top + titleHeight + gap, rect.width(), repeatHeight},
+             Qt::AlignLeft | Qt::AlignVCenter, *repeat, m_subText);
+}
+
+void AlarmListItem::setPressed(bool pressed)
+{
+    if (m_isPressed == pressed)
+        return;
+    m_isPressed = pressed;
+    update();
+}
+
+void AlarmListItem::mousePressEvent(QGraphicsSceneMouseEvent *event)
+{
+    event->setAccepted(event->button() == Qt::LeftButton);
+    setPressed(event->isAccepted());
+}
+
+void AlarmListItem::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
+{
+    if (!rect().contains(event->pos()))
+        setPressed(false);
+}
+
+void AlarmListItem::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
+{
+    const bool isTap = m_isPressed && event->button() == Qt::LeftButton;
+    setPressed(false);
+    if (isTap)
+        Q_EMIT clicked();
+}
+
+// Whoever takes the press over, such as a viewport that pans, ends it.
+void AlarmListItem::ungrabMouseEvent(QEvent *event)
+{
+    setPressed(false);
+    Widget::ungrabMouseEvent(event);
+}
+
+void AlarmListItem::keyPressEvent(QKeyEvent *event)
+{
+    const bool isTap = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+    if (!isTap)
+        Widget::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        Q_EMIT clicked();
+}

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/toolkit/widget.h"
+
+#include <QTime>
+
+namespace Touch {
+class Switch;
+}
+
+/// One alarm in a list: its time, its title, how it repeats, and a switch. Its enabled state is that of the switch;
+/// the item itself always takes input. Works as a recycled cell: every property may be set at any time.
+class AlarmListItem : public Touch::Widget
+{
+    Q_OBJECT
+
+public:
+    enum ItemStyle {
+        OneLine,       ///< the title alone
+        WithRepeatLine ///< the repeat text under the title
+    };
+
+    explicit AlarmListItem(ItemStyle style, QGraphicsItem *parent = nullptr);
+    ~AlarmListItem() override;
+
+    long alarmCookie() const { return m_alarmCookie; }
+    void setAlarmCookie(const long &cookie);
+    /// The alarm's time of day; shown in the user's own format, an invalid one as nothing.
+    QTime title() const { return m_title; }
+    void setTitle(const QTime &time);
+    /// The alarm's title.
+    QString subTitle() const { return m_subTitle; }
+    void setSubTitle(const QString &text);
+    /// The alarm's repeat text.
+    QString subText() const { return m_subText; }
+    void setSubText(const QString &text);
+    QString alarmTone() const { return m_alarmTone; }
+    void setAlarmTone(const QString &path);
+    bool enabled() const;
+    void setEnabled(bool enabled);
+    /// In minutes.
+    unsigned char snoozeValue() const { return m_snoozeValue; }
+    void setSnoozeValue(unsigned char minutes);
+    ItemStyle itemStyle() const { return m_itemStyle; }
+    void setItemStyle(ItemStyle style);
+
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
+
+Q_SIGNALS:
+    /// The row was tapped anywhere but on the switch.
+    void clicked();
+    /// The user, and nobody else, flipped the switch.
+    void alarmStateChanged();
+
+protected:
+    void resizeEvent(QGraphicsSceneResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    void ungrabMouseEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void styleChanged() override;
+
+private:
+    void setPressed(bool pressed);
+    void placeSwitch();
+    QRectF mirrored(const QRectF &rect) const;
+    qreal timeWidth() const;
+    void paintTime(QPainter &painter, const QRectF &rect) const;
+    void paintTexts(QPainter &painter, const QRectF &rect) const;
+    QString partName(const char *part) const;
+
+    long m_alarmCookie = 0;
+    QTime m_title;
+    QString m_subTitle;
+    QString m_subText;
+    QString m_alarmTone;
+    unsigned char m_snoozeValue = 0;
+    ItemStyle m_itemStyle;
+
+    Touch::Switch *m_switch;
+    bool m_isPressed = false;
+};

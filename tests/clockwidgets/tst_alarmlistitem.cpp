@@ -1,0 +1,250 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/clockwidgets/alarmlistitem.h"
+
+#include "platform/locale/locale.h"
+#include "platform/toolkit/switch.h"
+#include "tests/clockwidgets/stage.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using Touch::Locale;
+
+namespace {
+
+const QPointF onTheRow(150, 44);
+
+struct Scene
+{
+    Scene()
+        : item(new AlarmListItem(AlarmListItem::OneLine))
+        , stage(item, {0, 100, 480, 88})
+        , clicks(item, &AlarmListItem::clicked)
+        , flips(item, &AlarmListItem::alarmStateChanged)
+    {
+        item->setTitle(QTime(7, 30));
+        item->setSubTitle("Work");
+    }
+
+    QPointF onTheSwitch() const
+    {
+        const auto children = item->childItems();
+        return children.constFirst()->mapToParent(children.constFirst()->boundingRect().center());
+    }
+    QImage picture() { return stage.window.grab().toImage(); }
+
+    AlarmListItem *item;
+    Stage stage;
+    QSignalSpy clicks;
+    QSignalSpy flips;
+};
+
+} // namespace
+
+class tst_AlarmListItem : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void keepsWhatItIsTold();
+    void isMadeInTheStyleAskedFor();
+    void aTapOnTheRowIsAClick();
+    void aFingerThatLeavesTheRowIsNoClick();
+    void aTouchTakenOverIsNoClick();
+    void aTapOnTheSwitchIsAFlipAndNoClick();
+    void settingTheStateIsNoFlip();
+    void keysOpenAndFlip();
+    void showsEveryPropertyAsARecycledCell();
+    void hidesTheRepeatLineInTheOneLineStyle();
+    void showsNothingForAnInvalidTime();
+    void followsTheTimeFormat();
+    void standsTheOtherWayRoundFromRightToLeft();
+    void isAsHighAsAFingerNeeds();
+};
+
+void tst_AlarmListItem::init()
+{
+    Locale::setDefault(Locale(u"en_US"_qs));
+}
+
+void tst_AlarmListItem::keepsWhatItIsTold()
+{
+    AlarmListItem item(AlarmListItem::OneLine);
+    item.setAlarmCookie(4294967295);
+    item.setTitle(QTime(7, 30));
+    item.setSubTitle("Work");
+    item.setSubText("Every day");
+    item.setAlarmTone("/tones/birds.aac");
+    item.setEnabled(true);
+    item.setSnoozeValue(255);
+    QCOMPARE(item.alarmCookie(), 4294967295);
+    QCOMPARE(item.title(), QTime(7, 30));
+    QCOMPARE(item.subTitle(), u"Work"_qs);
+    QCOMPARE(item.subText(), u"Every day"_qs);
+    QCOMPARE(item.alarmTone(), u"/tones/birds.aac"_qs);
+    QVERIFY(item.enabled());
+    QCOMPARE(item.snoozeValue(), uchar(255));
+    item.setEnabled(false);
+    QVERIFY(!item.enabled());
+}
+
+void tst_AlarmListItem::isMadeInTheStyleAskedFor()
+{
+    QCOMPARE(int(AlarmListItem::OneLine), 0);
+    QCOMPARE(int(AlarmListItem::WithRepeatLine), 1);
+    QCOMPARE(AlarmListItem(AlarmListItem::WithRepeatLine).itemStyle(), AlarmListItem::WithRepeatLine);
+    AlarmListItem item(AlarmListItem::OneLine, nullptr);
+    QCOMPARE(item.itemStyle(), AlarmListItem::OneLine);
+    QVERIFY(!item.enabled());
+}
+
+void tst_AlarmListItem::aTapOnTheRowIsAClick()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    const QImage atRest = scene.picture();
+    scene.stage.press(onTheRow);
+    QCOMPARE(scene.clicks.count(), 0);
+    QVERIFY(scene.picture() != atRest);
+    scene.stage.release(onTheRow);
+    QCOMPARE(scene.clicks.count(), 1);
+    QVERIFY(scene.picture() == atRest);
+    // A switched-off alarm is opened as well.
+    scene.item->setEnabled(false);
+    scene.stage.tap(onTheRow);
+    QCOMPARE(scene.clicks.count(), 2);
+    QCOMPARE(scene.flips.count(), 0);
+}
+
+void tst_AlarmListItem::aFingerThatLeavesTheRowIsNoClick()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    scene.stage.press(onTheRow);
+    scene.stage.move(onTheRow + QPointF(0, 80));
+    scene.stage.release(onTheRow + QPointF(0, 80));
+    QCOMPARE(scene.clicks.count(), 0);
+}
+
+void tst_AlarmListItem::aTouchTakenOverIsNoClick()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    scene.stage.press(onTheRow);
+    scene.item->ungrabMouse();
+    scene.stage.release(onTheRow);
+    QCOMPARE(scene.clicks.count(), 0);
+}
+
+void tst_AlarmListItem::aTapOnTheSwitchIsAFlipAndNoClick()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    bool enabledInSlot = false;
+    connect(scene.item, &AlarmListItem::alarmStateChanged, this, [&] { enabledInSlot = scene.item->enabled(); });
+    scene.stage.tap(scene.onTheSwitch());
+    QCOMPARE(scene.flips.count(), 1);
+    QVERIFY(enabledInSlot);
+    scene.stage.tap(scene.onTheSwitch());
+    QCOMPARE(scene.flips.count(), 2);
+    QVERIFY(!enabledInSlot);
+    QCOMPARE(scene.clicks.count(), 0);
+}
+
+void tst_AlarmListItem::settingTheStateIsNoFlip()
+{
+    Scene scene;
+    scene.item->setEnabled(true);
+    scene.item->setEnabled(false);
+    QCOMPARE(scene.flips.count(), 0);
+}
+
+void tst_AlarmListItem::keysOpenAndFlip()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    scene.stage.key(Qt::Key_Return);
+    QCOMPARE(scene.clicks.count(), 1);
+    QTest::keyClick(&scene.stage.window, Qt::Key_Tab);
+    QTest::keyClick(&scene.stage.window, Qt::Key_Space);
+    QCOMPARE(scene.flips.count(), 1);
+    QCOMPARE(scene.clicks.count(), 1);
+}
+
+void tst_AlarmListItem::showsEveryPropertyAsARecycledCell()
+{
+    Scene scene;
+    scene.item->setItemStyle(AlarmListItem::WithRepeatLine);
+    QVERIFY(scene.stage.show());
+    QImage before = scene.picture();
+    const auto changed = [&] {
+        const QImage after = scene.picture();
+        return std::exchange(before, after) != after;
+    };
+    scene.item->setTitle(QTime(8, 30));
+    QVERIFY(changed());
+    scene.item->setSubTitle("Other");
+    QVERIFY(changed());
+    scene.item->setSubText("Every day");
+    QVERIFY(changed());
+    scene.item->setItemStyle(AlarmListItem::OneLine);
+    QVERIFY(changed());
+    scene.item->setEnabled(true);
+    QVERIFY(changed());
+    scene.item->setAlarmCookie(7);
+    scene.item->setAlarmTone("tone");
+    scene.item->setSnoozeValue(7);
+    QCOMPARE(scene.flips.count() + scene.clicks.count(), 0);
+}
+
+void tst_AlarmListItem::hidesTheRepeatLineInTheOneLineStyle()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    const QImage without = scene.picture();
+    scene.item->setSubText("Every day");
+    QVERIFY(scene.picture() == without);
+}
+
+void tst_AlarmListItem::showsNothingForAnInvalidTime()
+{
+    Scene scene;
+    scene.item->setTitle(QTime());
+    QVERIFY(scene.stage.show());
+    const QImage picture = scene.picture();
+    const QRgb background = picture.pixel(2, 102);
+    for (int x = 0; x < 100; ++x)
+        QCOMPARE(picture.pixel(x, 144), background);
+}
+
+void tst_AlarmListItem::followsTheTimeFormat()
+{
+    Scene scene;
+    scene.item->setTitle(QTime(19, 30));
+    QVERIFY(scene.stage.show());
+    const QImage twelve = scene.picture();
+    Locale::getDefault().setTimeFormat24h(Locale::TwentyFourHour);
+    QVERIFY(scene.picture() != twelve);
+}
+
+void tst_AlarmListItem::standsTheOtherWayRoundFromRightToLeft()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    QVERIFY(scene.onTheSwitch().x() > 400);
+    scene.item->setLayoutDirection(Qt::RightToLeft);
+    QVERIFY(scene.onTheSwitch().x() < 80);
+    scene.stage.tap(scene.onTheSwitch());
+    QCOMPARE(scene.flips.count(), 1);
+}
+
+void tst_AlarmListItem::isAsHighAsAFingerNeeds()
+{
+    const AlarmListItem item(AlarmListItem::OneLine);
+    QVERIFY(item.preferredHeight() >= 80 && item.preferredHeight() <= 88);
+}
+
+QTEST_MAIN(tst_AlarmListItem)
+#include "tst_alarmlistitem.moc"
