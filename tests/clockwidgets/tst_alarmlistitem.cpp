@@ -62,6 +62,7 @@ private Q_SLOTS:
     void followsTheTimeFormat();
     void standsTheOtherWayRoundFromRightToLeft();
     void isAsHighAsAFingerNeeds();
+    void hasASwitchForFingers();
 };
 
 void tst_AlarmListItem::init()
@@ -244,6 +245,14 @@ void tst_AlarmListItem::isAsHighAsAFingerNeeds()
 {
     const AlarmListItem item(AlarmListItem::OneLine);
     QVERIFY(item.preferredHeight() >= 80 && item.preferredHeight() <= 88);
+}
+
+void tst_AlarmListItem::hasASwitchForFingers()
+{
+    const AlarmListItem item(AlarmListItem::OneLine);
+    const QGraphicsItem *toggle = item.childItems().constFirst();
+    QVERIFY(toggle->boundingRect().width() >= 52);
+    QVERIFY(toggle->boundingRect().height() >= 48);
 }
 
 QTEST_MAIN(tst_AlarmListItem)
