@@ -20,7 +20,7 @@ public:
     virtual void dismiss(quint32 cookie, const QString &by) = 0;
 
 Q_SIGNALS:
-    void answered(quint32 cookie); ///< nothing more to do for this alarm
+    void answered(quint32 cookie);                            ///< nothing more to do for this alarm
     void snoozeFailed(quint32 cookie, const QString &reason); ///< nobody would wake the user again
 };
 

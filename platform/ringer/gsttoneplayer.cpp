@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 namespace {
 
 // Leaves the next tone the time to start before two seconds have passed.
-constexpr auto FirstSoundTime = 1700ms;
+constexpr auto FirstSoundTime = 1500ms;
 constexpr auto StallTime = 3000ms;
 constexpr auto RiseStep = 200ms;
 

@@ -9,6 +9,8 @@
 #include <QDBusConnection>
 #include <QDBusError>
 
+#include <ctime>
+
 namespace Ringer {
 
 namespace Wire = Astel::Timed::Wire;
@@ -39,6 +41,8 @@ void RingerService::unregisterName()
 
 void RingerService::ring(uint cookie, const Wire::Event &event, qulonglong due)
 {
+    // The zone may have changed since the last alarm rang.
+    tzset();
     m_controller->ring(cookie, event, due);
 }
 

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/soundoutput.h"
 
-#include <gst/gst.h>
-
 namespace Ringer {
 
 namespace {

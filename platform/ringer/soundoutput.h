@@ -4,7 +4,7 @@
 
 #include <QString>
 
-typedef struct _GstElement GstElement;
+#include <gst/gst.h>
 
 namespace Ringer {
 

@@ -7,8 +7,6 @@
 
 #include <QUrl>
 
-#include <gst/gst.h>
-
 namespace Ringer {
 
 namespace {
@@ -25,7 +23,7 @@ constexpr auto BeepSource = "audiotestsrc wave=ticks freq=1046 sine-periods-per-
 
 QString errorText(GError *error)
 {
-    const auto text = error ? QString::fromUtf8(error->message) : QStringLiteral("unknown error");
+    auto text = error ? QString::fromUtf8(error->message) : QStringLiteral("unknown error");
     g_clear_error(&error);
     return text;
 }
@@ -107,11 +105,11 @@ TonePipeline::TonePipeline(GstElement *pipeline)
     : m_pipeline(pipeline)
     , m_volume(nullptr)
 {
+    connect(this, &TonePipeline::errorSeen, this, &TonePipeline::failed, Qt::QueuedConnection);
+    connect(this, &TonePipeline::levelSeen, this, &TonePipeline::flows, Qt::QueuedConnection);
+    connect(this, &TonePipeline::endSeen, this, &TonePipeline::startAgain, Qt::QueuedConnection);
     auto *bus = gst_element_get_bus(m_pipeline);
-    gst_bus_set_sync_handler(
-        bus,
-        [](GstBus *from, GstMessage *message, void *self) { return GstBusSyncReply(onMessage(from, message, self)); },
-        this, nullptr);
+    gst_bus_set_sync_handler(bus, &TonePipeline::onMessage, this, nullptr);
     gst_object_unref(bus);
 }
 
@@ -141,26 +139,25 @@ void TonePipeline::setVolume(double amplitude)
     g_object_set(m_volume, "volume", amplitude, nullptr);
 }
 
-int TonePipeline::onMessage(GstBus *, GstMessage *message, void *self)
+GstBusSyncReply TonePipeline::onMessage(GstBus *, GstMessage *message, void *self)
 {
     static_cast<TonePipeline *>(self)->post(message);
     gst_message_unref(message);
     return GST_BUS_DROP;
 }
 
-// Runs in GStreamer's threads.
+// Runs in GStreamer's threads, and in the main thread while the state changes.
 void TonePipeline::post(GstMessage *message)
 {
     switch (GST_MESSAGE_TYPE(message)) {
     case GST_MESSAGE_ERROR: {
         GError *error = nullptr;
         gst_message_parse_error(message, &error, nullptr);
-        QMetaObject::invokeMethod(
-            this, [this, text = errorText(error)] { Q_EMIT failed(text); }, Qt::QueuedConnection);
+        Q_EMIT errorSeen(errorText(error));
         break;
     }
     case GST_MESSAGE_EOS:
-        QMetaObject::invokeMethod(this, &TonePipeline::startAgain, Qt::QueuedConnection);
+        Q_EMIT endSeen();
         break;
     case GST_MESSAGE_STATE_CHANGED:
         if (GST_MESSAGE_SRC(message) == GST_OBJECT(m_pipeline)) {
@@ -183,8 +180,7 @@ void TonePipeline::measure(GstMessage *message)
     // Before that, sound only fills the buffers.
     if (!m_playing || !gst_structure_has_name(level, "level"))
         return;
-    QMetaObject::invokeMethod(
-        this, [this, audible = isAudible(level)] { Q_EMIT flows(audible); }, Qt::QueuedConnection);
+    Q_EMIT levelSeen(isAudible(level));
 }
 
 // A file too short for the seamless way ends; it begins anew.

@@ -7,9 +7,7 @@
 #include <atomic>
 #include <memory>
 
-typedef struct _GstBus GstBus;
-typedef struct _GstElement GstElement;
-typedef struct _GstMessage GstMessage;
+#include <gst/gst.h>
 
 namespace Ringer {
 
@@ -34,9 +32,14 @@ Q_SIGNALS:
     void flows(bool audible); ///< every 50 ms while sound goes out
     void failed(const QString &reason);
 
+    // From any thread; queued to the main thread, where they become the signals above.
+    void errorSeen(const QString &reason);
+    void levelSeen(bool isAudible);
+    void endSeen();
+
 private:
     explicit TonePipeline(GstElement *pipeline);
-    static int onMessage(GstBus *bus, GstMessage *message, void *self);
+    static GstBusSyncReply onMessage(GstBus *bus, GstMessage *message, void *self);
     void post(GstMessage *message);
     void measure(GstMessage *message);
     void startAgain();

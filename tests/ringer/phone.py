@@ -75,16 +75,17 @@ class Recorder:
 class Phone:
     """Starts everything, with alarms of its own in a folder; close() ends it."""
 
-    def __init__(self, build, home, theme):
-        self.build = pathlib.Path(build)
+    def __init__(self, build, home, theme="dark", display=True):
+        self.build = pathlib.Path(build).resolve()
         socket = pathlib.Path(home) / "sound"
         self.environment = dict(
-            os.environ, XDG_DATA_DIRS=f"{build}/share:/usr/share", XDG_DATA_HOME=f"{home}/data",
+            os.environ, XDG_DATA_DIRS=f"{self.build}/share:/usr/share", XDG_DATA_HOME=f"{home}/data",
             CLOCK_THEME=theme, CLOCK_REDUCED_MOTION="1", PULSE_SERVER=f"unix:{socket}")
         for name in ("QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"):
             self.environment.pop(name, None)
         self._processes = []
-        self._start_display()
+        if display:
+            self._start_display()
         self._start_sound(socket)
         self._start_bus()
 

@@ -7,10 +7,12 @@
 """
 import datetime
 import json
+import pathlib
 import sys
 import tempfile
 import time
 import unittest
+import wave
 
 import dbus
 
@@ -29,15 +31,19 @@ class RingFlow(unittest.TestCase):
     def setUp(self):
         home = tempfile.TemporaryDirectory()
         self.addCleanup(home.cleanup)
-        self.phone = phone.Phone(BUILD, home.name, theme="dark")
+        self.home = pathlib.Path(home.name)
+
+    def start(self, **how):
+        self.phone = phone.Phone(BUILD, self.home, **how)
         self.addCleanup(self.phone.close)
 
-    def add_event(self, title, due, snooze):
+    def add_event(self, title, due, snooze=600, **attributes):
         """An event straight on the bus, due at a second, whose button snoozes so many seconds."""
         event = dbus.Struct(
             (dbus.Int64(due), dbus.UInt32(SINGLE_SHOT | KEEP_ALIVE | ALARM | REMINDER), dbus.Int32(snooze),
              dbus.UInt32(3),
-             dbus.Dictionary({"APPLICATION": "test", "TITLE": title, "PLUGIN": "libclockalarm"}, signature="ss"),
+             dbus.Dictionary({"APPLICATION": "test", "TITLE": title, "PLUGIN": "libclockalarm", **attributes},
+                             signature="ss"),
              dbus.Array([], signature="(utuuub)"),
              dbus.Array([(dbus.Int32(snooze), dbus.Dictionary({}, signature="ss"))], signature="(ia{ss})")),
             signature="xuiua{ss}a(utuuub)a(ia{ss})")
@@ -50,11 +56,16 @@ class RingFlow(unittest.TestCase):
         phone.wait_for(lambda: self.state(cookie) == state, seconds, f"event {cookie} is {state}")
 
     def wait_for_ring(self, due, seconds):
-        """Until an alarm is seen and heard; prints how long after its moment the sound came."""
+        """Until an alarm is seen and heard."""
         phone.wait_for(self.phone.ring_window, seconds, "ring window")
-        heard = phone.wait_for(lambda: self.phone.sound.heard_since(due), 5, "sound")
+        return self.wait_for_sound(due, 5)
+
+    def wait_for_sound(self, due, seconds):
+        """Tells how many seconds after a moment the first sound came."""
+        heard = phone.wait_for(lambda: self.phone.sound.heard_since(due), seconds, "sound")
         phone.wait_for(lambda: (self.phone.sound.loudest(0.5) or 0) > 0.02, 5, "sound well above silence")
         print(f"first sound {1000 * (heard - due):.0f} ms after the moment", file=sys.stderr)
+        return heard - due
 
     def wait_for_silence(self):
         phone.wait_for(lambda: not self.phone.ring_window(), 5, "ring window gone")
@@ -65,6 +76,7 @@ class RingFlow(unittest.TestCase):
                 if of == cookie]
 
     def test_alarms_of_the_command_line_ring(self):
+        self.start()
         minute = datetime.datetime.now() + datetime.timedelta(seconds=65)
         due = minute.replace(second=0, microsecond=0).timestamp()
         snoozed, stopped = (int(self.phone.alarmctl("add", minute.strftime("%H:%M"), "--title", title))
@@ -90,6 +102,7 @@ class RingFlow(unittest.TestCase):
         self.assertIsNone(alarms[stopped]["nextTrigger"])
 
     def test_a_snoozed_alarm_rings_again_and_stop_ends_it(self):
+        self.start()
         due = int(time.time()) + 2
         cookie = self.add_event("Tea", due, snooze=3)
         self.wait_for_ring(due, 10)
@@ -108,9 +121,10 @@ class RingFlow(unittest.TestCase):
         self.assertEqual(words, ["due", "rang", "sounded", "answered"] * 2)
 
     def test_two_alarms_are_answered_one_by_one(self):
+        self.start()
         due = int(time.time()) + 2
-        first = self.add_event("Wake up", due, snooze=600)
-        second = self.add_event("Take the pills", due, snooze=600)
+        first = self.add_event("Wake up", due)
+        second = self.add_event("Take the pills", due)
         self.wait_for_ring(due, 10)
         self.wait_for_state(second, "TRIGGERED")
         phone.wait_for(lambda: ("rang" in dict(self.journal(second))), 5, "the second alarm is seen as well")
@@ -125,8 +139,9 @@ class RingFlow(unittest.TestCase):
         self.wait_for_silence()
 
     def test_a_ringer_that_is_killed_rings_again(self):
+        self.start()
         due = int(time.time()) + 2
-        cookie = self.add_event("Wake up", due, snooze=600)
+        cookie = self.add_event("Wake up", due)
         self.wait_for_ring(due, 10)
         self.phone.kill("com.astel.ringer")
         phone.wait_for(lambda: self.phone.bus.name_has_owner("com.astel.ringer"), 5, "another ringer")
@@ -134,6 +149,27 @@ class RingFlow(unittest.TestCase):
         self.phone.press(*STOP)
         self.wait_for_state(cookie, "FINISHED")
         self.wait_for_silence()
+
+    def test_a_silent_tone_gives_way_to_the_built_in_one(self):
+        self.start()
+        silent = self.home / "silent.wav"
+        with wave.open(str(silent), "wb") as out:
+            out.setparams((1, 2, 8000, 0, "NONE", "not compressed"))
+            out.writeframes(bytes(2 * 8000 * 10))
+        due = int(time.time()) + 2
+        cookie = self.add_event("Tea", due, sound=str(silent))
+        # The two seconds of the tone, and the start of the ringer.
+        self.assertLess(self.wait_for_ring(due, 10), 2.5)
+        sounded = phone.wait_for(lambda: dict(self.journal(cookie)).get("sounded"), 5, "journal says what is heard")
+        self.assertTrue(sounded.endswith("sounds/ring-tones/Clock alert 1.aac"), sounded)
+
+    def test_without_a_display_the_alarm_is_heard(self):
+        self.start(display=False)
+        due = int(time.time()) + 2
+        cookie = self.add_event("Wake up", due)
+        self.wait_for_sound(due, 10)
+        self.phone.timed("dismiss", dbus.UInt32(cookie), "test")
+        phone.wait_for(self.phone.sound.is_silent, 5, "silence")
 
 
 if __name__ == "__main__":

@@ -98,7 +98,7 @@ void TestGstTonePlayer::loopsWithoutAGap()
     player.play(file("sine.wav"));
     QTRY_VERIFY(m_server.peak(50) > Silence);
     m_server.forget();
-    QTRY_VERIFY(m_server.samples().size() >= 3 * Support::SoundServer::Rate);
+    QTRY_VERIFY(m_server.samples().size() >= qsizetype(3) * Support::SoundServer::Rate);
     const auto gap = longestGap(m_server.samples());
     QVERIFY2(gap <= 5, qPrintable(QStringLiteral("%1 ms of silence").arg(gap)));
 }
