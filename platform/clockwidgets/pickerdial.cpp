@@ -13,6 +13,8 @@ namespace {
 
 // Half of the smallest place that a finger finds.
 constexpr qreal TouchRadius = 30;
+// Around a handle in use, as a part of its radius; it stays within the widget.
+constexpr qreal HaloSize = 1.15;
 
 QPointF onCircle(qreal degrees, qreal radius)
 {
@@ -58,7 +60,7 @@ void PickerDial::setRect(const QRectF &rect)
 
 qreal PickerDial::ringRadius(ClockHand hand) const
 {
-    return m_radius * (hand == ClockHand::Minute ? 0.845 : 0.535);
+    return m_radius * (hand == ClockHand::Minute ? 0.83 : 0.525);
 }
 
 QPointF PickerDial::handlePlace(ClockHand hand, qreal angle) const
@@ -181,7 +183,7 @@ void PickerDial::paintHandle(QPainter &painter, ClockHand hand, const Handle &ha
         halo.setAlphaF(handle.isTouched ? 0.35F : 0);
         painter.setPen(handle.hasFocus ? QPen(m_look->focusColor, 2) : QPen(Qt::NoPen));
         painter.setBrush(halo);
-        painter.drawEllipse(place, radius + 5, radius + 5);
+        painter.drawEllipse(place, radius * HaloSize, radius * HaloSize);
     }
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(0, 0, 0, 40));

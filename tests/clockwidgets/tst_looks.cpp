@@ -151,9 +151,11 @@ void tst_Looks::picker()
     auto *evening = new TimePicker(22, 5);
     window.scene()->addItem(evening);
     evening->setGeometry(60, 440, 360, 360);
-    evening->setFocus(Qt::TabFocusReason);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const QImage without = window.grab().toImage();
+    evening->setFocus(Qt::TabFocusReason);
+    QVERIFY(window.grab().toImage() != without);
     QVERIFY(!take(window, "picker").isNull());
 
     const Theme &theme = Theme::instance();

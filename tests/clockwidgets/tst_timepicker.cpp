@@ -5,6 +5,7 @@
 #include "platform/locale/locale.h"
 #include "tests/clockwidgets/stage.h"
 
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
 #include <QtMath>
@@ -75,6 +76,7 @@ private Q_SLOTS:
     void turnsWithTheWheel();
     void obeysKeys();
     void followsTheTimeFormat();
+    void paintsNothingOutsideItself();
 };
 
 void tst_TimePicker::init()
@@ -354,6 +356,29 @@ void tst_TimePicker::followsTheTimeFormat()
     Locale::getDefault().setTimeFormat24h(Locale::TwelveHour);
     QVERIFY(scene.stage.window.grab().toImage() != twentyFour);
     QCOMPARE(scene.time(), QTime(19, 20));
+}
+
+void tst_TimePicker::paintsNothingOutsideItself()
+{
+    Scene scene(7, 0);
+    QVERIFY(scene.stage.show());
+    scene.stage.key(Qt::Key_Right);
+    for (const int minutes : {0, 15, 30, 45}) {
+        scene.picker->setMinutes(minutes);
+        scene.stage.press(scene.picker->minuteHandle());
+        QImage image(420, 420, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.translate(10, 10);
+        scene.picker->paint(&painter, nullptr);
+        painter.end();
+        scene.stage.release(scene.picker->minuteHandle());
+        QVERIFY(qAlpha(image.pixel(210, 210 - 160)) > 0);
+        for (int i = 0; i < 420; ++i) {
+            for (const QPoint &outside : {QPoint(i, 9), QPoint(i, 410), QPoint(9, i), QPoint(410, i)})
+                QCOMPARE(qAlpha(image.pixel(outside)), 0);
+        }
+    }
 }
 
 QTEST_MAIN(tst_TimePicker)
