@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/alarmctl/alarmctl.h"
+#include "tests/support/privatebus.h"
+
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+
+namespace {
+
+constexpr int MaximalOutput = 100000;
+
+} // namespace
+
+class WatchTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void printsALineForEachChange();
+    void tellsMomentsInWords();
+
+private:
+    /** Starts watching, and returns when changes are seen. */
+    void watch(QProcess &process, const QStringList &options);
+
+    Support::PrivateBus m_bus;
+    Support::TimedProcess m_daemon;
+};
+
+void WatchTest::initTestCase()
+{
+    QVERIFY(m_bus.isRunning());
+    QVERIFY(m_daemon.start());
+}
+
+void WatchTest::watch(QProcess &process, const QStringList &options)
+{
+    process.start(alarmctlPath(), QStringList("watch") + options);
+    QVERIFY(process.waitForStarted());
+    // Nothing tells from outside when it has begun to follow, so there are changes until it shows one.
+    QByteArray cookie;
+    QTRY_VERIFY([&] {
+        if (!cookie.isEmpty())
+            alarmctl("remove " + cookie);
+        cookie = alarmctl("add 12:00").output.trimmed().toUtf8();
+        return process.bytesAvailable() > 0;
+    }());
+    QTRY_VERIFY(process.peek(MaximalOutput).contains('"' + cookie + "\":"));
+    QCOMPARE(alarmctl("remove " + cookie).exitCode, 0);
+    QTRY_VERIFY(process.peek(MaximalOutput).endsWith("{}\n"));
+    process.readAllStandardOutput();
+}
+
+void WatchTest::printsALineForEachChange()
+{
+    QProcess process;
+    watch(process, {"--json"});
+    const Run first = alarmctl("add 12:00");
+    const Run second = alarmctl("add 13:00 --days daily");
+    QVERIFY(alarmctl("add 14:00 --off").exitCode == 0);
+    const Run edited = alarmctl("edit " + first.output.trimmed().toUtf8() + " --title Other");
+    QCOMPARE(alarmctl("remove " + second.output.toUtf8()).exitCode, 0);
+    const QString a = first.output.trimmed();
+    const QString b = second.output.trimmed();
+    const QString c = edited.output.trimmed();
+    const QList<QStringList> keys{{a}, {a, b}, {c, b}, {c}};
+    QTRY_COMPARE(process.peek(MaximalOutput).count('\n'), 4);
+    for (QStringList wanted : keys) {
+        wanted.sort();
+        QCOMPARE(QJsonDocument::fromJson(process.readLine()).object().keys(), wanted);
+    }
+    QCOMPARE(alarmctl("remove " + c.toUtf8()).exitCode, 0);
+    process.kill();
+    process.waitForFinished();
+}
+
+void WatchTest::tellsMomentsInWords()
+{
+    QProcess process;
+    process.start(alarmctlPath(), {"watch"});
+    QVERIFY(process.waitForStarted());
+    QString cookie;
+    QTRY_VERIFY([&] {
+        cookie = alarmctl("add 12:00").output.trimmed();
+        return process.bytesAvailable() > 0;
+    }());
+    QTRY_VERIFY(process.canReadLine());
+    QVERIFY(QString(process.readLine()).contains(QRegularExpression("^[0-9]+ [0-9-]{10} 12:00:00(, |$)")));
+    process.kill();
+    process.waitForFinished();
+}
+
+QTEST_GUILESS_MAIN(WatchTest)
+#include "tst_watch.moc"
