@@ -3,6 +3,7 @@
 #include "platform/toolkit/lineeditproxy_p.h"
 
 #include <QFocusEvent>
+#include <QWidget>
 
 namespace Touch {
 
@@ -15,6 +16,9 @@ LineEditProxy::~LineEditProxy() = default;
 void LineEditProxy::focusInEvent(QFocusEvent *event)
 {
     QGraphicsProxyWidget::focusInEvent(event);
+    // The base hands on the focus of Tab and mouse only.
+    if (widget() && !widget()->hasFocus())
+        widget()->setFocus(event->reason());
     emit gainedFocus(event->reason());
 }
 

@@ -5,8 +5,9 @@
 #include "platform/toolkit/motion_p.h"
 #include "platform/toolkit/window.h"
 
-#include <QEvent>
 #include <QGraphicsScene>
+#include <QGraphicsSceneMouseEvent>
+#include <QGraphicsSceneWheelEvent>
 #include <QLoggingCategory>
 #include <QVariantAnimation>
 
@@ -194,14 +195,15 @@ void SceneWindow::setTransition(qreal progress)
     setOpacity(progress);
 }
 
-bool SceneWindow::event(QEvent *event)
+// A press or a wheel beside the controls must not reach what lies beneath.
+void SceneWindow::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
-    // A press or a wheel beside the controls must not reach what lies beneath.
-    const bool handled = Widget::event(event);
-    if (takesInput()
-        && (event->type() == QEvent::GraphicsSceneMousePress || event->type() == QEvent::GraphicsSceneWheel))
-        event->accept();
-    return handled;
+    event->setAccepted(takesInput());
+}
+
+void SceneWindow::wheelEvent(QGraphicsSceneWheelEvent *event)
+{
+    event->setAccepted(takesInput());
 }
 
 } // namespace Touch

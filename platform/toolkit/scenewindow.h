@@ -63,7 +63,8 @@ protected:
     /** Paints one moment of the transition: 0 is gone, 1 is in its place. */
     virtual void setTransition(qreal progress);
 
-    bool event(QEvent *event) override;
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void wheelEvent(QGraphicsSceneWheelEvent *event) override;
 
 private:
     friend class Window;

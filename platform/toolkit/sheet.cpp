@@ -19,25 +19,9 @@ void Sheet::setHeaderWidget(QGraphicsWidget *header)
         return;
     delete m_headerWidget;
     m_headerWidget = header;
-    if (header) {
+    if (header)
         header->setParentItem(this);
-        orderForTabKey();
-    }
     arrange();
-}
-
-void Sheet::orderForTabKey()
-{
-    // The header comes before the content; only a scene knows an order.
-    if (scene() && m_headerWidget)
-        setTabOrder(m_headerWidget, m_centralWidget);
-}
-
-QVariant Sheet::itemChange(GraphicsItemChange change, const QVariant &value)
-{
-    if (change == ItemSceneHasChanged)
-        orderForTabKey();
-    return SceneWindow::itemChange(change, value);
 }
 
 void Sheet::setTransition(qreal progress)

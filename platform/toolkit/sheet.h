@@ -28,12 +28,10 @@ protected:
     int layer() const override { return 1; }
     void setTransition(qreal progress) override;
     bool event(QEvent *event) override;
-    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
     void resizeEvent(QGraphicsSceneResizeEvent *event) override;
 
 private:
     void arrange();
-    void orderForTabKey();
 
     QGraphicsWidget *m_headerWidget = nullptr;
     Widget *m_centralWidget = nullptr;
