@@ -188,13 +188,13 @@ void List::animateFrom(int row, qreal shift, Widget *cell, bool appears)
 void List::setAnimationProgress(qreal progress)
 {
     m_rows.setShift(m_change.shiftedFrom, m_change.shift * (1 - progress));
+    updateCells();
     if (m_change.appears)
         m_change.cell = m_cells.value(m_change.shiftedFrom - 1);
     if (m_change.cell)
         m_change.cell->setOpacity(m_change.appears ? progress : 1 - progress);
     updateGeometry();
     update();
-    updateCells();
 }
 
 void List::finishAnimation()
