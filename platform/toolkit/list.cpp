@@ -180,19 +180,16 @@ void List::animateFrom(int row, qreal shift, Widget *cell, bool appears)
                 [this](const QVariant &value) { setAnimationProgress(value.toReal()); });
         connect(m_animation, &QVariantAnimation::finished, this, &List::finishAnimation);
     }
-    m_change = {row, shift, cell, appears};
+    m_change = {row, shift, 0, cell, appears};
     m_rows.setShift(row, shift);
     m_animation->start();
 }
 
 void List::setAnimationProgress(qreal progress)
 {
+    m_change.progress = progress;
     m_rows.setShift(m_change.shiftedFrom, m_change.shift * (1 - progress));
     updateCells();
-    if (m_change.appears)
-        m_change.cell = m_cells.value(m_change.shiftedFrom - 1);
-    if (m_change.cell)
-        m_change.cell->setOpacity(m_change.appears ? progress : 1 - progress);
     updateGeometry();
     update();
 }
@@ -262,6 +259,12 @@ void List::updateCells()
     }
     m_outdated.clear();
     m_recycler.hideAll();
+    if (m_change.shift == 0)
+        return;
+    if (m_change.appears)
+        m_change.cell = m_cells.value(m_change.shiftedFrom - 1);
+    if (m_change.cell)
+        m_change.cell->setOpacity(m_change.appears ? m_change.progress : 1 - m_change.progress);
 }
 
 void List::placeCell(int row, Widget *cell)

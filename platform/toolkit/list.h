@@ -98,6 +98,7 @@ private:
     {
         int shiftedFrom = 0;
         qreal shift = 0;
+        qreal progress = 0;
         Widget *cell = nullptr;
         bool appears = false;
     };
