@@ -5,6 +5,7 @@
 #include "platform/timed/signals.h"
 
 #include <QCoreApplication>
+#include <QDBusConnection>
 #include <QStandardPaths>
 
 using namespace Astel::Timed;
@@ -25,16 +26,25 @@ Settings readSettings()
     return settings;
 }
 
+// A session that is over takes its bus with it; the daemon of the next one needs the store.
+bool quitWithTheBus(QCoreApplication *application)
+{
+    return QDBusConnection::sessionBus().connect({}, "/org/freedesktop/DBus/Local", "org.freedesktop.DBus.Local",
+                                                 "Disconnected", application, SLOT(quit()));
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    const QCoreApplication application(argc, argv);
+    QCoreApplication application(argc, argv);
     quitOnSignals();
     const auto daemon = Daemon::create(readSettings());
     if (!daemon) {
         qCCritical(lcTimed, "%ls", qUtf16Printable(daemon.error().text));
         return EXIT_FAILURE;
     }
+    if (!quitWithTheBus(&application))
+        qCWarning(lcTimed, "cannot see the end of the session bus, ignoring");
     return QCoreApplication::exec();
 }
