@@ -38,12 +38,19 @@ void quitWhenIdle(QApplication &application, Ringer::RingController &controller,
 {
     auto *timer = new QTimer(&application);
     timer->setSingleShot(true);
-    timer->start(IdleTime);
+    timer->setInterval(IdleTime);
+    timer->start();
     QObject::connect(&controller, &Ringer::RingController::idleChanged, timer, [timer](bool isIdle) {
         if (isIdle)
-            timer->start(IdleTime);
+            timer->start();
         else
             timer->stop();
+    });
+    // What rings when the bus goes is still to be heard.
+    QObject::connect(&service, &Ringer::RingerService::busLost, timer, [timer] {
+        timer->setInterval(0);
+        if (timer->isActive())
+            timer->start();
     });
     QObject::connect(timer, &QTimer::timeout, &application, [&service] {
         // Calls sent so far still arrive; later ones start a new ringer.

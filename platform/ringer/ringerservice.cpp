@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/ringerservice.h"
 
+#include "platform/ringer/logging.h"
 #include "platform/ringer/ringcontroller.h"
 
 #include "ringeradaptor.h"
@@ -26,6 +27,9 @@ RingerService::RingerService(RingController *controller, QObject *parent)
 bool RingerService::registerOnBus(QString *reason)
 {
     auto bus = QDBusConnection::sessionBus();
+    if (!bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
+                     QStringLiteral("Disconnected"), this, SIGNAL(busLost())))
+        qCWarning(lcRinger, "Cannot see the end of the session bus, ignoring");
     // The name comes last: whoever sees it may call.
     if (bus.registerObject(QLatin1String(Wire::RingerPath), this)
         && bus.registerService(QLatin1String(Wire::RingerService)))

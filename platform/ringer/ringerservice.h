@@ -21,6 +21,9 @@ public:
     [[nodiscard]] bool registerOnBus(QString *reason);
     void unregisterName();
 
+Q_SIGNALS:
+    void busLost(); ///< the session is over; nobody can call any more
+
 public Q_SLOTS:
     void ring(uint cookie, const Astel::Timed::Wire::Event &event, qulonglong due);
     void stop(uint cookie);

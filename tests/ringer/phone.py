@@ -28,6 +28,15 @@ def wait_for(condition, seconds, what):
         pause.wait(0.05)
 
 
+def is_running(process):
+    """Whether a process that is no child of ours runs, by its number."""
+    try:
+        state = pathlib.Path(f"/proc/{process}/stat").read_text(encoding="utf-8").rpartition(")")[2].split()[0]
+    except FileNotFoundError:
+        return False
+    return state != "Z"
+
+
 class Recorder:
     """What comes out of the sound server, in pieces of 20 ms with the moment at which they came."""
 
@@ -151,18 +160,31 @@ class Phone:
     def kill(self, service):
         """Ends the program behind a bus name at once, if there is one."""
         if self.bus.name_has_owner(service):
-            process = self.bus.get_object("org.freedesktop.DBus", "/").GetConnectionUnixProcessID(service)
             owner = self.bus.get_name_owner(service)
-            os.kill(process, signal.SIGKILL)
+            os.kill(self.process_of(service), signal.SIGKILL)
             wait_for(lambda: not self.bus.name_has_owner(owner), 5, f"end of {service}")
 
-    def close(self):
-        self.kill("com.astel.timed")
-        self.kill("com.astel.ringer")
-        self.sound.close()
+    def process_of(self, service):
+        """The number of the process behind a bus name."""
+        return int(self.bus.get_object("org.freedesktop.DBus", "/").GetConnectionUnixProcessID(service))
+
+    def end_bus(self):
+        """As at the end of a session."""
         self.bus.close()
+        self._end(self._processes.pop())
+
+    def close(self):
+        if self.bus.get_is_connected():
+            self.kill("com.astel.timed")
+            self.kill("com.astel.ringer")
+            self.bus.close()
+        self.sound.close()
         for process in reversed(self._processes):
-            process.terminate()
-            process.wait()
-            if process.stdout:
-                process.stdout.close()
+            self._end(process)
+
+    @staticmethod
+    def _end(process):
+        process.terminate()
+        process.wait()
+        if process.stdout:
+            process.stdout.close()

@@ -171,6 +171,19 @@ class RingFlow(unittest.TestCase):
         self.phone.timed("dismiss", dbus.UInt32(cookie), "test")
         phone.wait_for(self.phone.sound.is_silent, 5, "silence")
 
+    def test_daemon_and_ringer_end_with_their_session(self):
+        self.start()
+        due = int(time.time()) + 2
+        cookie = self.add_event("Wake up", due)
+        self.wait_for_ring(due, 10)
+        self.phone.press(*STOP)
+        self.wait_for_state(cookie, "FINISHED")
+        self.wait_for_silence()
+        processes = [self.phone.process_of(name) for name in ("com.astel.timed", "com.astel.ringer")]
+        self.phone.end_bus()
+        for process in processes:
+            phone.wait_for(lambda number=process: not phone.is_running(number), 5, "end of daemon and ringer")
+
 
 if __name__ == "__main__":
     unittest.main(verbosity=2)
