@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "alarmlist/alarmlistcreator.h"
+
+#include "alarmlist/alarmswidget.h"
+#include "platform/clockwidgets/alarmlistitem.h"
+#include "platform/toolkit/widgetrecycler.h"
+
+#include <QAbstractItemModel>
+#include <QTime>
+
+namespace {
+
+/** The text of another column of the same row. */
+QVariant column(const QModelIndex &index, int number)
+{
+    if (index.column() == number)
+        return index.data(Qt::DisplayRole);
+    return index.model()->index(index.row(), number, index.parent()).data(Qt::DisplayRole);
+}
+
+AlarmListItem::ItemStyle styleFor(const QString &repeatText)
+{
+    return static_cast<AlarmListItem::ItemStyle>(repeatText.isEmpty() ? 0 : 1);
+}
+
+} // namespace
+
+AlarmListCreator::AlarmListCreator(AlarmsWidget *alarmsWidget)
+    : m_alarmsWidget(alarmsWidget)
+    , m_cellSize(AlarmListItem(styleFor(QString())).effectiveSizeHint(Qt::PreferredSize))
+{ }
+
+Touch::Widget *AlarmListCreator::createCell(const QModelIndex &index, Touch::WidgetRecycler &recycler)
+{
+    auto *cell = dynamic_cast<AlarmListItem *>(recycler.take("AlarmListItem"));
+    if (!cell) {
+        cell = new AlarmListItem(styleFor(QString()), nullptr);
+        QObject::connect(cell, &AlarmListItem::clicked, m_alarmsWidget, &AlarmsWidget::alarmClicked);
+        QObject::connect(cell, &AlarmListItem::alarmStateChanged, m_alarmsWidget, &AlarmsWidget::alarmStateChanged);
+    }
+    updateCell(index, cell);
+    return cell;
+}
+
+void AlarmListCreator::updateCell(const QModelIndex &index, Touch::Widget *widget)
+{
+    auto *cell = dynamic_cast<AlarmListItem *>(widget);
+    if (!cell)
+        return;
+    cell->setAlarmCookie(column(index, 0).toInt());
+    cell->setTitle(QTime::fromString(column(index, 1).toString(), "hh:mm"));
+    cell->setSubTitle(column(index, 2).toString());
+    cell->setEnabled(column(index, 3).toInt() != 0);
+    if (const QString tone = column(index, 4).toString(); !tone.isEmpty())
+        cell->setAlarmTone(tone);
+    cell->setSubText(column(index, 5).toString());
+    cell->setItemStyle(styleFor(cell->subText()));
+    cell->setSnoozeValue(static_cast<unsigned char>(column(index, 6).toUInt() & 0xff));
+}

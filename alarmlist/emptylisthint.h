@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/toolkit/stylablewidget.h"
+
+/** Says in the place of an empty list how to make the first alarm. It takes no input. GUI thread. */
+class EmptyListHint : public Touch::StylableWidget
+{
+    Q_OBJECT
+
+public:
+    explicit EmptyListHint(QGraphicsItem *parent = nullptr);
+};
