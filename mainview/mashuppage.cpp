@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "mainview/mashuppage.h"
+
+#include "alarmlist/alarmswidget.h"
+#include "alarmlist/notices/informationbanner.h"
+#include "platform/clockwidgets/worldclock.h"
+#include "platform/locale/locale.h"
+#include "platform/timedclient/interface.h"
+#include "platform/toolkit/layout.h"
+#include "platform/toolkit/linearlayoutpolicy.h"
+#include "platform/toolkit/pannableviewport.h"
+#include "platform/toolkit/separator.h"
+
+#include <QDebug>
+
+using Touch::LinearLayoutPolicy;
+
+namespace {
+
+constexpr int AllComponents = 7;
+
+LinearLayoutPolicy *arrangement(Touch::Layout *layout, Qt::Orientation orientation)
+{
+    auto *policy = new LinearLayoutPolicy(layout, orientation);
+    policy->setStyleName("ClockMainViewLayout");
+    policy->setContentsMargins(0, 0, 0, 0);
+    return policy;
+}
+
+} // namespace
+
+MashupPage::MashupPage()
+{
+    setTitle(qtTrId("qtn_cloc_title"));
+    setComponentsDisplayMode(AllComponents, Touch::ApplicationPage::Hide);
+    setStyleName("MainPage");
+}
+
+MashupPage::~MashupPage()
+{
+    destroyInformationBanner();
+    delete m_timed;
+}
+
+void MashupPage::createContent()
+{
+    Touch::ApplicationPage::createContent();
+    installCatalogues();
+    auto *layout = new Touch::Layout(centralWidget());
+    m_clockFace = new WorldClock(centralWidget());
+    m_dropShadow = new Touch::Separator;
+    m_dropShadow->setStyleName("DropShadow");
+    arrange(layout, createAlarmList());
+    followDaemonSettings();
+}
+
+void MashupPage::installCatalogues()
+{
+    Touch::Locale locale;
+    locale.installTrCatalog("countries");
+    locale.installTrCatalog("sounds");
+    Touch::Locale::setDefault(locale);
+}
+
+Touch::PannableViewport *MashupPage::createAlarmList()
+{
+    auto *viewport = new Touch::PannableViewport;
+    m_alarmList = new AlarmsWidget(centralWidget(), viewport);
+    m_alarmList->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    viewport->setWidget(m_alarmList);
+    return viewport;
+}
+
+void MashupPage::arrange(Touch::Layout *layout, Touch::PannableViewport *viewport)
+{
+    auto *divider = new Touch::Separator;
+    divider->setStyleName("ClockItemDivider");
+    divider->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+
+    LinearLayoutPolicy *landscape = arrangement(layout, Qt::Horizontal);
+    landscape->setSpacing(0);
+    landscape->addItem(m_clockFace);
+    landscape->addItem(viewport);
+    layout->setLandscapePolicy(landscape);
+
+    LinearLayoutPolicy *portrait = arrangement(layout, Qt::Vertical);
+    portrait->addItem(m_clockFace);
+    portrait->addItem(m_dropShadow);
+    portrait->addItem(divider);
+    portrait->addItem(viewport);
+    layout->setPortraitPolicy(portrait);
+}
+
+void MashupPage::followDaemonSettings()
+{
+    m_timed = new Astel::Timed::Interface;
+    const bool isConnected
+        = m_timed->settings_changed_connect(this, SLOT(timeChanged(const Astel::Timed::WallClock::Info &, bool)));
+    if (!isConnected)
+        qDebug() << "[MashupPage] Unable to connect Astel::Timed::setting_changed signal";
+}
+
+void MashupPage::resetContent()
+{
+    qDebug() << "void MashupPage::resetContent()";
+    m_alarmList->resetContent();
+}
+
+void MashupPage::timeChanged(const Astel::Timed::WallClock::Info &, bool)
+{
+    m_alarmList->updateContent();
+}

@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "mainview/mashuppage.h"
+
+#include "alarmlist/alarmswidget.h"
+#include "alarmlist/notices/informationbanner.h"
+#include "platform/clockwidgets/worldclock.h"
+#include "platform/timedclient/wire.h"
+#include "platform/toolkit/applicationwindow.h"
+#include "platform/toolkit/banner.h"
+#include "platform/toolkit/pannableviewport.h"
+#include "tests/support/items.h"
+#include "tests/support/logcapture.h"
+#include "tests/support/look.h"
+#include "tests/support/privatebus.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QMetaMethod>
+#include <QPointer>
+#include <QTest>
+
+using Touch::ApplicationPage;
+
+class TestMashupPage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void aNewPageHasNoContentAndNoChrome();
+    void contentIsCreatedOnceWhenItAppears();
+    void inPortraitTheClockStandsAboveTheAlarms();
+    void inLandscapeTheClockStandsBesideTheAlarms();
+    void resettingResetsTheAlarmList();
+    void everySettingsChangeReadsTheAlarmsOnce();
+    void theSlotKeepsItsSignature();
+    void theBannerEndsWithThePage();
+
+private:
+    Touch::Widget *separator(const QString &styleName) const;
+
+    Support::PrivateBus m_bus;
+    std::unique_ptr<Touch::ApplicationWindow> m_window;
+    std::unique_ptr<MashupPage> m_page;
+};
+
+void TestMashupPage::initTestCase()
+{
+    qputenv("CLOCK_REDUCED_MOTION", "1");
+    QVERIFY(Support::loadLook());
+    QVERIFY(m_bus.isRunning());
+    // Stands in for the daemon: its name must have an owner for its signal to be heard.
+    QVERIFY(QDBusConnection::sessionBus().registerService(Astel::Timed::Wire::Service));
+    m_window = std::make_unique<Touch::ApplicationWindow>();
+    m_window->resize(480, 854);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void TestMashupPage::init()
+{
+    m_page = std::make_unique<MashupPage>();
+}
+
+Touch::Widget *TestMashupPage::separator(const QString &styleName) const
+{
+    const auto widgets = m_page->centralWidget()->childItems();
+    for (QGraphicsItem *item : widgets) {
+        auto *widget = qobject_cast<Touch::Widget *>(item->toGraphicsObject());
+        if (widget && widget->styleName() == styleName)
+            return widget;
+    }
+    return nullptr;
+}
+
+void TestMashupPage::aNewPageHasNoContentAndNoChrome()
+{
+    QCOMPARE(m_page->title(), "qtn_cloc_title");
+    QCOMPARE(m_page->styleName(), "MainPage");
+    QVERIFY(!m_page->isContentCreated());
+    QVERIFY(!Support::itemIn<WorldClock>(m_page.get()));
+    for (const auto component :
+         {ApplicationPage::HomeButton, ApplicationPage::EscapeButton, ApplicationPage::NavigationBar})
+        QCOMPARE(m_page->componentDisplayMode(component), ApplicationPage::Hide);
+}
+
+void TestMashupPage::contentIsCreatedOnceWhenItAppears()
+{
+    m_page->appear(m_window.get());
+    QVERIFY(m_page->isContentCreated());
+    m_page->disappear();
+    m_page->appear(m_window.get());
+    QCOMPARE(Support::countIn<WorldClock>(m_page.get()), 1);
+    QCOMPARE(Support::countIn<AlarmsWidget>(m_page.get()), 1);
+}
+
+void TestMashupPage::inPortraitTheClockStandsAboveTheAlarms()
+{
+    m_window->setOrientation(Qt::Vertical);
+    m_page->appear(m_window.get());
+    const auto *clock = Support::itemIn<WorldClock>(m_page.get());
+    const auto *viewport = Support::itemIn<Touch::PannableViewport>(m_page.get());
+    const auto *shadow = separator("DropShadow");
+    const auto *divider = separator("ClockItemDivider");
+    QVERIFY(clock && viewport && shadow && divider);
+    QTRY_COMPARE(viewport->geometry().bottom(), m_page->centralWidget()->size().height());
+    QCOMPARE(clock->geometry().topLeft(), QPointF(0, 0));
+    QVERIFY(shadow->isVisible() && divider->isVisible());
+    QVERIFY(clock->geometry().bottom() <= shadow->geometry().top());
+    QVERIFY(shadow->geometry().bottom() <= divider->geometry().top());
+    QVERIFY(divider->geometry().bottom() <= viewport->geometry().top());
+    QCOMPARE(viewport->geometry().left(), 0.0);
+    QCOMPARE(viewport->size().width(), m_page->centralWidget()->size().width());
+}
+
+void TestMashupPage::inLandscapeTheClockStandsBesideTheAlarms()
+{
+    m_page->appear(m_window.get());
+    m_window->setOrientation(Qt::Horizontal);
+    const auto *clock = Support::itemIn<WorldClock>(m_page.get());
+    const auto *viewport = Support::itemIn<Touch::PannableViewport>(m_page.get());
+    QTRY_COMPARE(viewport->geometry().left(), clock->geometry().right());
+    QVERIFY(!separator("DropShadow")->isVisible());
+    QVERIFY(!separator("ClockItemDivider")->isVisible());
+    m_window->setOrientation(Qt::Vertical);
+    QTRY_VERIFY(separator("DropShadow")->isVisible());
+}
+
+void TestMashupPage::resettingResetsTheAlarmList()
+{
+    m_page->appear(m_window.get());
+    const Support::LogCapture log;
+    m_page->resetContent();
+    const QStringList lines = log.lines(QtDebugMsg);
+    QCOMPARE(lines.value(0), "void MashupPage::resetContent()");
+    QCOMPARE(lines.value(1), "void AlarmsWidget::resetContent()");
+    QCOMPARE(lines.value(2), "void AlarmsWidget::updateContent() entered");
+}
+
+void TestMashupPage::everySettingsChangeReadsTheAlarmsOnce()
+{
+    m_page->appear(m_window.get());
+    const Support::LogCapture log;
+    for (int count = 1; count <= 2; ++count) {
+        auto changed
+            = QDBusMessage::createSignal(Astel::Timed::Wire::Path, Astel::Timed::Wire::Interface, "settings_changed");
+        changed << QVariant::fromValue(Astel::Timed::WallClock::Info{"Europe/Berlin", 3600, false}) << true;
+        QVERIFY(QDBusConnection::sessionBus().send(changed));
+        QTRY_COMPARE(log.lines().filter("AlarmsWidget::updateContent() entered").size(), count);
+    }
+}
+
+void TestMashupPage::theSlotKeepsItsSignature()
+{
+    const QMetaObject &meta = MashupPage::staticMetaObject;
+    QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
+    const QMetaMethod slot = meta.method(meta.methodOffset());
+    QCOMPARE(slot.methodSignature(), "timeChanged(Astel::Timed::WallClock::Info,bool)");
+    QCOMPARE(slot.parameterNames().value(1), "timechanged");
+}
+
+void TestMashupPage::theBannerEndsWithThePage()
+{
+    m_page->appear(m_window.get());
+    showInformationBanner("Soon");
+    QPointer<Touch::Banner> banner;
+    const auto sceneWindows = m_window->sceneWindows();
+    for (Touch::SceneWindow *sceneWindow : sceneWindows) {
+        if (auto *found = qobject_cast<Touch::Banner *>(sceneWindow))
+            banner = found;
+    }
+    QVERIFY(banner && banner->isOnDisplay());
+    m_page.reset();
+    QVERIFY(!banner);
+}
+
+QTEST_MAIN(TestMashupPage)
+#include "tst_mashuppage.moc"
