@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/privatebus.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusReply>
+#include <QProcess>
+#include <QTest>
+
+namespace {
+
+constexpr auto Service = "com.korvo.clock";
+constexpr auto BackupService = "com.korvo.clock.Backup";
+
+/** The real program, with what it logs. */
+class Program
+{
+public:
+    bool start()
+    {
+        m_process.setProcessChannelMode(QProcess::MergedChannels);
+        m_process.start(CLOCK_BIN_DIR "/clock", QStringList());
+        return m_process.waitForStarted();
+    }
+    ~Program()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+    /** Waits for a line; false if it does not come. */
+    bool logs(const QString &line)
+    {
+        return QTest::qWaitFor([&] { return lines().contains(line); });
+    }
+    QStringList lines()
+    {
+        m_output += m_process.readAll();
+        QStringList trimmed;
+        const auto all = QString::fromUtf8(m_output).split('\n');
+        for (const QString &line : all)
+            trimmed.append(line.trimmed());
+        return trimmed;
+    }
+    /** The exit status, or -1 if it does not end. */
+    int status()
+    {
+        const bool hasEnded = QTest::qWaitFor([&] { return m_process.state() == QProcess::NotRunning; });
+        return hasEnded && m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+    }
+    bool isRunning() const { return m_process.state() == QProcess::Running; }
+
+private:
+    QProcess m_process;
+    QByteArray m_output;
+};
+
+bool request(const QString &method, const QVariantList &arguments = {})
+{
+    auto message = QDBusMessage::createMethodCall(Service, "/com/korvo/clock", "com.astel.touch.Application", method);
+    message.setArguments(arguments);
+    return QDBusConnection::sessionBus().call(message).type() == QDBusMessage::ReplyMessage;
+}
+
+} // namespace
+
+class TestStartup : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+    void everythingStartsAndEndsInItsOrder();
+    void theBackupParticipantAnswers();
+    void aLaunchRequestResetsThePage();
+    void aLaunchWithArgumentsDoesNotReset();
+    void aSecondProcessHandsOverAndEnds();
+    void aTakenBackupNameIsOnlyLogged();
+
+private:
+    Support::PrivateBus m_bus;
+};
+
+void TestStartup::initTestCase()
+{
+    QVERIFY(m_bus.isRunning());
+}
+
+void TestStartup::cleanup()
+{
+    QVERIFY(Support::PrivateBus::waitForService(Service, false));
+}
+
+void TestStartup::everythingStartsAndEndsInItsOrder()
+{
+    Program program;
+    QVERIFY(program.start());
+    QVERIFY(Support::PrivateBus::waitForService(BackupService));
+    QVERIFY(request("exit"));
+    QCOMPARE(program.status(), 0);
+    const QStringList marks{
+        "ClockApplicationService::ClockApplicationService", "void Clock::Utility::subscribeToContextFramework()",
+        "virtual AlarmsWidget::~AlarmsWidget() entered", "virtual AlarmsWidget::~AlarmsWidget() exited",
+        "ClockApplicationService::~ClockApplicationService"};
+    QStringList seen = program.lines();
+    seen.removeIf([&](const QString &line) { return !marks.contains(line); });
+    QCOMPARE(seen, marks);
+    QVERIFY(program.lines().filter("could not register").isEmpty());
+}
+
+void TestStartup::theBackupParticipantAnswers()
+{
+    Program program;
+    QVERIFY(program.start());
+    QVERIFY(Support::PrivateBus::waitForService(BackupService));
+    const auto call
+        = QDBusMessage::createMethodCall(BackupService, "/backupclient", "com.korvo.backupclient", "restoreStarts");
+    const QDBusReply<uchar> reply = QDBusConnection::sessionBus().call(call);
+    QVERIFY(reply.isValid());
+    QCOMPARE(reply.value(), uchar(0));
+    QVERIFY(program.logs("restoreStarts"));
+    QVERIFY(request("exit"));
+    QCOMPARE(program.status(), 0);
+}
+
+void TestStartup::aLaunchRequestResetsThePage()
+{
+    Program program;
+    QVERIFY(program.start());
+    QVERIFY(Support::PrivateBus::waitForService(BackupService));
+    QVERIFY(request("launch"));
+    QVERIFY(program.logs("ClockApplicationService::launch end"));
+    const QStringList lines = program.lines();
+    const auto start = lines.indexOf("ClockApplicationService::launch starts");
+    QVERIFY(start >= 0);
+    QCOMPARE(lines.value(start + 1), "void MashupPage::resetContent()");
+    QCOMPARE(lines.value(start + 2), "void AlarmsWidget::resetContent()");
+    QVERIFY(lines.indexOf("ClockApplicationService::launch end") > start + 2);
+    QVERIFY(request("exit"));
+    QCOMPARE(program.status(), 0);
+}
+
+void TestStartup::aLaunchWithArgumentsDoesNotReset()
+{
+    Program program;
+    QVERIFY(program.start());
+    QVERIFY(Support::PrivateBus::waitForService(BackupService));
+    QVERIFY(request("launchWithArguments", {QStringList{"--any"}}));
+    QVERIFY(request("exit"));
+    QCOMPARE(program.status(), 0);
+    QVERIFY(program.lines().filter("resetContent").isEmpty());
+}
+
+void TestStartup::aSecondProcessHandsOverAndEnds()
+{
+    Program first;
+    QVERIFY(first.start());
+    QVERIFY(Support::PrivateBus::waitForService(BackupService));
+    Program second;
+    QVERIFY(second.start());
+    QCOMPARE(second.status(), 0);
+    QVERIFY(first.logs("ClockApplicationService::launch starts"));
+    QVERIFY(first.isRunning());
+    QVERIFY(request("exit"));
+    QCOMPARE(first.status(), 0);
+}
+
+void TestStartup::aTakenBackupNameIsOnlyLogged()
+{
+    QVERIFY(QDBusConnection::sessionBus().registerService(BackupService));
+    Program program;
+    QVERIFY(program.start());
+    QVERIFY(program.logs("could not register dbus service"));
+    QVERIFY(program.lines().filter("could not register dbus object").isEmpty());
+    QVERIFY(Support::PrivateBus::waitForService(Service));
+    QVERIFY(request("exit"));
+    QCOMPARE(program.status(), 0);
+    QVERIFY(QDBusConnection::sessionBus().unregisterService(BackupService));
+}
+
+QTEST_GUILESS_MAIN(TestStartup)
+#include "tst_startup.moc"
