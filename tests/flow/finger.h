@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QPoint>
+#include <QString>
+
+class QGraphicsObject;
+
+/** What a user does and sees on the screen of the running program. */
+namespace Flow {
+
+// Real input, sent by the X server to whatever lies there.
+void tap(const QPoint &position);
+void drag(const QPoint &from, const QPoint &to);
+void type(const QString &text);
+
+/** A point of an item on the screen, given as parts of its width and height from the top left corner. */
+QPoint pointOf(const QGraphicsObject *item, double across = 0.5, double down = 0.5);
+/** The topmost item of this object name that is visible and stands still, or null. */
+QGraphicsObject *itemNamed(const QString &objectName);
+/** The texts of all visible labels. */
+QStringList visibleTexts();
+/** Whether a page, sheet or banner is just coming or going. */
+bool isMoving();
+
+/** Waits until the screen rests and keeps what it shows under this name in the build folder. */
+[[nodiscard]] bool keepScreenshot(const QString &name);
+
+} // namespace Flow
