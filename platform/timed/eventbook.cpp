@@ -39,7 +39,7 @@ Result<quint32> EventBook::nextCookie() const
 
 Result<> EventBook::commit(const Change &change)
 {
-    const auto committed = m_store.commit(change);
+    auto committed = m_store.commit(change);
     if (committed)
         apply(change);
     return committed;

@@ -75,12 +75,14 @@ std::optional<Wire::Event> decodeEvent(const QString &text)
     event.timeoutSnooze = qint32(object["timeoutSnooze"].toInteger());
     event.maximalTimeoutSnoozeCounter = quint32(object["maximalTimeoutSnoozeCounter"].toInteger());
     event.attributes = decodeAttributes(object["attributes"].toObject());
-    for (const QJsonValue &value : object["recurrences"].toArray()) {
+    const QJsonArray recurrences = object["recurrences"].toArray();
+    for (const auto &value : recurrences) {
         if (value.toArray().size() != RecurrenceFields)
             return std::nullopt;
         event.recurrences.append(decodeRecurrence(value.toArray()));
     }
-    for (const QJsonValue &value : object["buttons"].toArray())
+    const QJsonArray buttons = object["buttons"].toArray();
+    for (const auto &value : buttons)
         event.buttons.append({qint32(value[0].toInteger()), decodeAttributes(value[1].toObject())});
     return event;
 }

@@ -47,7 +47,7 @@ Result<quint32> EventService::store(const Wire::Event &event, const QList<quint3
 {
     if (const auto valid = validate(event); !valid)
         return valid.error();
-    const auto cookie = m_book.nextCookie();
+    auto cookie = m_book.nextCookie();
     if (!cookie)
         return cookie;
     const auto committed = m_lifeCycle.commit({{m_lifeCycle.fresh(*cookie, event)}, replaced, {}});

@@ -14,7 +14,7 @@ enum class Lateness {
     Absurd, ///< passed by so much that the clock, not the user, must have been away
 };
 
-inline constexpr qint64 MaximalLateness = 10 * 60 * 1000;
+inline constexpr qint64 MaximalLateness = Q_INT64_C(10) * 60 * 1000;
 inline constexpr qint64 AbsurdLateness = Q_INT64_C(366) * 86400 * 1000;
 
 /** Both in milliseconds since the epoch. */

@@ -77,7 +77,7 @@ AlarmEvent LifeCycle::fresh(quint32 cookie, const Wire::Event &wire) const
 
 Result<> LifeCycle::commit(const Change &change)
 {
-    const auto committed = m_book.commit(change);
+    auto committed = m_book.commit(change);
     if (committed)
         follow(change);
     return committed;

@@ -26,7 +26,7 @@ std::optional<Rules::Zone> LocalZone::read() const
     const QString target = QFileInfo(m_localtime).symLinkTarget();
     const auto position = target.lastIndexOf(QLatin1String(marker));
     QString error;
-    const auto zone = position < 0 || qEnvironmentVariableIsSet("TZ")
+    auto zone = position < 0 || qEnvironmentVariableIsSet("TZ")
         ? Rules::Zone::local(&error)
         : Rules::Zone::create(target.mid(position + qstrlen(marker)).toUtf8(), &error);
     if (!zone)

@@ -13,7 +13,7 @@ namespace Astel::Timed {
 
 namespace {
 
-constexpr qint64 Day = 86400 * 1000;
+constexpr qint64 Day = Q_INT64_C(86400) * 1000;
 constexpr qint64 Year = 366 * Day;
 constexpr int CommitsBetweenSnapshots = 10;
 // After a restored snapshot, cookies given since it was taken are not known any more; they are stepped over.
@@ -80,7 +80,7 @@ Result<> SqliteStore::begin(qint64 now)
     QSqlQuery query(m_database->connection());
     if (m_database->wasRestored()) {
         query.prepare("UPDATE counter SET last_cookie = last_cookie + ?");
-        if (const auto done = run(query, {CookiesToStepOver}); !done)
+        if (auto done = run(query, {CookiesToStepOver}); !done)
             return done;
     }
     query.prepare("DELETE FROM journal WHERE moment < ?");
@@ -95,7 +95,7 @@ Result<> SqliteStore::commit(const Change &change)
     QSqlDatabase database = m_database->connection();
     if (!database.transaction())
         return Database::failure(QStringLiteral("cannot begin a change"), database.lastError().text());
-    if (const auto written = write(change); !written) {
+    if (auto written = write(change); !written) {
         database.rollback();
         return written;
     }
@@ -125,7 +125,7 @@ Result<> SqliteStore::write(const Change &change)
 Result<> SqliteStore::put(const AlarmEvent &event)
 {
     const Standing &standing = event.standing();
-    const auto counted = run(m_count, {event.cookie()});
+    auto counted = run(m_count, {event.cookie()});
     if (!counted)
         return counted;
     return run(m_put,

@@ -79,9 +79,9 @@ Result<> validateButtons(const QList<Wire::Button> &buttons)
     if (buttons.size() > MaximalButtons)
         return limit(QStringLiteral("buttons"), buttons.size(), MaximalButtons);
     for (const Wire::Button &button : buttons) {
-        if (const auto valid = validateSnooze(QStringLiteral("a button's snooze"), button.snooze); !valid)
+        if (auto valid = validateSnooze(QStringLiteral("a button's snooze"), button.snooze); !valid)
             return valid;
-        if (const auto valid = validateAttributes(button.attributes, MaximalButtonAttributes); !valid)
+        if (auto valid = validateAttributes(button.attributes, MaximalButtonAttributes); !valid)
             return valid;
     }
     return Done{};
@@ -92,7 +92,7 @@ Result<> validateRecurrences(const QList<Wire::Recurrence> &recurrences)
     if (recurrences.size() > MaximalRecurrences)
         return limit(QStringLiteral("recurrences"), recurrences.size(), MaximalRecurrences);
     for (const Wire::Recurrence &recurrence : recurrences) {
-        if (const auto valid = validateRecurrence(recurrence); !valid)
+        if (auto valid = validateRecurrence(recurrence); !valid)
             return valid;
     }
     return Done{};

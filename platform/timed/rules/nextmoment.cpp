@@ -16,7 +16,7 @@ using namespace std::chrono;
 constexpr qint64 SecondsOfDay = 86400;
 // No offset of any zone at any time reaches a day.
 constexpr qint64 WidestOffset = SecondsOfDay;
-constexpr int HorizonYears = 40;
+constexpr qint64 HorizonYears = 40;
 // Years 1 to 9999, so that no arithmetic on the way overflows.
 constexpr qint64 Earliest = -62135596800 + 2 * SecondsOfDay;
 constexpr qint64 Latest = 253402300799 - HorizonYears * 366 * SecondsOfDay;
@@ -63,7 +63,7 @@ std::optional<qint64> firstOfDay(const Rule &rule, const Zone &zone, sys_days da
     for (unsigned minute = 0; minute < 24 * 60; ++minute) {
         if (!holds(rule.hours, minute / 60) || !holds(rule.minutes, minute % 60))
             continue;
-        const auto moment = toUtc(stretches, midnight + minute * 60, rule.fillingGaps);
+        const auto moment = toUtc(stretches, midnight + qint64(minute) * 60, rule.fillingGaps);
         if (!moment || *moment <= after)
             continue;
         if (stretches.size() == 1)
