@@ -121,14 +121,14 @@ class RingFlow(unittest.TestCase):
         self.assertEqual(words, ["due", "rang", "sounded", "answered"] * 2)
 
     def test_two_alarms_are_answered_one_by_one(self):
-        self.start()
+        self.start(theme="light")
         due = int(time.time()) + 2
         first = self.add_event("Wake up", due)
         second = self.add_event("Take the pills", due)
         self.wait_for_ring(due, 10)
         self.wait_for_state(second, "TRIGGERED")
         phone.wait_for(lambda: ("rang" in dict(self.journal(second))), 5, "the second alarm is seen as well")
-        self.phone.screenshot("ring-two-alarms.png")
+        self.phone.screenshot("ring-light-two-alarms.png")
         self.phone.press(*STOP)
         self.wait_for_state(first, "FINISHED")
         phone.wait_for(lambda: ("sounded" in dict(self.journal(second))), 5, "the second alarm is heard")
