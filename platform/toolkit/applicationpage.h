@@ -40,12 +40,15 @@ public:
     void setComponentsDisplayMode(int componentMask, DisplayMode mode);
     DisplayMode componentDisplayMode(Component component) const;
 
+    QAccessible::Role accessibleRole() const override { return QAccessible::Pane; }
+
 signals:
     void titleChanged(const QString &title);
 
 protected:
     int layer() const override { return 0; }
     void aboutToAppear() override;
+    QString shownText() const override { return m_title; }
     void resizeEvent(QGraphicsSceneResizeEvent *event) override;
 
 private:

@@ -31,12 +31,15 @@ public:
     int displayTime() const { return m_displayTime; }
     void setDisplayTime(int milliseconds);
 
+    QAccessible::Role accessibleRole() const override { return QAccessible::AlertMessage; }
+
 protected:
     int layer() const override { return 3; }
     bool coversWindow() const override { return false; }
     bool takesInput() const override { return false; }
     QRectF placement(const QSizeF &windowSize) const override;
     void aboutToAppear() override;
+    QString shownText() const override { return title(); }
     void setTransition(qreal progress) override;
     void timerEvent(QTimerEvent *event) override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;

@@ -88,6 +88,12 @@ void Button::setChecked(bool isChecked)
         return;
     m_isChecked = wanted;
     update();
+    if (QAccessible::isActive()) {
+        QAccessible::State changed;
+        changed.checked = true;
+        QAccessibleStateChangeEvent event(this, changed);
+        QAccessible::updateAccessibility(&event);
+    }
     emit toggled(wanted);
 }
 
@@ -164,6 +170,16 @@ void Button::focusOutEvent(QFocusEvent *event)
 {
     setDown(false);
     Widget::focusOutEvent(event);
+}
+
+QAccessible::Role Button::accessibleRole() const
+{
+    return m_isCheckable ? QAccessible::CheckBox : QAccessible::Button;
+}
+
+QString Button::shownText() const
+{
+    return text();
 }
 
 void Button::styleChanged()

@@ -45,6 +45,7 @@ public:
     /** As if the user had pressed it. */
     void click();
 
+    QAccessible::Role accessibleRole() const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 signals:
@@ -55,6 +56,7 @@ signals:
 
 protected:
     void styleChanged() override;
+    QString shownText() const override;
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;

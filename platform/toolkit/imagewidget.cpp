@@ -42,7 +42,8 @@ void ImageWidget::paint(QPainter *painter, const QStyleOptionGraphicsItem *optio
         return;
     const QSizeF size = style().iconSize;
     const qreal ratio = widget ? widget->devicePixelRatioF() : 1;
-    const QPixmap pixmap = Theme::instance().icon(m_iconId, size.toSize(), style().color, ratio);
+    const QString id = layoutDirection() == Qt::RightToLeft ? Theme::instance().mirroredIcon(m_iconId) : m_iconId;
+    const QPixmap pixmap = Theme::instance().icon(id, size.toSize(), style().color, ratio);
     const QPointF corner = paddedRect().center() - QPointF(size.width() / 2, size.height() / 2);
     painter->drawPixmap(QPointF(qRound(corner.x()), qRound(corner.y())), pixmap);
 }

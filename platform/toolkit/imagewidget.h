@@ -20,6 +20,7 @@ public:
     QString image() const { return m_iconId; }
     void setImage(const QString &iconId);
 
+    QAccessible::Role accessibleRole() const override { return QAccessible::Graphic; }
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 protected:

@@ -70,6 +70,16 @@ void Label::updateFit()
     update();
 }
 
+QAccessible::Role Label::accessibleRole() const
+{
+    return QAccessible::StaticText;
+}
+
+QString Label::shownText() const
+{
+    return text();
+}
+
 void Label::styleChanged()
 {
     m_isStyled = false;

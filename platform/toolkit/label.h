@@ -35,10 +35,12 @@ public:
     bool wordWrap() const { return m_wraps; }
     void setWordWrap(bool wraps);
 
+    QAccessible::Role accessibleRole() const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 protected:
     void styleChanged() override;
+    QString shownText() const override;
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
     void changeEvent(QEvent *event) override;
 

@@ -272,6 +272,7 @@ void List::placeCell(int row, Widget *cell)
     if (cell->parentItem() != this)
         cell->setParentItem(this);
     cell->setGeometry(QRectF(0, qRound(m_rows.top(row)), size().width(), m_rows.rowHeight()));
+    cell->setOpacity(1);
     cell->setVisible(true);
 }
 

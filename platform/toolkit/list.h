@@ -51,6 +51,7 @@ public:
     /** The row of a cell, or -1. */
     int rowOf(const QGraphicsItem *cell) const;
 
+    QAccessible::Role accessibleRole() const override { return QAccessible::List; }
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 protected:

@@ -18,6 +18,8 @@ public:
     Qt::Orientation orientation() const { return m_orientation; }
     void setOrientation(Qt::Orientation orientation);
 
+    QAccessible::Role accessibleRole() const override { return QAccessible::Separator; }
+
 protected:
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
 

@@ -24,6 +24,8 @@ public:
 
     Widget *centralWidget() const { return m_centralWidget; }
 
+    QAccessible::Role accessibleRole() const override { return QAccessible::Dialog; }
+
 protected:
     int layer() const override { return 1; }
     void setTransition(qreal progress) override;

@@ -104,6 +104,16 @@ QString TextEdit::selectedText() const
     return m_edit->selectedText();
 }
 
+QAccessible::Role TextEdit::accessibleRole() const
+{
+    return QAccessible::EditableText;
+}
+
+QString TextEdit::shownText() const
+{
+    return prompt();
+}
+
 void TextEdit::styleChanged()
 {
     m_isStyled = false;

@@ -36,6 +36,7 @@ public:
     void setCursorPosition(int position);
     QString selectedText() const;
 
+    QAccessible::Role accessibleRole() const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 signals:
@@ -46,6 +47,7 @@ signals:
 
 protected:
     void styleChanged() override;
+    QString shownText() const override;
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
     void resizeEvent(QGraphicsSceneResizeEvent *event) override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;

@@ -38,9 +38,14 @@ QStringList classRules(const QMetaObject *type)
     return rules;
 }
 
+QString iconFile(const QString &id)
+{
+    return QStringLiteral(":/icons/%1.svg").arg(id);
+}
+
 QPixmap renderIcon(const QString &id, const QSize &size, const QColor &color, qreal devicePixelRatio)
 {
-    const QString file = QStringLiteral(":/icons/%1.svg").arg(id);
+    const QString file = iconFile(id);
     if (!QFile::exists(file) || size.isEmpty())
         return {};
     QSvgRenderer renderer(file);
@@ -165,6 +170,12 @@ void Theme::warnUnknown(const QString &styleName)
         return;
     m_warned << styleName;
     qCWarning(lcTheme).noquote() << "No style is named" << styleName;
+}
+
+QString Theme::mirroredIcon(const QString &id)
+{
+    const QString mirrored = id + QStringLiteral("-mirrored");
+    return QFile::exists(iconFile(mirrored)) ? mirrored : id;
 }
 
 QPixmap Theme::icon(const QString &id, const QSize &size, const QColor &color, qreal devicePixelRatio)

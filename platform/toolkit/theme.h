@@ -56,6 +56,9 @@ public:
      * pixels. */
     QPixmap icon(const QString &id, const QSize &size, const QColor &color, qreal devicePixelRatio = 1);
 
+    /** The icon's counterpart for right-to-left, "<id>-mirrored", or the icon itself if it has none. */
+    static QString mirroredIcon(const QString &id);
+
 signals:
     void changed();
 

@@ -46,6 +46,26 @@ Window *Widget::hostWindow() const
     return qobject_cast<Window *>(scene()->views().constFirst());
 }
 
+QString Widget::accessibleName() const
+{
+    return m_accessibleName.isEmpty() ? shownText() : m_accessibleName;
+}
+
+void Widget::setAccessibleName(const QString &name)
+{
+    m_accessibleName = name;
+}
+
+QAccessible::Role Widget::accessibleRole() const
+{
+    return QAccessible::Grouping;
+}
+
+QString Widget::shownText() const
+{
+    return {};
+}
+
 QRectF Widget::paddedRect() const
 {
     const QMarginsF padding = style().padding;
@@ -153,6 +173,10 @@ void Widget::changeEvent(QEvent *event)
 
 void Widget::focusInEvent(QFocusEvent *event)
 {
+    if (QAccessible::isActive()) {
+        QAccessibleEvent focus(this, QAccessible::Focus);
+        QAccessible::updateAccessibility(&focus);
+    }
     m_hasKeyboardFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
         || event->reason() == Qt::ShortcutFocusReason;
     update();

@@ -5,6 +5,7 @@
 #include "platform/toolkit/style.h"
 
 #include <memory>
+#include <QAccessible>
 #include <QGraphicsWidget>
 
 namespace Touch {
@@ -35,6 +36,11 @@ public:
     virtual bool isOnDisplay() const { return m_isOnDisplay; }
     /** The window it is in, or null. */
     Window *hostWindow() const;
+    /** What is read out for it: the name it was given, or what it shows. */
+    QString accessibleName() const;
+    void setAccessibleName(const QString &name);
+    virtual QAccessible::Role accessibleRole() const;
+
     /** The contents rectangle less the style's padding, mirrored for right-to-left. */
     QRectF paddedRect() const;
 
@@ -48,6 +54,8 @@ protected:
     /** The style is another one now: drop what was derived from it. The base asks for a new layout and paint.
      */
     virtual void styleChanged();
+    /** What it shows, for those who do not see it. */
+    virtual QString shownText() const;
     /** It can be seen from now on: start what ticks. */
     virtual void enterDisplay();
     /** It can no longer be seen: stop what ticks. */
@@ -68,6 +76,7 @@ protected:
 
 private:
     QString m_styleName;
+    QString m_accessibleName;
     bool m_isOnDisplay = false;
     bool m_hasKeyboardFocus = false;
     bool m_isInverted = false;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/window.h"
 
+#include "platform/toolkit/accessiblewindow_p.h"
 #include "platform/toolkit/scenewindow.h"
 #include "platform/toolkit/theme.h"
 
@@ -36,6 +37,7 @@ void forEachWidget(const QGraphicsScene *scene, Function function)
 Window::Window(QWidget *parent)
     : QGraphicsView(parent)
 {
+    installAccessibility();
     allWindows().append(this);
     setScene(new QGraphicsScene(this));
     // Few items, many of them moving: an index costs more than it finds.

@@ -1,0 +1,155 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "gallery.h"
+#include "platform/toolkit/applicationwindow.h"
+#include "platform/toolkit/button.h"
+#include "platform/toolkit/list.h"
+#include "platform/toolkit/switch.h"
+#include "platform/toolkit/textedit.h"
+
+#include <QAccessible>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Touch;
+
+/** What assistive technology finds in a window. */
+class TestAccessibility : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void startsWithTheWindowAndItsPage();
+    void findsAButtonByItsNameAndPressesIt();
+    void togglesASwitch();
+    void seesTheRowsOfAListThatAreShown();
+    void readsAField();
+    void takesTheNameItIsGiven();
+    void knowsWhereThingsAre();
+
+private:
+    static QAccessibleInterface *find(QAccessibleInterface *from, QAccessible::Role role, const QString &name);
+    QAccessibleInterface *root() const { return QAccessible::queryAccessibleInterface(m_window); }
+
+    ApplicationWindow *m_window = nullptr;
+    Gallery::Page *m_page = nullptr;
+};
+
+void TestAccessibility::init()
+{
+    qputenv("CLOCK_REDUCED_MOTION", "1");
+    m_window = new ApplicationWindow;
+    m_page = new Gallery::Page;
+    m_page->appear(m_window);
+    m_window->show();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+}
+
+void TestAccessibility::cleanup()
+{
+    delete m_page;
+    delete m_window;
+}
+
+QAccessibleInterface *TestAccessibility::find(QAccessibleInterface *from, QAccessible::Role role, const QString &name)
+{
+    if (from->role() == role && from->text(QAccessible::Name) == name)
+        return from;
+    for (int i = 0; i < from->childCount(); ++i) {
+        QAccessibleInterface *child = from->child(i);
+        if (from->indexOfChild(child) != i || child->parent() != from)
+            return nullptr;
+        if (QAccessibleInterface *found = find(child, role, name))
+            return found;
+    }
+    return nullptr;
+}
+
+void TestAccessibility::startsWithTheWindowAndItsPage()
+{
+    QCOMPARE(root()->role(), QAccessible::Window);
+    QCOMPARE(root()->text(QAccessible::Name), QStringLiteral("Gallery"));
+    QCOMPARE(root()->childCount(), 1);
+    QCOMPARE(root()->child(0)->object(), m_page);
+    Gallery::Editor editor;
+    editor.appear(m_window);
+    QCOMPARE(root()->childCount(), 1);
+    QCOMPARE(root()->child(0)->role(), QAccessible::Dialog);
+}
+
+void TestAccessibility::findsAButtonByItsNameAndPressesIt()
+{
+    QAccessibleInterface *found = find(root(), QAccessible::Button, QStringLiteral("New alarm"));
+    QVERIFY(found);
+    auto *button = qobject_cast<Button *>(found->object());
+    const QSignalSpy clicked(button, &Button::clicked);
+    QCOMPARE(found->actionInterface()->actionNames().constFirst(), QAccessibleActionInterface::pressAction());
+    found->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(clicked.count(), 1);
+    QVERIFY(found->state().focusable);
+    button->setFocus(Qt::TabFocusReason);
+    QVERIFY(found->state().focused);
+    QCOMPARE(root()->focusChild(), found);
+    button->setEnabled(false);
+    QVERIFY(found->state().disabled);
+    found->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(clicked.count(), 1);
+}
+
+void TestAccessibility::togglesASwitch()
+{
+    QAccessibleInterface *found = QAccessible::queryAccessibleInterface(m_page->toggle);
+    QCOMPARE(found->role(), QAccessible::CheckBox);
+    QVERIFY(found->state().checkable);
+    QVERIFY(found->state().checked);
+    found->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QVERIFY(!m_page->toggle->isChecked());
+    QVERIFY(!found->state().checked);
+}
+
+void TestAccessibility::seesTheRowsOfAListThatAreShown()
+{
+    QAccessibleInterface *list = QAccessible::queryAccessibleInterface(m_page->list);
+    QCOMPARE(list->role(), QAccessible::List);
+    QTRY_VERIFY(list->childCount() > 3);
+    QVERIFY(list->childCount() < 30);
+    QVERIFY(find(root(), QAccessible::Button, QStringLiteral("Row 1")));
+}
+
+void TestAccessibility::readsAField()
+{
+    Gallery::Editor editor;
+    editor.appear(m_window);
+    editor.field->setPrompt(QStringLiteral("Title"));
+    QAccessibleInterface *found = QAccessible::queryAccessibleInterface(editor.field);
+    QCOMPARE(found->role(), QAccessible::EditableText);
+    QCOMPARE(found->text(QAccessible::Name), QStringLiteral("Title"));
+    QCOMPARE(found->text(QAccessible::Value), QStringLiteral("Morning run"));
+    QVERIFY(found->state().editable);
+    found->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    QVERIFY(found->state().focused);
+}
+
+void TestAccessibility::takesTheNameItIsGiven()
+{
+    Button button(QStringLiteral("+"));
+    QCOMPARE(button.accessibleName(), QStringLiteral("+"));
+    button.setAccessibleName(QStringLiteral("New alarm"));
+    QCOMPARE(button.accessibleName(), QStringLiteral("New alarm"));
+}
+
+void TestAccessibility::knowsWhereThingsAre()
+{
+    QAccessibleInterface *found = find(root(), QAccessible::Button, QStringLiteral("New alarm"));
+    QVERIFY(found);
+    QVERIFY(found->rect().width() >= 48);
+    QVERIFY(root()->rect().contains(found->rect()));
+    const QPoint at = found->rect().center();
+    QCOMPARE(root()->childAt(at.x(), at.y()), found);
+}
+
+QTEST_MAIN(TestAccessibility)
+#include "tst_accessibility.moc"
