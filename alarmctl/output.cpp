@@ -48,11 +48,11 @@ QJsonObject jsonOf(const Clock::QmAlarmEvent &alarm)
 
 QString lineOf(const Clock::QmAlarmEvent &alarm)
 {
-    const QString line = QStringLiteral("%1  %2  %3  %4  snooze %5")
-                             .arg(alarm.cookie(), 5)
-                             .arg(alarm.alarmTime().toString("HH:mm"), alarm.isEnabled() ? "on " : "off",
-                                  daysText(alarm.repeatDays()))
-                             .arg(alarm.snooze(), 2);
+    const QString line
+        = QStringLiteral("%1  %2  %3  %4  snooze %5")
+              .arg(alarm.cookie(), 5)
+              .arg(alarm.alarmTime().toString("HH:mm"), alarm.isEnabled() ? "on " : "off", daysText(alarm.repeatDays()))
+              .arg(alarm.snooze(), 2);
     return alarm.title().isEmpty() ? line : line + "  " + alarm.title();
 }
 
