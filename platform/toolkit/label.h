@@ -46,6 +46,7 @@ protected:
 
 private:
     void updateFit();
+    PreparedText &prepared() const;
     Qt::Alignment visualAlignment() const;
 
     std::unique_ptr<PreparedText> m_text;
@@ -53,7 +54,6 @@ private:
     bool m_elides = true;
     bool m_wraps = false;
     mutable bool m_isStyled = false;
-    PreparedText &prepared() const;
 };
 
 } // namespace Touch

@@ -37,6 +37,11 @@ List::~List()
         m_model->disconnect(this);
 }
 
+QAbstractItemModel *List::itemModel() const
+{
+    return m_model;
+}
+
 void List::setItemModel(QAbstractItemModel *model)
 {
     if (m_model == model)

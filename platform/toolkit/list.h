@@ -34,7 +34,7 @@ public:
     explicit List(QGraphicsItem *parent = nullptr);
     ~List() override;
 
-    QAbstractItemModel *itemModel() const { return m_model; }
+    QAbstractItemModel *itemModel() const;
     void setItemModel(QAbstractItemModel *model);
     CellCreator *cellCreator() const { return m_creator.get(); }
     void setCellCreator(CellCreator *creator);
