@@ -4,7 +4,7 @@
 # lint.sh [BASE]: one line OK or FAIL per check. clang-tidy looks at the .cpp files changed since BASE (the commit before
 # the last one unless given); everything else looks at the whole tree. Needs a configured and built build/dev.
 set -u
-cd "$(dirname "$0")/.."
+cd "$(dirname "$0")/.." || exit 1
 base=${1:-$(git rev-parse --quiet --verify HEAD~1 || git hash-object -t tree /dev/null)}
 build=build/dev
 log=$(mktemp)
