@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 # SPDX-FileCopyrightText: 2026 The Clock authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
-"""check_headers.py BUILD-FOLDER: compiles every header by itself, with the flags of a source file of its folder.
+"""check_headers.py BUILD-FOLDER: compiles every header by itself, with the flags that the build compiles sources with.
 
 A header that was checked and has not changed since, nor anything that was compiled with it, is passed over: the
 compiler's dependency files are kept in BUILD-FOLDER/headers.
@@ -18,15 +18,27 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 
-def flags_by_folder(build):
-    flags = {}
+def common_flags(build):
+    """The flags of a source file with the include paths and definitions of all of them."""
+    flags = []
+    definitions = {}
+    paths = {}
     for entry in json.loads((build / "compile_commands.json").read_text()):
-        folder = pathlib.Path(entry["file"]).parent
-        words = shlex.split(entry["command"])
-        named = {index + 1 for index, word in enumerate(words) if word in ("-o", "-c")}
-        kept = [word for index, word in enumerate(words) if index not in named and word not in ("-o", "-c")]
-        flags.setdefault(folder, [word for word in kept if not word.endswith("/ccache")])
-    return flags
+        words = iter(shlex.split(entry["command"]))
+        flags = []
+        for word in words:
+            if word in ("-o", "-c"):
+                next(words)
+            elif word == "-isystem":
+                paths[("-isystem", next(words))] = None
+            elif word.startswith("-I"):
+                paths[("-isystem", word[2:])] = None
+            elif word.startswith("-D"):
+                definitions[word] = None
+            elif not word.endswith("/ccache"):
+                flags.append(word)
+    # Our own root comes first and is held to the warnings.
+    return [*flags, *definitions, f"-I{ROOT}", *(word for path in paths if path[1] != str(ROOT) for word in path)]
 
 
 def is_fresh(stamp):
@@ -51,20 +63,16 @@ def compile_alone(header, flags, stamp):
 
 def main():
     build = pathlib.Path(sys.argv[1]).resolve()
-    flags = flags_by_folder(build)
+    flags = common_flags(build)
     listed = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard", "*.h"], cwd=ROOT,
                             capture_output=True, text=True, check=True).stdout.split()
     jobs = []
-    problems = []
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         for name in listed:
             header = ROOT / name
-            if header.parent not in flags:
-                problems.append(f"{name}: no source file of its folder is compiled")
-                continue
             stamp = build / "headers" / (name + ".d")
-            jobs.append(pool.submit(compile_alone, header, flags[header.parent], stamp))
-    problems += [problem for problem in (job.result() for job in jobs) if problem]
+            jobs.append(pool.submit(compile_alone, header, flags, stamp))
+    problems = [problem for problem in (job.result() for job in jobs) if problem]
     print("\n".join(problems) if problems else f"{len(jobs)} headers")
     return 1 if problems else 0
 
