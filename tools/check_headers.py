@@ -34,11 +34,11 @@ def common_flags(build):
             elif word.startswith("-I"):
                 paths[("-isystem", word[2:])] = None
             elif word.startswith("-D"):
-                definitions[word] = None
+                definitions.setdefault(word.split("=")[0], word)
             elif not word.endswith("/ccache"):
                 flags.append(word)
     # Our own root comes first and is held to the warnings.
-    return [*flags, *definitions, f"-I{ROOT}", *(word for path in paths if path[1] != str(ROOT) for word in path)]
+    return [*flags, *definitions.values(), f"-I{ROOT}", *(word for path in paths if path[1] != str(ROOT) for word in path)]
 
 
 def is_fresh(stamp):
