@@ -11,12 +11,10 @@
 
 namespace {
 
-/** The text of another column of the same row. */
+/** What a column of the index's row shows. */
 QVariant column(const QModelIndex &index, int number)
 {
-    if (index.column() == number)
-        return index.data(Qt::DisplayRole);
-    return index.model()->index(index.row(), number, index.parent()).data(Qt::DisplayRole);
+    return index.siblingAtColumn(number).data(Qt::DisplayRole);
 }
 
 AlarmListItem::ItemStyle styleFor(const QString &repeatText)

@@ -49,6 +49,8 @@ void MashupPage::createContent()
     installCatalogues();
     auto *layout = new Touch::Layout(centralWidget());
     m_clockFace = new WorldClock(centralWidget());
+    // It keeps its size however long the list is.
+    m_clockFace->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_dropShadow = new Touch::Separator;
     m_dropShadow->setStyleName("DropShadow");
     arrange(layout, createAlarmList());
