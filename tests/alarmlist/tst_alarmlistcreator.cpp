@@ -7,7 +7,7 @@
 #include "platform/clockwidgets/alarmlistitem.h"
 #include "platform/toolkit/pannableviewport.h"
 #include "platform/toolkit/widgetrecycler.h"
-#include "tests/support/look.h"
+#include "tests/support/look/look.h"
 #include "tests/support/privatebus.h"
 
 #include <QTest>

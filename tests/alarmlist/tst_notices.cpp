@@ -5,7 +5,7 @@
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/banner.h"
 #include "platform/toolkit/separator.h"
-#include "tests/support/look.h"
+#include "tests/support/look/look.h"
 
 #include <QPointer>
 #include <QTest>

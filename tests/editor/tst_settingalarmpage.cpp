@@ -10,9 +10,9 @@
 #include "platform/toolkit/label.h"
 #include "platform/toolkit/textedit.h"
 #include "tests/support/alarms.h"
-#include "tests/support/items.h"
 #include "tests/support/logcapture.h"
-#include "tests/support/look.h"
+#include "tests/support/look/items.h"
+#include "tests/support/look/look.h"
 #include "tests/support/privatebus.h"
 
 #include <QFile>

@@ -9,9 +9,9 @@
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/banner.h"
 #include "platform/toolkit/pannableviewport.h"
-#include "tests/support/items.h"
 #include "tests/support/logcapture.h"
-#include "tests/support/look.h"
+#include "tests/support/look/items.h"
+#include "tests/support/look/look.h"
 #include "tests/support/privatebus.h"
 
 #include <QDBusConnection>
@@ -32,6 +32,7 @@ private slots:
     void aNewPageHasNoContentAndNoChrome();
     void contentIsCreatedOnceWhenItAppears();
     void inPortraitTheClockStandsAboveTheAlarms();
+    void aLongListLeavesTheClockItsSize();
     void inLandscapeTheClockStandsBesideTheAlarms();
     void resettingResetsTheAlarmList();
     void everySettingsChangeReadsTheAlarmsOnce();
@@ -113,6 +114,19 @@ void TestMashupPage::inPortraitTheClockStandsAboveTheAlarms()
     QVERIFY(divider->geometry().bottom() <= viewport->geometry().top());
     QCOMPARE(viewport->geometry().left(), 0.0);
     QCOMPARE(viewport->size().width(), m_page->centralWidget()->size().width());
+}
+
+void TestMashupPage::aLongListLeavesTheClockItsSize()
+{
+    m_page->appear(m_window.get());
+    const auto *clock = Support::itemIn<WorldClock>(m_page.get());
+    const auto *viewport = Support::itemIn<Touch::PannableViewport>(m_page.get());
+    auto *alarms = Support::itemIn<AlarmsWidget>(m_page.get());
+    QTRY_VERIFY(viewport->size().height() > 0);
+    const QSizeF size = clock->size();
+    alarms->setPreferredHeight(5000);
+    QTRY_VERIFY(viewport->range().y() > 0 || alarms->size().height() >= 5000);
+    QCOMPARE(clock->size(), size);
 }
 
 void TestMashupPage::inLandscapeTheClockStandsBesideTheAlarms()

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tests/support/look.h"
+#include "tests/support/look/look.h"
 
 #include "data/clockdata.h"
 #include "platform/toolkit/theme.h"
