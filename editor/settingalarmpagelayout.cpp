@@ -99,6 +99,8 @@ void SettingAlarmPage::buildTimeRow()
 
     m_timeRow = new Touch::StylableWidget;
     m_timeRow->setStyleName("AlarmEditorTimeRow");
+    // The hour comes first in right-to-left languages, too.
+    m_timeRow->setLayoutDirection(Qt::LeftToRight);
     m_timeRow->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_timeRowLayout = new Touch::Layout(m_timeRow);
     m_markerAfterPolicy = rowPolicy(m_timeRowLayout, {m_hourLabel, m_colonLabel, m_minuteLabel, m_markerLabel});

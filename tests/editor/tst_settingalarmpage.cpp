@@ -42,6 +42,7 @@ private slots:
     void theTitleHoldsAHundredAndTwentyCharacters();
     void aTitleOfBlanksShowsThePromptAgain();
     void theLabelsFollowThePicker();
+    void theHourComesFirstFromRightToLeftToo();
     void theTouchedLabelStandsOut();
     void savingStoresTheFieldsAndClosesWithTheTimeLeft();
     void savingRemembersTheTimeForTheNextAlarm();
@@ -213,6 +214,14 @@ void TestSettingAlarmPage::theLabelsFollowThePicker()
     QCOMPARE(label("ClockhhLabel")->text(), "21");
     QCOMPARE(label("ClockmmLabel")->text(), "35");
     QVERIFY2(!label("ClockampmLabel")->isVisible(), "the day has 24 hours here");
+}
+
+void TestSettingAlarmPage::theHourComesFirstFromRightToLeftToo()
+{
+    load(QmAlarmEvent::NotStored);
+    m_page->setLayoutDirection(Qt::RightToLeft);
+    QTRY_VERIFY(label("ClockhhLabel")->scenePos().x() > 0);
+    QTRY_VERIFY(label("ClockhhLabel")->scenePos().x() < label("ClockmmLabel")->scenePos().x());
 }
 
 void TestSettingAlarmPage::theTouchedLabelStandsOut()
