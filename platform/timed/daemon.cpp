@@ -18,6 +18,7 @@
 #include "platform/timed/timerfdwaketimer.h"
 #include "platform/timed/triggers.h"
 
+#include <chrono>
 #include <QDBusConnection>
 #include <QDBusError>
 
@@ -62,7 +63,10 @@ Daemon::Daemon(const Settings &settings, std::unique_ptr<SqliteStore> store)
     , m_parts(std::make_unique<Parts>(settings, *m_store, QDBusConnection::sessionBus()))
 {
     m_snapshotTimer.setSingleShot(true);
-    QObject::connect(&m_snapshotTimer, &QTimer::timeout, &m_snapshotTimer, [this] { m_store->takeSnapshot(); });
+    m_snapshotTimer.setTimerType(Qt::VeryCoarseTimer);
+    m_snapshotTimer.setInterval(std::chrono::hours(24));
+    QObject::connect(&m_snapshotTimer, &QTimer::timeout, &m_snapshotTimer,
+                     [this] { m_store->takeSnapshot(m_parts->clock.now()); });
 }
 
 Daemon::~Daemon() = default;
@@ -98,13 +102,22 @@ Result<> Daemon::start()
 
     QObject::connect(&parts.timer, &WakeTimer::clockSet, &parts.lifeCycle, &LifeCycle::clockSet);
     QObject::connect(&parts.zone, &ZoneSource::changed, &parts.lifeCycle, &LifeCycle::zoneChanged);
-    QObject::connect(&parts.service, &BusService::idle, &m_snapshotTimer, [this] {
-        if (m_store->wantsSnapshot())
-            m_snapshotTimer.start(0);
-    });
+    QObject::connect(&parts.service, &BusService::idle, &m_snapshotTimer, [this] { keepSnapshot(); });
     qCInfo(lcTimed, "%zu events, zone %s, timer %ls", parts.book.events().size(), parts.zone.zone().id().constData(),
            qUtf16Printable(parts.timer.kind()));
     return Done{};
+}
+
+void Daemon::keepSnapshot()
+{
+    const qint64 now = m_parts->clock.now();
+    if (m_store->wantsSnapshot(now))
+        m_store->takeSnapshot(now);
+    // Should no other change come, what is here is copied within a day.
+    if (!m_store->isAheadOfSnapshot())
+        m_snapshotTimer.stop();
+    else if (!m_snapshotTimer.isActive())
+        m_snapshotTimer.start();
 }
 
 } // namespace Astel::Timed

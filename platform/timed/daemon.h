@@ -14,8 +14,8 @@ class SqliteStore;
 
 struct Settings
 {
-    QString folder;                          ///< of the store
-    qint64 ringTime = Q_INT64_C(120) * 1000; ///< milliseconds
+    QString folder;           ///< of the store
+    qint64 ringTime = 120000; ///< milliseconds
 };
 
 /** The daemon with all its real parts. It owns them and lives in the main thread. */
@@ -35,6 +35,7 @@ private:
 
     Daemon(const Settings &settings, std::unique_ptr<SqliteStore> store);
     Result<> start();
+    void keepSnapshot();
 
     std::unique_ptr<SqliteStore> m_store;
     std::unique_ptr<Parts> m_parts;

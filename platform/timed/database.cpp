@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/database.h"
 
+#include "platform/timed/disk.h"
 #include "platform/timed/logging.h"
+#include "platform/timed/schema.h"
 #include "platform/timedclient/wire.h"
 
 #include <cerrno>
@@ -25,35 +27,12 @@ namespace {
 constexpr auto Corrupt = "11";
 constexpr auto NotADatabase = "26";
 
-constexpr auto Schema = {
-    "CREATE TABLE IF NOT EXISTS counter (last_cookie INTEGER NOT NULL)",
-    "INSERT INTO counter SELECT 0 WHERE NOT EXISTS (SELECT 1 FROM counter)",
-    "CREATE TABLE IF NOT EXISTS events (cookie INTEGER PRIMARY KEY, state TEXT NOT NULL, moment INTEGER,"
-    " since INTEGER NOT NULL, last_due INTEGER, timeout_snoozes INTEGER NOT NULL, event TEXT NOT NULL)",
-    "CREATE TABLE IF NOT EXISTS journal (moment INTEGER NOT NULL, cookie INTEGER NOT NULL, what TEXT NOT NULL,"
-    " detail TEXT NOT NULL)",
-    "CREATE INDEX IF NOT EXISTS journal_moment ON journal (moment)",
-};
-
+constexpr auto DamagedMark = ".damaged-";
 constexpr int MostSetAside = 100;
-
-QString snapshotOf(const QString &path)
-{
-    return path + ".snapshot";
-}
 
 bool isDamage(const QSqlError &error)
 {
     return error.nativeErrorCode() == QLatin1String(Corrupt) || error.nativeErrorCode() == QLatin1String(NotADatabase);
-}
-
-void syncToDisk(const QString &path)
-{
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0)
-        return;
-    fsync(descriptor);
-    close(descriptor);
 }
 
 } // namespace
@@ -81,7 +60,7 @@ Result<std::shared_ptr<Database>> Database::open(const QString &folder)
     std::shared_ptr<Database> database(new Database(folder));
     if (const auto locked = database->lock(); !locked)
         return locked.error();
-    Condition condition = database->connect();
+    Condition condition = database->examine();
     // The first replacement is the snapshot; when that is damaged as well, an empty file.
     for (int attempt = 0; condition == Condition::Damaged && attempt < 2; ++attempt) {
         database->replaceDamaged();
@@ -103,16 +82,25 @@ Result<> Database::lock()
     return Done{};
 }
 
+Database::Condition Database::examine()
+{
+    // A daemon that ended while it was replacing a damaged file leaves none; an empty one would pass for sound.
+    const QFileInfo file(m_path);
+    if (QFile::exists(snapshotOf(m_path)) && (!file.exists() || file.size() == 0)) {
+        m_problem = QStringLiteral("it is missing or empty");
+        return Condition::Damaged;
+    }
+    return connect();
+}
+
 Database::Condition Database::connect()
 {
     QSqlDatabase::removeDatabase(m_connectionName);
     QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", m_connectionName);
     database.setDatabaseName(m_path);
     database.setConnectOptions("QSQLITE_BUSY_TIMEOUT=1000");
-    if (!database.open()) {
-        m_problem = database.lastError().text();
-        return isDamage(database.lastError()) ? Condition::Damaged : Condition::Unusable;
-    }
+    if (!database.open())
+        return conditionAfter(database.lastError());
     const Condition condition = prepare();
     if (condition != Condition::Sound)
         database.close();
@@ -122,31 +110,30 @@ Database::Condition Database::connect()
 Database::Condition Database::prepare()
 {
     QSqlQuery query(connection());
-    const auto run = [&](const QString &statement) {
-        const bool done = query.exec(statement);
-        if (!done)
-            m_problem = query.lastError().text();
-        return done;
-    };
-    const auto broken = [&] { return isDamage(query.lastError()) ? Condition::Damaged : Condition::Unusable; };
-
-    if (!run("PRAGMA journal_mode=WAL") || !run("PRAGMA synchronous=FULL") || !run("PRAGMA integrity_check"))
-        return broken();
+    for (const char *statement : {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL", "PRAGMA integrity_check"}) {
+        if (!query.exec(statement))
+            return conditionAfter(query.lastError());
+    }
     if (!query.next() || query.value(0).toString() != QLatin1String("ok")) {
         m_problem = query.value(0).toString();
         return Condition::Damaged;
     }
-    if (!run("PRAGMA user_version") || !query.next())
-        return broken();
-    if (query.value(0).toInt() > SchemaVersion) {
+    if (!query.exec("PRAGMA user_version") || !query.next())
+        return conditionAfter(query.lastError());
+    const int version = query.value(0).toInt();
+    query.finish();
+    if (version > Schema::Version) {
         m_problem = QStringLiteral("it was written by a newer version");
         return Condition::Unusable;
     }
-    for (const char *statement : Schema) {
-        if (!run(statement))
-            return broken();
-    }
-    return run(QStringLiteral("PRAGMA user_version=%1").arg(SchemaVersion)) ? Condition::Sound : broken();
+    const QSqlError error = Schema::migrate(connection(), version, hasBeenDamaged() ? CookiesToStepOver : 0);
+    return error.isValid() ? conditionAfter(error) : Condition::Sound;
+}
+
+Database::Condition Database::conditionAfter(const QSqlError &error)
+{
+    m_problem = error.text();
+    return isDamage(error) ? Condition::Damaged : Condition::Unusable;
 }
 
 void Database::replaceDamaged()
@@ -156,7 +143,9 @@ void Database::replaceDamaged()
     for (const char *companion : {"-wal", "-shm"})
         setAside(m_path + companion);
     const QString snapshot = snapshotOf(m_path);
-    if (!m_restored && QFile::copy(snapshot, m_path))
+    const bool copied = !m_restored && QFile::copy(snapshot, m_path);
+    Disk::sync(m_path);
+    if (copied)
         qCWarning(lcTimed, "restored the snapshot of %ls",
                   qUtf16Printable(QFileInfo(snapshot).lastModified().toString(Qt::ISODate)));
     else
@@ -164,14 +153,14 @@ void Database::replaceDamaged()
     m_restored = true;
 }
 
-void Database::setAside(const QString &path)
+void Database::setAside(const QString &path) const
 {
     if (!QFile::exists(path))
         return;
     const QString stamp = QDateTime::currentDateTimeUtc().toString("yyyyMMdd'T'HHmmss");
     // Two files may be set aside within a second, and the clock may stand still.
     for (int copy = 1; copy <= MostSetAside; ++copy) {
-        const QString aside = QStringLiteral("%1.damaged-%2-%3").arg(path, stamp).arg(copy);
+        const QString aside = QStringLiteral("%1%2%3-%4").arg(path, DamagedMark, stamp).arg(copy);
         if (QFile::rename(path, aside)) {
             qCWarning(lcTimed, "set aside as %ls", qUtf16Printable(aside));
             return;
@@ -180,25 +169,15 @@ void Database::setAside(const QString &path)
     qCCritical(lcTimed, "cannot set %ls aside", qUtf16Printable(path));
 }
 
+bool Database::hasBeenDamaged() const
+{
+    const QFileInfo file(m_path);
+    return !file.dir().entryList({file.fileName() + DamagedMark + '*'}).isEmpty();
+}
+
 QSqlDatabase Database::connection() const
 {
     return QSqlDatabase::database(m_connectionName, false);
-}
-
-Result<> Database::takeSnapshot()
-{
-    const QString fresh = snapshotOf(m_path) + ".new";
-    QFile::remove(fresh);
-    QSqlQuery query(connection());
-    query.prepare("VACUUM INTO ?");
-    query.addBindValue(fresh);
-    if (!query.exec())
-        return failure(QStringLiteral("cannot write ") + fresh, query.lastError().text());
-    syncToDisk(fresh);
-    // Unlike QFile's, this renaming replaces the file in one step.
-    if (std::rename(QFile::encodeName(fresh).constData(), QFile::encodeName(snapshotOf(m_path)).constData()) != 0)
-        return failure(QStringLiteral("cannot replace ") + snapshotOf(m_path), qt_error_string(errno));
-    return Done{};
 }
 
 } // namespace Astel::Timed

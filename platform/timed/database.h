@@ -9,14 +9,13 @@
 namespace Astel::Timed {
 
 /**
- * The SQLite file of the store: locked for one process, opened durable, checked, and copied as a snapshot. A damaged
- * file is set aside and the snapshot, or an empty database, takes its place; wasRestored() tells. Closed with the object.
+ * The SQLite file of the store: locked for one process, opened durable, checked, and brought to the current schema. A
+ * damaged or lost file is set aside and the snapshot, or an empty database, takes its place; wasRestored() tells.
+ * Closed with the object.
  */
 class Database
 {
 public:
-    static constexpr int SchemaVersion = 1;
-
     /** Creates the folder; fails where it cannot be written, is in use, or holds a newer schema. */
     static Result<std::shared_ptr<Database>> open(const QString &folder);
     ~Database();
@@ -26,8 +25,7 @@ public:
     QString path() const { return m_path; }
     /** Whether a damaged file was replaced when this one was opened. */
     bool wasRestored() const { return m_restored; }
-    /** Writes a consistent copy beside the file; a failure leaves the last one. */
-    Result<> takeSnapshot();
+    static QString snapshotOf(const QString &path) { return path + ".snapshot"; }
 
     /** The error that a failed statement ended with. */
     static Error failure(const QString &what, const QString &why);
@@ -41,10 +39,13 @@ private:
 
     explicit Database(const QString &folder);
     Result<> lock();
+    Condition examine();
     Condition connect();
     Condition prepare();
+    Condition conditionAfter(const QSqlError &error);
     void replaceDamaged();
-    void setAside(const QString &path);
+    void setAside(const QString &path) const;
+    bool hasBeenDamaged() const;
 
     QString m_path;
     QString m_connectionName;

@@ -6,6 +6,7 @@
 #include "platform/timed/eventcodec.h"
 #include "platform/timed/logging.h"
 
+#include <cstdlib>
 #include <QSqlDatabase>
 #include <QSqlError>
 
@@ -16,8 +17,7 @@ namespace {
 constexpr qint64 Day = Q_INT64_C(86400) * 1000;
 constexpr qint64 Year = 366 * Day;
 constexpr int CommitsBetweenSnapshots = 10;
-// After a restored snapshot, cookies given since it was taken are not known any more; they are stepped over.
-constexpr quint32 CookiesToStepOver = 100000;
+constexpr quint64 NanosecondsOfMillisecond = 1000000;
 
 QVariant orNull(std::optional<qint64> moment)
 {
@@ -54,6 +54,7 @@ SqliteStore::SqliteStore(std::shared_ptr<Database> database)
     , m_erase(m_database->connection())
     , m_count(m_database->connection())
     , m_note(m_database->connection())
+    , m_snapshots(m_database->path())
 {
     m_put.prepare("INSERT OR REPLACE INTO events (cookie, state, moment, since, last_due, timeout_snoozes, event)"
                   " VALUES (?, ?, ?, ?, ?, ?, ?)");
@@ -79,14 +80,14 @@ Result<> SqliteStore::begin(qint64 now)
 {
     QSqlQuery query(m_database->connection());
     if (m_database->wasRestored()) {
-        query.prepare("UPDATE counter SET last_cookie = last_cookie + ?");
-        if (auto done = run(query, {CookiesToStepOver}); !done)
+        query.prepare("UPDATE counter SET restored = ?");
+        if (auto done = run(query, {now}); !done)
             return done;
     }
     query.prepare("DELETE FROM journal WHERE moment < ?");
     if (const auto done = run(query, {now - Year}); !done)
         qCWarning(lcTimed, "ignoring: %ls", qUtf16Printable(done.error().text));
-    takeSnapshot();
+    takeSnapshot(now);
     return Done{};
 }
 
@@ -183,25 +184,26 @@ QList<Wire::JournalEntry> SqliteStore::journal(qint64 since) const
 
 QVariantMap SqliteStore::facts() const
 {
-    QSqlQuery query("PRAGMA quick_check(1)", m_database->connection());
-    const QString integrity = query.next() ? query.value(0).toString() : query.lastError().text();
-    return {{"store_path", m_database->path()},
-            {"store_integrity", integrity},
-            {"store_restored", m_database->wasRestored()}};
+    QVariantMap facts{{"store_path", m_database->path()},
+                      {"store_integrity", m_snapshots.integrity()},
+                      {"store_restored", m_database->wasRestored()}};
+    QSqlQuery query("SELECT restored FROM counter", m_database->connection());
+    if (query.next() && !query.value(0).isNull())
+        facts.insert("store_restored_moment", query.value(0).toULongLong() * NanosecondsOfMillisecond);
+    return facts;
 }
 
-bool SqliteStore::wantsSnapshot() const
+bool SqliteStore::wantsSnapshot(qint64 now) const
 {
     return m_commitsSinceSnapshot >= CommitsBetweenSnapshots
-        || (m_commitsSinceSnapshot > 0 && m_sinceSnapshot.hasExpired(Day));
+        || (m_commitsSinceSnapshot > 0 && std::abs(now - m_lastSnapshot) >= Day);
 }
 
-void SqliteStore::takeSnapshot()
+void SqliteStore::takeSnapshot(qint64 now)
 {
     m_commitsSinceSnapshot = 0;
-    m_sinceSnapshot.start();
-    if (const auto taken = m_database->takeSnapshot(); !taken)
-        qCWarning(lcTimed, "ignoring: %ls", qUtf16Printable(taken.error().text));
+    m_lastSnapshot = now;
+    m_snapshots.start();
 }
 
 } // namespace Astel::Timed

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "platform/timed/snapshotwriter.h"
 #include "platform/timed/store.h"
 
 #include <memory>
-#include <QElapsedTimer>
 #include <QSqlQuery>
 
 namespace Astel::Timed {
@@ -14,8 +14,7 @@ class Database;
 
 /**
  * The store in a SQLite database. A commit returns once it is synchronised to the disk. A record that cannot be read
- * is logged and left alone. A
- * snapshot is due after every tenth commit, and after a day with any.
+ * is logged and left alone. Snapshots are written aside, at the start and whenever the owner asks for them.
  */
 class SqliteStore final : public Store
 {
@@ -30,9 +29,13 @@ public:
     QList<Wire::JournalEntry> journal(qint64 since) const override;
     QVariantMap facts() const override;
 
-    /** Whether commits since the last snapshot ask for a new one; taking it is left to an idle moment. */
-    bool wantsSnapshot() const;
-    void takeSnapshot();
+    /** Whether there were ten commits, or a day with any, since the last snapshot; "now" in milliseconds. */
+    bool wantsSnapshot(qint64 now) const;
+    /** Whether there were any. */
+    bool isAheadOfSnapshot() const { return m_commitsSinceSnapshot > 0; }
+    /** Begins to write one; returns at once. */
+    void takeSnapshot(qint64 now);
+    void waitForSnapshot() { m_snapshots.wait(); }
 
 private:
     explicit SqliteStore(std::shared_ptr<Database> database);
@@ -47,7 +50,8 @@ private:
     QSqlQuery m_count;
     QSqlQuery m_note;
     int m_commitsSinceSnapshot = 0;
-    QElapsedTimer m_sinceSnapshot;
+    qint64 m_lastSnapshot = 0;
+    SnapshotWriter m_snapshots; // last: it ends before the database is closed
 };
 
 } // namespace Astel::Timed

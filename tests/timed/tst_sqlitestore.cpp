@@ -1,13 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/database.h"
+#include "platform/timed/schema.h"
 #include "platform/timed/sqlitestore.h"
+#include "platform/timed/validator.h"
 #include "tests/support/logcapture.h"
 
+#include <algorithm>
 #include <csignal>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QSqlQuery>
 #include <QTemporaryDir>
+#include <QtEndian>
 #include <QTest>
 #include <sys/resource.h>
 
@@ -29,6 +34,30 @@ AlarmEvent stored(quint32 cookie, const QString &title = QStringLiteral("Wake up
     wire.recurrences = {{1u << 23, Wire::AllMinutes, 0x7f, Wire::AllDaysOfMonth, Wire::AllMonths, true}, {}};
     wire.buttons = {{0, {{"text", "Stop"}}}, {600, {}}};
     return AlarmEvent(cookie, wire, {State::Snoozed, Now + 5, Now, Now - 1000, 2});
+}
+
+/** Runs statements against a database that nobody else has open. */
+bool execute(const QString &path, const QStringList &statements)
+{
+    constexpr auto connection = "aside";
+    bool done = false;
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", connection);
+        database.setDatabaseName(path);
+        QSqlQuery query(database.open() ? database : QSqlDatabase());
+        done = std::all_of(statements.begin(), statements.end(), [&](const QString &one) { return query.exec(one); });
+    }
+    QSqlDatabase::removeDatabase(connection);
+    return done;
+}
+
+int versionOf(const QString &path)
+{
+    QFile database(path);
+    // The number is kept at this place of the file's head, in network order.
+    if (!database.open(QIODevice::ReadOnly) || !database.seek(60))
+        return -1;
+    return qFromBigEndian<qint32>(database.read(sizeof(qint32)).constData());
 }
 
 /** A limit for the size of files stands in for a full disk; SIGXFSZ would end the process. */
@@ -70,7 +99,14 @@ private slots:
     void damagedFileIsSetAsideAndTheSnapshotRestored_data();
     void damagedFileIsSetAsideAndTheSnapshotRestored();
     void damagedSnapshotGivesAnEmptyStore();
-    void snapshotIsWantedAfterTenCommits();
+    void snapshotIsWantedAfterTenCommitsOrADayWithAny();
+    void oldSchemaIsBroughtToTheCurrentOne();
+    void migrationThatFailsLeavesTheOldSchema();
+    void restoredStoreGivesNoCookieAgain();
+    void lostFileIsRestoredAsWell_data();
+    void lostFileIsRestoredAsWell();
+    void restorationIsRememberedAfterTheNextStart();
+    void snapshotKeepsNobodyWaiting();
 
 private:
     QString folder() const { return m_home->filePath("timed"); }
@@ -88,8 +124,33 @@ private:
         target.write(bytes);
     }
 
+    /** A database as the first version of the daemon left it. */
+    void writeVersionOne() const;
+
     std::unique_ptr<QTemporaryDir> m_home;
 };
+
+void tst_SqliteStore::writeVersionOne() const
+{
+    QVERIFY(QDir().mkpath(folder()));
+    QVERIFY(execute(
+        file(),
+        {"PRAGMA journal_mode=WAL", "CREATE TABLE counter (last_cookie INTEGER NOT NULL)",
+         "INSERT INTO counter VALUES (9)",
+         "CREATE TABLE events (cookie INTEGER PRIMARY KEY, state TEXT NOT NULL, moment INTEGER, since INTEGER NOT NULL,"
+         " last_due INTEGER, timeout_snoozes INTEGER NOT NULL, event TEXT NOT NULL)",
+         QStringLiteral(
+             "INSERT INTO events VALUES (5, 'WAITING', %1, %2, NULL, 0, '{\"attributes\":{\"TITLE\":\"Old\"},"
+             "\"buttons\":[],\"flags\":8,\"maximalTimeoutSnoozeCounter\":0,\"recurrences\":[],"
+             "\"ticker\":%3,\"timeoutSnooze\":0}')")
+             .arg(Now + Day)
+             .arg(Now)
+             .arg((Now + Day) / 1000),
+         "CREATE TABLE journal (moment INTEGER NOT NULL, cookie INTEGER NOT NULL, what TEXT NOT NULL,"
+         " detail TEXT NOT NULL)",
+         "CREATE INDEX journal_moment ON journal (moment)",
+         QStringLiteral("INSERT INTO journal VALUES (%1, 5, 'due', '0 ms late')").arg(Now), "PRAGMA user_version=1"}));
+}
 
 void tst_SqliteStore::everythingOutlivesTheStore()
 {
@@ -231,7 +292,8 @@ void tst_SqliteStore::damagedFileIsSetAsideAndTheSnapshotRestored()
     {
         const auto store = open();
         QVERIFY(store->commit({{stored(1)}, {}, {}}));
-        store->takeSnapshot();
+        store->takeSnapshot(Now);
+        store->waitForSnapshot();
         QVERIFY(store->commit({{stored(2)}, {}, {}}));
     }
     const QByteArray garbage(8000, '\xa5');
@@ -268,18 +330,135 @@ void tst_SqliteStore::damagedSnapshotGivesAnEmptyStore()
     QCOMPARE(QDir(folder()).entryList({"events.db.damaged-*"}).size(), 2);
 }
 
-void tst_SqliteStore::snapshotIsWantedAfterTenCommits()
+void tst_SqliteStore::snapshotIsWantedAfterTenCommitsOrADayWithAny()
 {
     const auto store = open();
     for (quint32 cookie = 1; cookie <= 10; ++cookie) {
-        QVERIFY(!store->wantsSnapshot());
+        QVERIFY(!store->wantsSnapshot(Now));
         QVERIFY(store->commit({{stored(cookie)}, {}, {}}));
     }
-    QVERIFY(store->wantsSnapshot());
+    QVERIFY(store->wantsSnapshot(Now));
+    store->waitForSnapshot();
     QFile::remove(file(".snapshot"));
-    store->takeSnapshot();
+    store->takeSnapshot(Now);
+    store->waitForSnapshot();
     QVERIFY(QFile::exists(file(".snapshot")));
-    QVERIFY(!store->wantsSnapshot());
+    QVERIFY(!QFile::exists(file(".snapshot.new")));
+    QVERIFY(!store->wantsSnapshot(Now + Day));
+
+    QVERIFY(store->commit({{stored(11)}, {}, {}}));
+    QVERIFY(!store->wantsSnapshot(Now + Day - 1));
+    QVERIFY(store->wantsSnapshot(Now + Day));
+    QVERIFY(store->wantsSnapshot(Now - Day));
+}
+
+void tst_SqliteStore::oldSchemaIsBroughtToTheCurrentOne()
+{
+    writeVersionOne();
+    auto store = open();
+    QVERIFY(store);
+    const auto events = store->events();
+    QCOMPARE(events.size(), 1);
+    QCOMPARE(events[0].cookie(), 5u);
+    QCOMPARE(events[0].state(), State::Waiting);
+    QCOMPARE(events[0].moment(), std::optional(Now + Day));
+    QCOMPARE(events[0].wire().attributes.value("TITLE"), "Old");
+    QCOMPARE(store->lastCookie(), 9u);
+    QCOMPARE(store->journal(0), (QList<Wire::JournalEntry>{{Now, 5, "due", "0 ms late"}}));
+    QVERIFY(store->commit({{stored(10)}, {}, {}}));
+    QVERIFY(!store->facts().contains("store_restored_moment"));
+    store.reset();
+    QCOMPARE(versionOf(file()), Schema::Version);
+}
+
+void tst_SqliteStore::migrationThatFailsLeavesTheOldSchema()
+{
+    writeVersionOne();
+    // What the step to version 2 would add is there already.
+    QVERIFY(execute(file(), {"ALTER TABLE counter ADD COLUMN restored INTEGER"}));
+    const auto store = SqliteStore::create(folder(), Now);
+    QVERIFY(!store);
+    QCOMPARE(store.error().name, Wire::StorageError);
+    QCOMPARE(versionOf(file()), 1);
+}
+
+void tst_SqliteStore::restoredStoreGivesNoCookieAgain()
+{
+    quint32 given = 0;
+    {
+        const auto store = open();
+        QVERIFY(store->commit({{stored(1)}, {}, {}}));
+        store->takeSnapshot(Now);
+        store->waitForSnapshot();
+        for (given = 2; given < 12; ++given)
+            QVERIFY(store->commit({{stored(given)}, {}, {}}));
+    }
+    overwrite(file(), 0, QByteArray(8000, '\xa5'));
+    {
+        // Ended before it could do anything but put the snapshot in its place.
+        const Support::LogCapture log;
+        QVERIFY(Database::open(folder()));
+    }
+    const auto store = open();
+    QVERIFY(store->lastCookie() >= given);
+}
+
+void tst_SqliteStore::lostFileIsRestoredAsWell_data()
+{
+    QTest::addColumn<bool>("empty");
+
+    QTest::newRow("missing") << false;
+    QTest::newRow("empty") << true;
+}
+
+void tst_SqliteStore::lostFileIsRestoredAsWell()
+{
+    QFETCH(bool, empty);
+
+    {
+        const auto store = open();
+        QVERIFY(store->commit({{stored(1)}, {}, {}}));
+        store->takeSnapshot(Now);
+    }
+    QVERIFY(QFile::remove(file()));
+    if (empty)
+        overwrite(file(), 0, {});
+    const Support::LogCapture log;
+    const auto store = open();
+    QVERIFY(store);
+    QCOMPARE(store->events().size(), 1);
+    QVERIFY(store->facts().value("store_restored").toBool());
+}
+
+void tst_SqliteStore::restorationIsRememberedAfterTheNextStart()
+{
+    QVERIFY(open());
+    overwrite(file(), 0, QByteArray(8000, '\xa5'));
+    const Support::LogCapture log;
+    QVERIFY(open());
+    const auto store = open();
+    QVERIFY(!store->facts().value("store_restored").toBool());
+    QCOMPARE(store->facts().value("store_restored_moment").toULongLong(), quint64(Now) * 1000000);
+}
+
+void tst_SqliteStore::snapshotKeepsNobodyWaiting()
+{
+    const auto store = open();
+    Change many;
+    for (quint32 cookie = 1; cookie <= MaximalEvents; ++cookie)
+        many.put.append(stored(cookie));
+    QVERIFY(store->commit(many));
+    store->waitForSnapshot();
+    QElapsedTimer time;
+    time.start();
+    store->takeSnapshot(Now);
+    const qint64 begun = time.elapsed();
+    QVERIFY(store->commit({{stored(1, "Get up")}, {}, {}}));
+    const qint64 changed = time.elapsed();
+    store->waitForSnapshot();
+    qInfo("begun after %lld ms, changed after %lld ms, written after %lld ms", begun, changed, time.elapsed());
+    QVERIFY(begun < 5);
+    QCOMPARE(store->facts().value("store_integrity").toString(), "ok");
 }
 
 QTEST_GUILESS_MAIN(tst_SqliteStore)

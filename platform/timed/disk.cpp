@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/disk.h"
+
+#include "platform/timedclient/wire.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <QFile>
+#include <QFileInfo>
+#include <unistd.h>
+
+namespace Astel::Timed::Disk {
+
+namespace {
+
+void syncOne(const QString &path)
+{
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    fsync(descriptor);
+    close(descriptor);
+}
+
+} // namespace
+
+void sync(const QString &path)
+{
+    syncOne(path);
+    syncOne(QFileInfo(path).absolutePath());
+}
+
+Result<> replace(const QString &from, const QString &to)
+{
+    syncOne(from);
+    // Unlike QFile's, this renaming replaces a file.
+    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
+        return Error{Wire::StorageError, QStringLiteral("cannot replace %1: %2").arg(to, qt_error_string(errno))};
+    syncOne(QFileInfo(to).absolutePath());
+    return Done{};
+}
+
+} // namespace Astel::Timed::Disk

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/timed/result.h"
+
+namespace Astel::Timed::Disk {
+
+/** Returns when the file, and its name in its folder, have reached the disk; a file that is not there is ignored. */
+void sync(const QString &path);
+/** Gives a file on the disk another name, in place of whatever has that name, in one step. */
+Result<> replace(const QString &from, const QString &to);
+
+} // namespace Astel::Timed::Disk
