@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/gsttoneplayer.h"
 
+#include "platform/ringer/audibility.h"
 #include "platform/ringer/tonepipeline.h"
 #include "platform/ringer/volumerise.h"
 
@@ -15,8 +16,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// Leaves the next tone the time to start before two seconds have passed.
-constexpr auto FirstSoundTime = 1500ms;
 constexpr auto StallTime = 3000ms;
 constexpr auto RiseStep = 200ms;
 

@@ -4,6 +4,7 @@
 #include "platform/ringer/gsttoneplayer.h"
 #include "platform/ringer/logging.h"
 #include "platform/ringer/pluginloader.h"
+#include "platform/ringer/ringcheck.h"
 #include "platform/ringer/ringcontroller.h"
 #include "platform/ringer/ringerservice.h"
 #include "platform/ringer/timeddaemon.h"
@@ -81,7 +82,8 @@ int main(int argc, char **argv)
     Ringer::GstTonePlayer player;
     Ringer::PluginLoader plugins;
     Ringer::RingController controller(&daemon, &player, &plugins);
-    Ringer::RingerService service(&controller);
+    Ringer::RingCheck check(&plugins);
+    Ringer::RingerService service(&controller, &check);
     quitWhenIdle(application, controller, service);
 
     QString reason;

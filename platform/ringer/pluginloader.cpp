@@ -50,6 +50,13 @@ PluginLoader::Screen PluginLoader::screen(const QString &name)
     return plainScreen();
 }
 
+QString PluginLoader::reasonAgainst(const QString &name) const
+{
+    QString reason;
+    (void)load(name, &reason);
+    return reason;
+}
+
 RingPlugin *PluginLoader::load(const QString &name, QString *reason) const
 {
     if (!isBareName(name)) {

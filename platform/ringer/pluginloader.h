@@ -34,6 +34,8 @@ public:
 
     void setAnswers(Answers *answers); ///< once, before the first screen
     [[nodiscard]] Screen screen(const QString &name);
+    /** Why the plain screen would stand in for a plug-in; empty when the plug-in loads, which is tried. */
+    [[nodiscard]] QString reasonAgainst(const QString &name) const;
 
 private:
     [[nodiscard]] RingPlugin *load(const QString &name, QString *reason) const;

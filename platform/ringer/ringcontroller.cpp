@@ -8,12 +8,16 @@
 #include "platform/ringer/ring.h"
 
 #include <algorithm>
+#include <chrono>
 
 namespace Ringer {
 
 namespace Wire = Astel::Timed::Wire;
 
 namespace {
+
+// No finger aims at what has just come up under it.
+constexpr std::chrono::milliseconds DeafTime{500};
 
 int snoozeSeconds(const Wire::Event &event)
 {
@@ -57,7 +61,7 @@ void RingController::ring(quint32 cookie, const Wire::Event &event, quint64 due)
     remove(cookie);
     qCInfo(lcRinger, "Alarm %u rings", cookie);
     add(alarmOf(cookie, event, due), event.attributes.value(QStringLiteral("PLUGIN")))->show();
-    passSoundOn();
+    passTurnOn();
     Q_EMIT idleChanged(isIdle());
 }
 
@@ -67,7 +71,7 @@ void RingController::stop(quint32 cookie)
         return;
     qCInfo(lcRinger, "Alarm %u is over", cookie);
     remove(cookie);
-    passSoundOn();
+    passTurnOn();
     Q_EMIT idleChanged(isIdle());
 }
 
@@ -79,22 +83,22 @@ void RingController::shown(quint32 cookie)
 
 void RingController::snooze(quint32 cookie, int seconds)
 {
-    auto *ring = findUnanswered(cookie);
+    auto *ring = findAnswerable(cookie);
     if (!ring || seconds < 1)
         return;
     ring->answer();
     m_daemon->snooze(cookie, quint32(seconds), ring->screenName());
-    passSoundOn();
+    passTurnOn();
 }
 
 void RingController::dismiss(quint32 cookie)
 {
-    auto *ring = findUnanswered(cookie);
+    auto *ring = findAnswerable(cookie);
     if (!ring)
         return;
     ring->answer();
     m_daemon->dismiss(cookie, ring->screenName());
-    passSoundOn();
+    passTurnOn();
 }
 
 // A new ring of the same cookie may have begun before the answer came back; it is no business of that answer.
@@ -111,7 +115,7 @@ void RingController::onSnoozeFailed(quint32 cookie, const QString &reason)
         return;
     qCCritical(lcRinger, "Alarm %u: the snooze was not taken: %s; rings again", cookie, qPrintable(reason));
     ring->ringAgain();
-    passSoundOn();
+    passTurnOn();
 }
 
 Ring *RingController::find(quint32 cookie) const
@@ -125,6 +129,11 @@ Ring *RingController::findUnanswered(quint32 cookie) const
 {
     auto *ring = find(cookie);
     return ring && ring->state() != Ring::State::Answered ? ring : nullptr;
+}
+
+Ring *RingController::findAnswerable(quint32 cookie) const
+{
+    return m_deafness.hasExpired() ? findUnanswered(cookie) : nullptr;
 }
 
 Ring *RingController::add(const Alarm &alarm, const QString &pluginName)
@@ -146,6 +155,12 @@ void RingController::remove(quint32 cookie)
     std::erase_if(m_rings, [cookie](const auto &ring) { return ring->alarm().cookie == cookie; });
 }
 
+void RingController::passTurnOn()
+{
+    passSoundOn();
+    followFront();
+}
+
 void RingController::passSoundOn()
 {
     const auto hasTurn = [](const auto &ring) { return ring->hasTurn(); };
@@ -155,6 +170,18 @@ void RingController::passSoundOn()
     const auto next = std::find_if(m_rings.begin(), m_rings.end(), waits);
     if (next != m_rings.end())
         (*next)->takeSound();
+}
+
+void RingController::followFront()
+{
+    const auto isUnanswered = [](const auto &ring) { return ring->state() != Ring::State::Answered; };
+    const auto ring = std::find_if(m_rings.begin(), m_rings.end(), isUnanswered);
+    const auto front = ring != m_rings.end() ? (*ring)->alarm().cookie : 0;
+    if (front == m_front)
+        return;
+    if (m_front != 0)
+        m_deafness.setRemainingTime(DeafTime);
+    m_front = front;
 }
 
 } // namespace Ringer

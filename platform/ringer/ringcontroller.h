@@ -6,6 +6,7 @@
 #include "platform/ringer/toneorder.h"
 #include "platform/timedclient/wire.h"
 
+#include <QDeadlineTimer>
 #include <QObject>
 
 #include <memory>
@@ -20,8 +21,9 @@ class TonePlayer;
 
 /**
  * Everything that rings now. One ring for each cookie, in the order in which they became due; the first has the sound,
- * the others wait on the screen for their turn. Carries the screen's answers to the daemon. Owned by the program, main
- * thread; a snooze that cannot be delivered makes the alarm ring again.
+ * the others wait on the screen for their turn. Carries the screen's answers to the daemon, except those that come so
+ * soon after another alarm went that they were meant for that one. Owned by the program, main thread; a snooze that
+ * cannot be delivered makes the alarm ring again.
  */
 class RingController : public QObject, private Answers
 {
@@ -49,16 +51,21 @@ private:
 
     [[nodiscard]] Ring *find(quint32 cookie) const;
     [[nodiscard]] Ring *findUnanswered(quint32 cookie) const;
+    [[nodiscard]] Ring *findAnswerable(quint32 cookie) const;
     Ring *add(const Alarm &alarm, const QString &pluginName);
     void reportSound(const Ring &ring);
     void remove(quint32 cookie);
+    void passTurnOn();
     void passSoundOn();
+    void followFront();
 
     AlarmDaemon *m_daemon;
     TonePlayer *m_player;
     PluginLoader *m_plugins;
     ToneOrder m_toneOrder;
     std::vector<std::unique_ptr<Ring>> m_rings;
+    quint32 m_front = 0; ///< the cookie of the alarm that is answered next; 0: none
+    QDeadlineTimer m_deafness;
 };
 
 } // namespace Ringer

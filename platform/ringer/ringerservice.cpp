@@ -3,6 +3,7 @@
 #include "platform/ringer/ringerservice.h"
 
 #include "platform/ringer/logging.h"
+#include "platform/ringer/ringcheck.h"
 #include "platform/ringer/ringcontroller.h"
 
 #include "ringeradaptor.h"
@@ -16,9 +17,10 @@ namespace Ringer {
 
 namespace Wire = Astel::Timed::Wire;
 
-RingerService::RingerService(RingController *controller, QObject *parent)
+RingerService::RingerService(RingController *controller, RingCheck *check, QObject *parent)
     : QObject(parent)
     , m_controller(controller)
+    , m_check(check)
 {
     Wire::registerTypes();
     new RingerAdaptor(this);
@@ -53,6 +55,15 @@ void RingerService::ring(uint cookie, const Wire::Event &event, qulonglong due)
 void RingerService::stop(uint cookie)
 {
     m_controller->stop(cookie);
+}
+
+QVariantMap RingerService::check(const QString &tone, const QString &plugin)
+{
+    setDelayedReply(true);
+    m_check->start(tone, plugin, [bus = connection(), call = message()](const QVariantMap &facts) {
+        bus.send(call.createReply(QVariant(facts)));
+    });
+    return {};
 }
 
 } // namespace Ringer

@@ -4,19 +4,22 @@
 
 #include "platform/timedclient/wire.h"
 
+#include <QDBusContext>
 #include <QObject>
+#include <QVariantMap>
 
 namespace Ringer {
 
+class RingCheck;
 class RingController;
 
 /** The object that the daemon calls on the session bus; registers itself, and says why when it cannot. */
-class RingerService : public QObject
+class RingerService : public QObject, protected QDBusContext
 {
     Q_OBJECT
 
 public:
-    explicit RingerService(RingController *controller, QObject *parent = nullptr);
+    RingerService(RingController *controller, RingCheck *check, QObject *parent = nullptr);
 
     [[nodiscard]] bool registerOnBus(QString *reason);
     void unregisterName();
@@ -27,9 +30,11 @@ Q_SIGNALS:
 public Q_SLOTS:
     void ring(uint cookie, const Astel::Timed::Wire::Event &event, qulonglong due);
     void stop(uint cookie);
+    QVariantMap check(const QString &tone, const QString &plugin);
 
 private:
     RingController *m_controller;
+    RingCheck *m_check;
 };
 
 } // namespace Ringer

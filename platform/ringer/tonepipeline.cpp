@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/tonepipeline.h"
 
+#include "platform/ringer/audibility.h"
 #include "platform/ringer/soundoutput.h"
 #include "platform/ringer/toneplayer.h"
 
@@ -10,9 +11,6 @@
 namespace Ringer {
 
 namespace {
-
-// Quieter than this at its loudest counts as silence.
-constexpr auto AudiblePeakDb = -45.0;
 
 // Level stands before the volume: it judges the tone, not how far it has risen.
 constexpr auto Filter = "audioconvert ! level name=level interval=50000000 ! volume name=volume volume=0.15";
@@ -61,16 +59,6 @@ GstElement *createBeepPipeline(GstElement *output, GstElement *filter)
     gst_bin_add_many(GST_BIN(pipeline), source, filter, convert, resample, output, nullptr);
     gst_element_link_many(source, filter, convert, resample, output, nullptr);
     return pipeline;
-}
-
-bool isAudible(const GstStructure *level)
-{
-    const auto *peaks = static_cast<GValueArray *>(g_value_get_boxed(gst_structure_get_value(level, "peak")));
-    for (guint channel = 0; peaks && channel < peaks->n_values; ++channel) {
-        if (g_value_get_double(&peaks->values[channel]) > AudiblePeakDb)
-            return true;
-    }
-    return false;
 }
 
 } // namespace

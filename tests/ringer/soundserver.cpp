@@ -59,6 +59,11 @@ void SoundServer::kill()
     stop(m_server);
 }
 
+bool SoundServer::control(const QStringList &arguments)
+{
+    return QProcess::execute(QStringLiteral("pactl"), arguments) == 0;
+}
+
 void SoundServer::forget()
 {
     m_recorder.readAllStandardOutput();

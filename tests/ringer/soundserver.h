@@ -22,6 +22,8 @@ public:
     /** True once the server answers and the recording runs. */
     [[nodiscard]] bool start();
     void kill();
+    /** What `pactl` does with these arguments; false where the server refuses. */
+    [[nodiscard]] bool control(const QStringList &arguments);
 
     /** Forgets what was heard so far. */
     void forget();

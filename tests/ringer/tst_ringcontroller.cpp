@@ -7,6 +7,7 @@
 #include "tests/support/logcapture.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QPluginLoader>
 #include <QSignalSpy>
@@ -60,6 +61,9 @@ private slots:
     void twoAlarmsAreAnsweredOneByOne();
     void snoozeIsSilentAtOnceAndTold();
     void anAnswerIsGivenOnce();
+    void aSecondTapSparesTheNextAlarm();
+    void aTapForAnAlarmThatJustEndedSparesTheNext();
+    void anAlarmThatJustBeganIsAnsweredAtOnce();
     void aSnoozeThatFailsRingsAgain();
     void aLateConfirmationLeavesANewRingAlone();
     void aToneThatFailsIsFollowedByTheNext();
@@ -216,6 +220,52 @@ void TestRingController::anAnswerIsGivenOnce()
     QCOMPARE(m_daemon->calls, QStringList({"rings 7", "snooze 7 600 librecording"}));
 }
 
+void TestRingController::aSecondTapSparesTheNextAlarm()
+{
+    m_controller->ring(7, teaTime(), Due);
+    m_controller->ring(8, teaTime(), Due);
+    pressStop(7);
+    pressStop(8);
+    pressSnooze(8, 600);
+    QCOMPARE(m_daemon->calls, QStringList({"rings 7", "rings 8", "dismiss 7 librecording"}));
+    QCOMPARE(shown().size(), 1);
+    QCOMPARE(m_player->tone, QString("/tones/tea.aac"));
+
+    // A tap that was meant for it, a moment later.
+    QElapsedTimer time;
+    time.start();
+    QVERIFY(QTest::qWaitFor([this] {
+        pressStop(8);
+        return m_daemon->calls.last() == "dismiss 8 librecording";
+    }));
+    QVERIFY2(time.elapsed() > 400 && time.elapsed() < 700, qPrintable(QString::number(time.elapsed())));
+}
+
+void TestRingController::aTapForAnAlarmThatJustEndedSparesTheNext()
+{
+    m_controller->ring(7, teaTime(), Due);
+    m_controller->ring(8, teaTime(), Due);
+    m_controller->stop(7);
+    pressStop(8);
+    QCOMPARE(m_daemon->calls, QStringList({"rings 7", "rings 8"}));
+
+    // Also where the next one only comes after it.
+    m_controller->stop(8);
+    m_controller->ring(9, teaTime(), Due);
+    pressStop(9);
+    QCOMPARE(m_daemon->calls.last(), QString("rings 9"));
+}
+
+void TestRingController::anAlarmThatJustBeganIsAnsweredAtOnce()
+{
+    m_controller->ring(7, teaTime(), Due);
+    m_controller->ring(8, teaTime(), Due);
+    // One behind the front goes: nothing comes up under the finger.
+    m_controller->stop(8);
+    pressStop(7);
+    QCOMPARE(m_daemon->calls.last(), QString("dismiss 7 librecording"));
+}
+
 void TestRingController::aSnoozeThatFailsRingsAgain()
 {
     Support::LogCapture log;
@@ -224,7 +274,7 @@ void TestRingController::aSnoozeThatFailsRingsAgain()
     emit m_daemon->snoozeFailed(7, "disk full");
     QCOMPARE(shown().size(), 1);
     QCOMPARE(m_player->tone, QString("/tones/tea.aac"));
-    pressSnooze(7, 600);
+    QTRY_VERIFY((pressSnooze(7, 600), shown().isEmpty()));
     emit m_daemon->answered(7);
     QVERIFY(m_controller->isIdle());
 }
@@ -315,9 +365,8 @@ void TestRingController::thePlainScreenAnswers()
     QTest::mouseClick(screen->findChild<QWidget *>("snooze"), Qt::LeftButton);
     QCOMPARE(m_daemon->calls.last(), QString("snooze 7 600 plain screen"));
     QVERIFY(plainScreen());
-    QTest::mouseClick(screen->findChild<QWidget *>("stop"), Qt::LeftButton);
+    QTRY_VERIFY((QTest::mouseClick(screen->findChild<QWidget *>("stop"), Qt::LeftButton), !plainScreen()));
     QCOMPARE(m_daemon->calls.last(), QString("dismiss 8 plain screen"));
-    QVERIFY(!plainScreen());
 }
 
 void TestRingController::idleFollowsTheRings()

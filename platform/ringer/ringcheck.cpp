@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/ringer/ringcheck.h"
+
+#include "platform/ringer/pluginloader.h"
+#include "platform/ringer/pulsesink.h"
+#include "platform/ringer/soundoutput.h"
+#include "platform/ringer/toneprobe.h"
+
+#include <QGuiApplication>
+
+namespace Ringer {
+
+namespace {
+
+QVariantMap pulseFacts()
+{
+    QString reason;
+    const auto sink = defaultPulseSink(&reason);
+    if (!sink)
+        return {{"output_reason", reason}};
+    return {{"output", sink->name}, {"volume", sink->volume}, {"muted", sink->isMuted}};
+}
+
+// Only a sound server tells its volume.
+QVariantMap soundFacts()
+{
+    gst_init(nullptr, nullptr);
+    QString reason;
+    auto *output = createSoundOutput(&reason);
+    if (!output)
+        return {{"output_reason", reason}};
+    const auto element = QString::fromUtf8(GST_OBJECT_NAME(gst_element_get_factory(output)));
+    discardSoundOutput(output);
+    return element == QLatin1String("pulsesink") ? pulseFacts() : QVariantMap{{"output", element}};
+}
+
+QVariantMap toneFacts(const QStringList &tones)
+{
+    QStringList rejected;
+    QStringList reasons;
+    for (const auto &tone : tones) {
+        const auto reason = probeTone(tone);
+        if (reason.isEmpty())
+            return {{"tone", tone}, {"rejected_tones", rejected}, {"rejected_reasons", reasons}};
+        rejected += tone;
+        reasons += reason;
+    }
+    return {{"rejected_tones", rejected}, {"rejected_reasons", reasons}};
+}
+
+} // namespace
+
+RingCheck::RingCheck(const PluginLoader *plugins, const ToneOrder &toneOrder, QObject *parent)
+    : QObject(parent)
+    , m_plugins(plugins)
+    , m_toneOrder(toneOrder)
+{
+    m_thread.setMaxThreadCount(1);
+}
+
+RingCheck::~RingCheck()
+{
+    m_thread.clear();
+    m_thread.waitForDone();
+}
+
+void RingCheck::start(const QString &tone, const QString &plugin, const Finished &finished)
+{
+    const auto facts = screenFacts(plugin);
+    const auto tones = m_toneOrder.tones(tone);
+    m_thread.start([this, facts, tones, finished] {
+        auto all = facts;
+        all.insert(soundFacts());
+        all.insert(toneFacts(tones));
+        QMetaObject::invokeMethod(
+            this, [all, finished] { finished(all); }, Qt::QueuedConnection);
+    });
+}
+
+QVariantMap RingCheck::screenFacts(const QString &plugin) const
+{
+    QVariantMap facts{{"display", QGuiApplication::platformName() != QLatin1String("offscreen")}};
+    if (const auto reason = m_plugins->reasonAgainst(plugin); !reason.isEmpty())
+        facts.insert(QStringLiteral("plugin_reason"), reason);
+    return facts;
+}
+
+} // namespace Ringer
