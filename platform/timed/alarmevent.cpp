@@ -42,6 +42,14 @@ void AlarmEvent::trigger(qint64 now)
     setState(State::Triggered, m_standing.moment, now);
 }
 
+void AlarmEvent::ringNow(qint64 now)
+{
+    // The moment it waits for is still ahead, and not served by this.
+    m_standing.moment = now;
+    m_standing.timeoutSnoozes = 0;
+    trigger(now);
+}
+
 void AlarmEvent::snooze(qint64 until, qint64 now)
 {
     // Somebody answered, so the count of unanswered rings begins again.

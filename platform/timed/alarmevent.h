@@ -51,6 +51,8 @@ public:
     /** Waits for a moment of its rules, or is inactive without one. */
     void wait(std::optional<qint64> moment, qint64 now);
     void trigger(qint64 now);
+    /** As trigger(), but at a moment that is not one of its rules. */
+    void ringNow(qint64 now);
     void snooze(qint64 until, qint64 now);
     /** As snooze(), but because nobody answered. */
     void snoozeUnanswered(qint64 until, qint64 now);

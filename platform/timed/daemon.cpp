@@ -3,6 +3,8 @@
 #include "platform/timed/daemon.h"
 
 #include "platform/context/contextpublisher.h"
+#include "platform/timed/bootmoment.h"
+#include "platform/timed/busnotifier.h"
 #include "platform/timed/busringer.h"
 #include "platform/timed/busservice.h"
 #include "platform/timed/eventbook.h"
@@ -11,10 +13,14 @@
 #include "platform/timed/lifecycle.h"
 #include "platform/timed/localzone.h"
 #include "platform/timed/logging.h"
+#include "platform/timed/logind.h"
+#include "platform/timed/missedteller.h"
 #include "platform/timed/ringing.h"
 #include "platform/timed/schedule.h"
+#include "platform/timed/sleepguard.h"
 #include "platform/timed/sqlitestore.h"
 #include "platform/timed/systemclock.h"
+#include "platform/timed/timedate.h"
 #include "platform/timed/timerfdwaketimer.h"
 #include "platform/timed/triggers.h"
 
@@ -33,34 +39,51 @@ constexpr auto BusError = "org.freedesktop.DBus.Error.Failed";
 
 struct Daemon::Parts
 {
-    Parts(const Settings &settings, SqliteStore &store, const QDBusConnection &bus)
-        : book(store)
+    Parts(const Settings &settings, SqliteStore &store, const QDBusConnection &bus, const QDBusConnection &systemBus)
+        : zone(settings.localtime)
+        , timedate(systemBus)
+        , book(store)
         , schedule(clock, timer)
         , ringer(bus)
         , ringing(book, schedule, clock, ringer)
+        , sleep(systemBus)
+        , sleepGuard(schedule, ringing, sleep)
         , lifeCycle(book, schedule, ringing, clock, zone, settings.ringTime)
         , events(book, lifeCycle)
         , health(book, schedule, timer, zone, store)
         , service({clock, zone, book, health, events, lifeCycle})
-    { }
+        , boot(book, schedule, clock, settings.bootFolder)
+        , notifier(bus)
+        , missedTeller(book, lifeCycle, notifier, zone)
+    {
+        health.add([this] { return sleep.facts(); });
+        health.add([this] { return boot.facts(); });
+        health.add([this] { return QVariantMap{{"notifications", notifier.isPresent()}}; });
+    }
 
     SystemClock clock;
     LocalZone zone;
+    Timedate timedate;
     EventBook book;
     TimerFdWakeTimer timer;
     Schedule schedule;
     BusRinger ringer;
     Ringing ringing;
+    Logind sleep;
+    SleepGuard sleepGuard;
     LifeCycle lifeCycle;
     EventService events;
     Health health;
     std::unique_ptr<ContextPublisher> publisher;
     BusService service;
+    BootMoment boot;
+    BusNotifier notifier;
+    MissedTeller missedTeller;
 };
 
 Daemon::Daemon(const Settings &settings, std::unique_ptr<SqliteStore> store)
     : m_store(std::move(store))
-    , m_parts(std::make_unique<Parts>(settings, *m_store, QDBusConnection::sessionBus()))
+    , m_parts(std::make_unique<Parts>(settings, *m_store, QDBusConnection::sessionBus(), QDBusConnection::systemBus()))
 {
     m_snapshotTimer.setSingleShot(true);
     m_snapshotTimer.setTimerType(Qt::VeryCoarseTimer);
@@ -95,17 +118,28 @@ Result<> Daemon::start()
     if (!bus.registerService(Wire::Service))
         return Error{BusError, QStringLiteral("%1 is taken: another daemon is running").arg(Wire::Service)};
     parts.lifeCycle.start();
+    parts.missedTeller.tellAll();
+    parts.boot.update();
     parts.publisher = std::make_unique<ContextPublisher>(Wire::TriggerProperty, triggerMap(parts.book.events()), bus);
     if (!parts.publisher->isPublished())
         return Error{BusError, QStringLiteral("%1 is published by somebody else").arg(Wire::TriggerProperty)};
     parts.service.publishThrough(*parts.publisher);
 
-    QObject::connect(&parts.timer, &WakeTimer::clockSet, &parts.lifeCycle, &LifeCycle::clockSet);
-    QObject::connect(&parts.zone, &ZoneSource::changed, &parts.lifeCycle, &LifeCycle::zoneChanged);
-    QObject::connect(&parts.service, &BusService::idle, &m_snapshotTimer, [this] { keepSnapshot(); });
+    follow();
     qCInfo(lcTimed, "%zu events, zone %s, timer %ls", parts.book.events().size(), parts.zone.zone().id().constData(),
            qUtf16Printable(parts.timer.kind()));
     return Done{};
+}
+
+void Daemon::follow()
+{
+    Parts &parts = *m_parts;
+    QObject::connect(&parts.timer, &WakeTimer::clockSet, &parts.lifeCycle, &LifeCycle::clockSet);
+    QObject::connect(&parts.timedate, &Timedate::zoneSet, &parts.zone, &LocalZone::told);
+    QObject::connect(&parts.zone, &ZoneSource::changed, &parts.lifeCycle, &LifeCycle::zoneChanged);
+    QObject::connect(&parts.sleep, &SleepControl::goesToSleep, &parts.lifeCycle, &LifeCycle::goesToSleep);
+    QObject::connect(&parts.sleep, &SleepControl::resumed, &parts.lifeCycle, &LifeCycle::resumed);
+    QObject::connect(&parts.service, &BusService::idle, &m_snapshotTimer, [this] { keepSnapshot(); });
 }
 
 void Daemon::keepSnapshot()

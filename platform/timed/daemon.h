@@ -15,6 +15,8 @@ class SqliteStore;
 struct Settings
 {
     QString folder;           ///< of the store
+    QString localtime;        ///< the file that tells the time zone
+    QString bootFolder;       ///< where clock-rtc finds the next moment to turn the device on for
     qint64 ringTime = 120000; ///< milliseconds
 };
 
@@ -35,6 +37,7 @@ private:
 
     Daemon(const Settings &settings, std::unique_ptr<SqliteStore> store);
     Result<> start();
+    void follow();
     void keepSnapshot();
 
     std::unique_ptr<SqliteStore> m_store;

@@ -22,12 +22,40 @@ EventBook::EventBook(Store &store)
     const QList<AlarmEvent> stored = store.events();
     for (const AlarmEvent &event : stored)
         m_events.insert_or_assign(event.cookie(), event);
+    const QList<Miss> missed = store.missed();
+    for (const Miss &miss : missed)
+        m_missed.insert_or_assign({miss.due, miss.cookie}, miss);
 }
 
 const AlarmEvent *EventBook::find(quint32 cookie) const
 {
     const auto found = m_events.find(cookie);
     return found == m_events.end() ? nullptr : &found->second;
+}
+
+std::optional<AlarmEvent> EventBook::findOrMissed(quint32 cookie) const
+{
+    if (const AlarmEvent *event = find(cookie))
+        return *event;
+    for (auto miss = m_missed.rbegin(); miss != m_missed.rend(); ++miss) {
+        if (miss->second.cookie != cookie)
+            continue;
+        // It comes back for this once.
+        Wire::Event once = miss->second.event;
+        once.flags = (once.flags | Wire::SingleShot) & ~Wire::KeepAlive;
+        return AlarmEvent(cookie, once);
+    }
+    return std::nullopt;
+}
+
+QList<Miss> EventBook::untold() const
+{
+    QList<Miss> result;
+    for (const auto &[key, miss] : m_missed) {
+        if (!miss.told)
+            result.append(miss);
+    }
+    return result;
 }
 
 Result<quint32> EventBook::nextCookie() const
@@ -60,6 +88,8 @@ void EventBook::apply(const Change &change)
     }
     for (const quint32 cookie : change.erased)
         m_events.erase(cookie);
+    for (const Miss &miss : change.missed)
+        m_missed.insert_or_assign({miss.due, miss.cookie}, miss);
 }
 
 } // namespace Astel::Timed

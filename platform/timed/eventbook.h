@@ -5,6 +5,7 @@
 #include "platform/timed/store.h"
 
 #include <map>
+#include <optional>
 
 namespace Astel::Timed {
 
@@ -18,6 +19,10 @@ public:
 
     const Events &events() const { return m_events; }
     const AlarmEvent *find(quint32 cookie) const;
+    /** Also one that was missed and is stored no more. */
+    std::optional<AlarmEvent> findOrMissed(quint32 cookie) const;
+    /** What the user has not been told yet, in the order in which it was due. */
+    QList<Miss> untold() const;
     /** The cookie for the next new event; fails when all have been given. */
     Result<quint32> nextCookie() const;
     Result<> commit(const Change &change);
@@ -34,6 +39,7 @@ private:
 
     Store &m_store;
     Events m_events;
+    std::map<std::pair<qint64, quint32>, Miss> m_missed; ///< by due moment
     quint32 m_lastCookie = 0;
 };
 

@@ -32,6 +32,7 @@ QVariantMap Health::facts() const
                   {"events_waiting", count(State::Waiting)},
                   {"events_ringing", count(State::Triggered)},
                   {"events_snoozed", count(State::Snoozed)},
+                  {"missed_untold", uint(m_book.untold().size())},
                   {"zone", QString::fromUtf8(m_zone.zone().id())},
                   {"timer", m_timer.kind()},
                   {"timer_wakes", m_timer.wakesFromSleep()},
@@ -41,6 +42,8 @@ QVariantMap Health::facts() const
         facts.insert("next_moment", toNanoseconds(*wanted));
     if (const auto armed = m_timer.armedFor())
         facts.insert("armed_moment", toNanoseconds(*armed));
+    for (const auto &source : m_sources)
+        facts.insert(source());
     return facts;
 }
 

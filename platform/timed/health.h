@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <functional>
+#include <QList>
 #include <QVariantMap>
 
 namespace Astel::Timed {
@@ -19,6 +21,8 @@ public:
     Health(const EventBook &book, const Schedule &schedule, const WakeTimer &timer, const ZoneSource &zone,
            const Store &store);
 
+    /** Facts of a part that knows them itself, asked for whenever somebody asks. */
+    void add(const std::function<QVariantMap()> &source) { m_sources.append(source); }
     QVariantMap facts() const;
 
 private:
@@ -27,6 +31,7 @@ private:
     const WakeTimer &m_timer;
     const ZoneSource &m_zone;
     const Store &m_store;
+    QList<std::function<QVariantMap()>> m_sources;
 };
 
 } // namespace Astel::Timed

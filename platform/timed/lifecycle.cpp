@@ -11,22 +11,14 @@
 #include "platform/timed/validator.h"
 #include "platform/timed/zonesource.h"
 
+#include <algorithm>
+
 namespace Astel::Timed {
 
 namespace {
 
-constexpr qint64 MillisecondsOfSecond = 1000;
-constexpr qint64 MillisecondsOfMinute = 60000;
-// The start of 2026, when this was written: a device without a battery for its clock starts earlier.
-constexpr qint64 EarliestPlausible = Q_INT64_C(1767225600000);
-
-qint64 snoozeEnd(const AlarmEvent &event, qint64 from, qint64 seconds)
-{
-    const qint64 end = from + seconds * MillisecondsOfSecond;
-    if (!event.has(Wire::AlignedSnooze))
-        return end;
-    return (end + MillisecondsOfMinute - 1) / MillisecondsOfMinute * MillisecondsOfMinute;
-}
+// For entries of the journal that are about all events.
+constexpr quint32 NoCookie = 0;
 
 qint64 firstSnooze(const Wire::Event &event)
 {
@@ -46,24 +38,22 @@ LifeCycle::LifeCycle(EventBook &book, Schedule &schedule, Ringing &ringing, cons
     , m_ringing(ringing)
     , m_clock(clock)
     , m_zone(zone)
-    , m_ringTime(ringTime)
+    , m_transitions(clock, zone, ringTime)
+    , m_doubt(book, clock, m_transitions)
 {
     connect(&schedule, &Schedule::reached, this, &LifeCycle::reached);
     connect(&ringing, &Ringing::ringerSilent, this, [this](quint32 cookie, int calls) {
-        if (const AlarmEvent *event = m_book.find(cookie))
-            apply(
-                {{}, {}, {entry(*event, "failed", QStringLiteral("no answer of the ringer to %1 calls").arg(calls))}});
+        note(cookie, "failed", QStringLiteral("no answer of the ringer to %1 calls").arg(calls));
     });
 }
 
 void LifeCycle::start()
 {
-    if (m_clock.now() < EarliestPlausible)
+    if (m_doubt.begin())
         qCWarning(lcTimed, "the clock is not set, keeping all moments as they are stored");
     else
-        reconcileAll();
-    for (const auto &[cookie, event] : m_book.events())
-        follow({{event}, {}, {}});
+        reconcileAll(Cause::Start);
+    followAll();
 }
 
 AlarmEvent LifeCycle::fresh(quint32 cookie, const Wire::Event &wire) const
@@ -89,7 +79,7 @@ Result<> LifeCycle::rings(quint32 cookie)
     if (!event)
         return event.error();
     if (m_ringing.acknowledge(cookie))
-        apply({{}, {}, {entry(**event, "rang", "")}});
+        note(cookie, "rang");
     return Done{};
 }
 
@@ -98,7 +88,7 @@ Result<> LifeCycle::sounds(quint32 cookie, const QString &tone)
     const auto event = ringingEvent(cookie);
     if (!event)
         return event.error();
-    apply({{}, {}, {entry(**event, "sounded", tone)}});
+    note(cookie, "sounded", tone);
     return Done{};
 }
 
@@ -107,13 +97,13 @@ Result<qint64> LifeCycle::snooze(quint32 cookie, quint32 seconds, const QString 
     const auto found = ringingEvent(cookie);
     if (!found)
         return found.error();
-    AlarmEvent event = **found;
+    const AlarmEvent &event = **found;
     const qint64 length = seconds > 0 ? seconds : firstSnooze(event.wire());
     if (length <= 0 || length > LongestSnooze)
         return Error{Wire::InvalidError, QStringLiteral("a snooze of %1 s is not possible").arg(length)};
-    const qint64 until = snoozeEnd(event, m_clock.now(), length);
-    event.snooze(until, m_clock.now());
-    apply({{event}, {}, {entry(event, "answered", QStringLiteral("snooze of %1 s by %2").arg(length).arg(by))}});
+    Change change;
+    const qint64 until = m_transitions.snooze(event, length, by, change);
+    apply(change);
     return until;
 }
 
@@ -123,23 +113,60 @@ Result<> LifeCycle::dismiss(quint32 cookie, const QString &by)
     if (!event || (event->state() != State::Triggered && event->state() != State::Snoozed))
         return Error{Wire::UnknownError, QStringLiteral("alarm %1 neither rings nor snoozes").arg(cookie)};
     Change change;
-    change.journal.append(entry(*event, "answered", QStringLiteral("stop by %1").arg(by)));
-    serve(*event, change);
+    change.journal.append(m_transitions.entry(cookie, "answered", QStringLiteral("stop by %1").arg(by)));
+    m_transitions.serve(*event, change);
     apply(change);
     return Done{};
+}
+
+Result<> LifeCycle::ringNow(quint32 cookie)
+{
+    const auto event = m_book.findOrMissed(cookie);
+    if (!event || event->state() == State::Triggered)
+        return Error{Wire::UnknownError, QStringLiteral("alarm %1 cannot be rung again").arg(cookie)};
+    AlarmEvent ringing = *event;
+    ringing.ringNow(m_clock.now());
+    apply({{ringing}, {}, {m_transitions.entry(cookie, "due", QStringLiteral("asked for after it was missed"))}, {}});
+    emit changed();
+    return Done{};
+}
+
+void LifeCycle::tell(const QList<Miss> &misses)
+{
+    Change change;
+    for (const Miss &miss : misses) {
+        change.missed.append(miss);
+        change.missed.last().told = true;
+    }
+    apply(change);
 }
 
 void LifeCycle::clockSet()
 {
     qCInfo(lcTimed, "the clock was set");
+    note(NoCookie, "clock set");
     restartRingTimes();
-    recomputeAll(true);
+    recomputeAll(Cause::Clock);
 }
 
 void LifeCycle::zoneChanged()
 {
     qCInfo(lcTimed, "the time zone is %s", m_zone.zone().id().constData());
-    recomputeAll(false);
+    note(NoCookie, "zone changed", QString::fromUtf8(m_zone.zone().id()));
+    recomputeAll(Cause::Zone);
+}
+
+void LifeCycle::goesToSleep()
+{
+    m_asleep = true;
+}
+
+void LifeCycle::resumed()
+{
+    qCInfo(lcTimed, "resumed from sleep");
+    note(NoCookie, "resumed");
+    recomputeAll(Cause::Wake);
+    m_asleep = false;
 }
 
 void LifeCycle::restartRingTimes()
@@ -156,12 +183,18 @@ void LifeCycle::restartRingTimes()
     m_ringing.clockSet();
 }
 
-void LifeCycle::recomputeAll(bool timeChanged)
+void LifeCycle::recomputeAll(Cause cause)
 {
-    reconcileAll();
+    Change change;
+    if (m_doubt.resolve(change))
+        apply(change);
+    if (m_doubt)
+        followAll();
+    else
+        reconcileAll(cause);
     m_schedule.rearm();
     emit changed();
-    emit settingsChanged(timeChanged);
+    emit settingsChanged(cause == Cause::Clock);
 }
 
 void LifeCycle::reached(quint32 cookie, Purpose purpose)
@@ -173,11 +206,16 @@ void LifeCycle::reached(quint32 cookie, Purpose purpose)
         m_ringing.callAgain(cookie);
         return;
     }
+    AlarmEvent coming = *event;
+    if (m_doubt && purpose == Purpose::Due && event->state() == State::Waiting)
+        coming.wait(std::min(*event->moment(), m_clock.now()), m_clock.now());
     Change change;
+    // A timer that woke the device expires before anybody says that it is awake.
+    const Cause cause = m_asleep ? Cause::Wake : Cause::Time;
     if (purpose == Purpose::Due)
-        come(*event, change);
+        m_transitions.come(coming, cause, change);
     else
-        endUnanswered(*event, m_clock.now(), change);
+        m_transitions.endUnanswered(*event, m_clock.now(), cause, change);
     apply(change);
     emit changed();
 }
@@ -188,6 +226,8 @@ void LifeCycle::apply(const Change &change)
         return;
     m_book.commitOrCarryOn(change);
     follow(change);
+    if (std::any_of(change.missed.begin(), change.missed.end(), [](const Miss &miss) { return !miss.told; }))
+        emit missed();
 }
 
 void LifeCycle::follow(const Change &change)
@@ -197,149 +237,39 @@ void LifeCycle::follow(const Change &change)
         m_ringing.end(cookie);
     }
     for (const AlarmEvent &event : change.put) {
-        m_schedule.clear(event.cookie(), Purpose::Due);
-        m_schedule.clear(event.cookie(), Purpose::RingEnd);
-        if (event.state() == State::Triggered)
-            m_schedule.set(event.cookie(), Purpose::RingEnd, event.standing().since + m_ringTime);
-        else if (event.moment())
-            m_schedule.set(event.cookie(), Purpose::Due, *event.moment());
-        m_ringing.follow(event);
+        m_doubt.touch(event.cookie());
+        follow(event);
     }
 }
 
-void LifeCycle::reconcileAll()
+void LifeCycle::follow(const AlarmEvent &event)
+{
+    m_schedule.clear(event.cookie(), Purpose::Due);
+    m_schedule.clear(event.cookie(), Purpose::RingEnd);
+    if (event.state() == State::Triggered)
+        m_schedule.set(event.cookie(), Purpose::RingEnd, m_transitions.ringEnd(event));
+    else if (const auto moment = m_doubt.moment(event))
+        m_schedule.set(event.cookie(), Purpose::Due, *moment);
+    m_ringing.follow(event);
+}
+
+void LifeCycle::followAll()
+{
+    for (const auto &[cookie, event] : m_book.events())
+        follow(event);
+}
+
+void LifeCycle::note(quint32 cookie, const QString &what, const QString &detail)
+{
+    apply({{}, {}, {m_transitions.entry(cookie, what, detail)}});
+}
+
+void LifeCycle::reconcileAll(Cause cause)
 {
     Change change;
     for (const auto &[cookie, event] : m_book.events())
-        reconcile(event, change);
+        m_transitions.reconcile(event, cause, change);
     apply(change);
-}
-
-void LifeCycle::reconcile(AlarmEvent event, Change &change)
-{
-    switch (event.state()) {
-    case State::Inactive:
-        refresh(event, change);
-        break;
-    case State::Waiting:
-        if (lateness(*event.moment(), m_clock.now()) == Lateness::Ahead)
-            refresh(event, change);
-        else
-            come(event, change);
-        break;
-    case State::Triggered:
-        reconcileRinging(event, change);
-        break;
-    case State::Snoozed:
-        reconcileSnooze(event, change);
-        break;
-    case State::Finished:
-        break;
-    }
-}
-
-void LifeCycle::reconcileRinging(AlarmEvent event, Change &change)
-{
-    const qint64 now = m_clock.now();
-    const qint64 end = event.standing().since + m_ringTime;
-    if (now >= end) {
-        endUnanswered(event, end, change);
-    } else if (now < event.standing().since) {
-        event.trigger(now);
-        change.put.append(event);
-    }
-}
-
-void LifeCycle::reconcileSnooze(AlarmEvent event, Change &change)
-{
-    const qint64 now = m_clock.now();
-    const qint64 length = *event.moment() - event.standing().since;
-    if (now < event.standing().since) {
-        // The clock went back behind the answer: the snooze keeps its length, not its moment.
-        event.snooze(now + length, now);
-        change.put.append(event);
-    } else if (lateness(*event.moment(), now) != Lateness::Ahead) {
-        come(event, change);
-    }
-}
-
-void LifeCycle::refresh(AlarmEvent event, Change &change)
-{
-    const auto moment = nextMoment(event);
-    if (moment == event.moment())
-        return;
-    event.wait(moment, m_clock.now());
-    change.put.append(event);
-}
-
-void LifeCycle::come(AlarmEvent event, Change &change)
-{
-    const qint64 now = m_clock.now();
-    const qint64 moment = event.moment().value_or(now);
-    switch (lateness(moment, now)) {
-    case Lateness::Ahead:
-        change.put.append(event);
-        break;
-    case Lateness::Now:
-        event.trigger(now);
-        change.journal.append(entry(event, "due", QStringLiteral("%1 ms late").arg(now - moment)));
-        change.put.append(event);
-        break;
-    case Lateness::Missed:
-        miss(event, QStringLiteral("its moment passed %1 min ago").arg((now - moment) / MillisecondsOfMinute), change);
-        break;
-    case Lateness::Absurd:
-        qCWarning(lcTimed, "the clock jumped far over the moment of alarm %u, which waits on", event.cookie());
-        event.wait(nextMoment(event), now);
-        change.put.append(event);
-        break;
-    }
-}
-
-void LifeCycle::endUnanswered(AlarmEvent event, qint64 end, Change &change)
-{
-    const Wire::Event &wire = event.wire();
-    if (wire.timeoutSnooze <= 0 || event.standing().timeoutSnoozes >= wire.maximalTimeoutSnoozeCounter) {
-        miss(event, QStringLiteral("nobody answered"), change);
-        return;
-    }
-    event.snoozeUnanswered(snoozeEnd(event, end, wire.timeoutSnooze), end);
-    change.journal.append(entry(event, "answered", QStringLiteral("timeout, snooze of %1 s").arg(wire.timeoutSnooze)));
-    // After a time without the daemon, the end of this snooze may have passed as well.
-    if (lateness(*event.moment(), m_clock.now()) == Lateness::Ahead)
-        change.put.append(event);
-    else
-        come(event, change);
-}
-
-void LifeCycle::miss(const AlarmEvent &event, const QString &why, Change &change)
-{
-    qCWarning(lcTimed, "alarm %u was missed: %ls", event.cookie(), qUtf16Printable(why));
-    change.journal.append(entry(event, "missed", why));
-    serve(event, change);
-}
-
-void LifeCycle::serve(AlarmEvent event, Change &change)
-{
-    const auto next = event.has(Wire::SingleShot) ? std::nullopt : nextMoment(event);
-    if (next)
-        event.wait(next, m_clock.now());
-    else
-        event.finish(m_clock.now());
-    if (next || event.has(Wire::KeepAlive))
-        change.put.append(event);
-    else
-        change.erased.append(event.cookie());
-}
-
-std::optional<qint64> LifeCycle::nextMoment(const AlarmEvent &event) const
-{
-    const qint64 now = m_clock.now();
-    qint64 after = now;
-    // A clock set back a little does not ring the same moment again.
-    if (const auto last = event.standing().lastDue; last && *last > now && *last - now <= MaximalLateness)
-        after = *last;
-    return momentAfter(event.wire(), m_zone.zone(), after);
 }
 
 Result<const AlarmEvent *> LifeCycle::ringingEvent(quint32 cookie) const
@@ -348,11 +278,6 @@ Result<const AlarmEvent *> LifeCycle::ringingEvent(quint32 cookie) const
     if (!event || event->state() != State::Triggered)
         return Error{Wire::UnknownError, QStringLiteral("alarm %1 does not ring").arg(cookie)};
     return event;
-}
-
-Wire::JournalEntry LifeCycle::entry(const AlarmEvent &event, const QString &what, const QString &detail) const
-{
-    return {m_clock.now(), event.cookie(), what, detail};
 }
 
 } // namespace Astel::Timed

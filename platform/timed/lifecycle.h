@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "platform/timed/eventbook.h"
+#include "platform/timed/clockdoubt.h"
+#include "platform/timed/transitions.h"
 
 #include <QObject>
 
@@ -41,45 +42,50 @@ public:
     /** Answers the end of the snooze in milliseconds; 0 seconds: those of the first button that snoozes. */
     Result<qint64> snooze(quint32 cookie, quint32 seconds, const QString &by);
     Result<> dismiss(quint32 cookie, const QString &by);
+    /** Rings an event that was missed, also one that is not stored any more; fails where it rings already. */
+    Result<> ringNow(quint32 cookie);
+    /** The user has been told of these. */
+    void tell(const QList<Miss> &misses);
 
     /** The wall clock jumped. */
     void clockSet();
     /** The user's time zone is another one. */
     void zoneChanged();
+    /** The device is about to sleep. */
+    void goesToSleep();
+    /** The device slept, or could not. */
+    void resumed();
 
 signals:
     /** Events changed on their own: time passed, or the clock or zone is another. */
     void changed();
-    /** All is recomputed after the clock was set (timeChanged) or the zone changed. */
+    /** All is recomputed after the clock was set (timeChanged), the zone changed or the device slept. */
     void settingsChanged(bool timeChanged);
+    /** The book has misses that nobody was told of. */
+    void missed();
 
 private:
     void reached(quint32 cookie, Purpose purpose);
     void apply(const Change &change);
     void follow(const Change &change);
+    void follow(const AlarmEvent &event);
+    void followAll();
 
     void restartRingTimes();
-    void recomputeAll(bool timeChanged);
-    void reconcileAll();
-    void reconcile(AlarmEvent event, Change &change);
-    void reconcileRinging(AlarmEvent event, Change &change);
-    void reconcileSnooze(AlarmEvent event, Change &change);
-    void refresh(AlarmEvent event, Change &change);
-    void come(AlarmEvent event, Change &change);
-    void endUnanswered(AlarmEvent event, qint64 end, Change &change);
-    void miss(const AlarmEvent &event, const QString &why, Change &change);
-    void serve(AlarmEvent event, Change &change);
+    void recomputeAll(Cause cause);
+    void reconcileAll(Cause cause);
+    void note(quint32 cookie, const QString &what, const QString &detail = QLatin1String(""));
 
-    std::optional<qint64> nextMoment(const AlarmEvent &event) const;
     Result<const AlarmEvent *> ringingEvent(quint32 cookie) const;
-    Wire::JournalEntry entry(const AlarmEvent &event, const QString &what, const QString &detail) const;
 
     EventBook &m_book;
     Schedule &m_schedule;
     Ringing &m_ringing;
     const Clock &m_clock;
     const ZoneSource &m_zone;
-    const qint64 m_ringTime;
+    const Transitions m_transitions;
+    ClockDoubt m_doubt;
+    bool m_asleep = false;
 };
 
 } // namespace Astel::Timed

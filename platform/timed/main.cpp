@@ -12,6 +12,9 @@ using namespace Astel::Timed;
 
 namespace {
 
+// For devices that keep these elsewhere, and for tests.
+constexpr auto LocaltimeVariable = "TIMED_LOCALTIME";
+constexpr auto BootFolderVariable = "TIMED_BOOT_FOLDER";
 constexpr auto RingTimeVariable = "TIMED_RING_TIME";
 constexpr qint64 MillisecondsOfSecond = 1000;
 
@@ -19,6 +22,8 @@ Settings readSettings()
 {
     Settings settings;
     settings.folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/timed";
+    settings.localtime = qEnvironmentVariable(LocaltimeVariable, "/etc/localtime");
+    settings.bootFolder = qEnvironmentVariable(BootFolderVariable, "/var/lib/clock-rtc");
     bool given = false;
     const int seconds = qEnvironmentVariableIntValue(RingTimeVariable, &given);
     if (given && seconds > 0)

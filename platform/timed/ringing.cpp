@@ -32,7 +32,7 @@ void Ringing::follow(const AlarmEvent &event)
     if (event.state() != State::Triggered)
         end(event.cookie());
     else if (const auto [ring, begins] = m_rings.try_emplace(event.cookie()); begins)
-        call(event.cookie(), ring->second);
+        begin(event.cookie(), ring->second);
 }
 
 void Ringing::end(quint32 cookie)
@@ -41,6 +41,15 @@ void Ringing::end(quint32 cookie)
         return;
     m_schedule.clear(cookie, Purpose::Retry);
     m_ringer.stop(cookie);
+    if (m_rings.empty())
+        emit ended();
+}
+
+void Ringing::begin(quint32 cookie, Ring &ring)
+{
+    if (m_rings.size() == 1)
+        emit begun();
+    call(cookie, ring);
 }
 
 bool Ringing::acknowledge(quint32 cookie)

@@ -35,6 +35,10 @@ public:
     void clockSet();
 
 signals:
+    /** Something rings, and before nothing did. */
+    void begun();
+    /** Nothing rings any more. */
+    void ended();
     /** The ringer was called several times and is silent; it is called on at longer intervals. */
     void ringerSilent(quint32 cookie, int calls);
 
@@ -45,6 +49,7 @@ private:
         int calls = 0;
     };
 
+    void begin(quint32 cookie, Ring &ring);
     void call(quint32 cookie, Ring &ring);
     void ringerVanished();
 

@@ -44,8 +44,10 @@ std::optional<qint64> Schedule::first() const
 
 void Schedule::rearm()
 {
+    emit arming();
     m_armed = first();
     m_timer.arm(m_armed);
+    emit armed();
 }
 
 void Schedule::remove(const Key &key)
@@ -59,6 +61,7 @@ void Schedule::remove(const Key &key)
 
 void Schedule::armIfNeeded()
 {
+    emit changed();
     if (first() != m_armed)
         rearm();
 }
@@ -80,6 +83,7 @@ void Schedule::deliver()
         remove({cookie, purpose});
         emit reached(cookie, purpose);
     }
+    emit changed();
     rearm();
 }
 

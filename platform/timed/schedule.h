@@ -39,6 +39,11 @@ public:
     void rearm();
 
 signals:
+    /** The timer is about to be set to another moment. */
+    void arming();
+    void armed();
+    /** Something is waited for at another moment, or not any more. */
+    void changed();
     /** A moment has come; it is no longer in the schedule. */
     void reached(quint32 cookie, Astel::Timed::Purpose purpose);
 

@@ -27,6 +27,9 @@ const std::array<QStringList, Version> &steps()
         },
         // When a snapshot last took the place of a damaged file.
         QStringList{"ALTER TABLE counter ADD COLUMN restored INTEGER"},
+        // What the user is to be told.
+        QStringList{"CREATE TABLE missed (cookie INTEGER NOT NULL, due INTEGER NOT NULL, noticed INTEGER NOT NULL,"
+                    " reason TEXT NOT NULL, told INTEGER NOT NULL, event TEXT NOT NULL, PRIMARY KEY (due, cookie))"},
     };
     return all;
 }

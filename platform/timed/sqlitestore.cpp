@@ -15,19 +15,12 @@ namespace Astel::Timed {
 namespace {
 
 constexpr qint64 Day = Q_INT64_C(86400) * 1000;
-constexpr qint64 Year = 366 * Day;
 constexpr int CommitsBetweenSnapshots = 10;
 constexpr quint64 NanosecondsOfMillisecond = 1000000;
 
 QVariant orNull(std::optional<qint64> moment)
 {
     return moment ? QVariant(*moment) : QVariant(QMetaType::fromType<qint64>());
-}
-
-QVariant notNull(const QString &text)
-{
-    // A null string would be written as NULL.
-    return text.isNull() ? QStringLiteral("") : text;
 }
 
 std::optional<qint64> orNothing(const QVariant &value)
@@ -53,14 +46,13 @@ SqliteStore::SqliteStore(std::shared_ptr<Database> database)
     , m_put(m_database->connection())
     , m_erase(m_database->connection())
     , m_count(m_database->connection())
-    , m_note(m_database->connection())
+    , m_history(m_database->connection())
     , m_snapshots(m_database->path())
 {
     m_put.prepare("INSERT OR REPLACE INTO events (cookie, state, moment, since, last_due, timeout_snoozes, event)"
                   " VALUES (?, ?, ?, ?, ?, ?, ?)");
     m_erase.prepare("DELETE FROM events WHERE cookie = ?");
     m_count.prepare("UPDATE counter SET last_cookie = max(last_cookie, ?)");
-    m_note.prepare("INSERT INTO journal (moment, cookie, what, detail) VALUES (?, ?, ?, ?)");
 }
 
 SqliteStore::~SqliteStore() = default;
@@ -84,9 +76,7 @@ Result<> SqliteStore::begin(qint64 now)
         if (auto done = run(query, {now}); !done)
             return done;
     }
-    query.prepare("DELETE FROM journal WHERE moment < ?");
-    if (const auto done = run(query, {now - Year}); !done)
-        qCWarning(lcTimed, "ignoring: %ls", qUtf16Printable(done.error().text));
+    m_history.begin(now);
     takeSnapshot(now);
     return Done{};
 }
@@ -116,10 +106,10 @@ Result<> SqliteStore::write(const Change &change)
         result = put(change.put[i]);
     for (qsizetype i = 0; result && i < change.erased.size(); ++i)
         result = run(m_erase, {change.erased[i]});
-    for (qsizetype i = 0; result && i < change.journal.size(); ++i) {
-        const Wire::JournalEntry &entry = change.journal[i];
-        result = run(m_note, {entry.moment, entry.cookie, entry.what, notNull(entry.detail)});
-    }
+    for (qsizetype i = 0; result && i < change.journal.size(); ++i)
+        result = m_history.write(change.journal[i]);
+    for (qsizetype i = 0; result && i < change.missed.size(); ++i)
+        result = m_history.write(change.missed[i]);
     return result;
 }
 
@@ -166,20 +156,6 @@ quint32 SqliteStore::lastCookie() const
     QSqlQuery query("SELECT max(last_cookie, (SELECT ifnull(max(cookie), 0) FROM events)) FROM counter",
                     m_database->connection());
     return query.next() ? query.value(0).toUInt() : 0;
-}
-
-QList<Wire::JournalEntry> SqliteStore::journal(qint64 since) const
-{
-    QList<Wire::JournalEntry> result;
-    QSqlQuery query(m_database->connection());
-    query.setForwardOnly(true);
-    query.prepare("SELECT moment, cookie, what, detail FROM journal WHERE moment >= ? ORDER BY moment, rowid");
-    query.addBindValue(since);
-    query.exec();
-    while (query.next())
-        result.append({query.value(0).toLongLong(), query.value(1).toUInt(), query.value(2).toString(),
-                       query.value(3).toString()});
-    return result;
 }
 
 QVariantMap SqliteStore::facts() const

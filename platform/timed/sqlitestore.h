@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "platform/timed/history.h"
 #include "platform/timed/snapshotwriter.h"
 #include "platform/timed/store.h"
 
@@ -19,14 +20,15 @@ class Database;
 class SqliteStore final : public Store
 {
 public:
-    /** "now" in milliseconds: older journal entries than a year are dropped. */
+    /** "now" in milliseconds. */
     static Result<std::unique_ptr<SqliteStore>> create(const QString &folder, qint64 now);
     ~SqliteStore() override;
 
     Result<> commit(const Change &change) override;
     QList<AlarmEvent> events() const override;
     quint32 lastCookie() const override;
-    QList<Wire::JournalEntry> journal(qint64 since) const override;
+    QList<Wire::JournalEntry> journal(qint64 since) const override { return m_history.journal(since); }
+    QList<Miss> missed() const override { return m_history.missed(); }
     QVariantMap facts() const override;
 
     /** Whether there were ten commits, or a day with any, since the last snapshot; "now" in milliseconds. */
@@ -48,7 +50,7 @@ private:
     QSqlQuery m_put;
     QSqlQuery m_erase;
     QSqlQuery m_count;
-    QSqlQuery m_note;
+    History m_history;
     int m_commitsSinceSnapshot = 0;
     qint64 m_lastSnapshot = 0;
     SnapshotWriter m_snapshots; // last: it ends before the database is closed

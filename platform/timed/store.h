@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/timed/alarmevent.h"
+#include "platform/timed/miss.h"
 #include "platform/timed/result.h"
 
 #include <QVariantMap>
@@ -15,11 +16,12 @@ struct Change
     QList<AlarmEvent> put; ///< new events and new versions of stored ones
     QList<quint32> erased;
     QList<Wire::JournalEntry> journal;
+    QList<Miss> missed = {}; ///< new misses, and new versions of stored ones
 
-    bool isEmpty() const { return put.isEmpty() && erased.isEmpty() && journal.isEmpty(); }
+    bool isEmpty() const { return put.isEmpty() && erased.isEmpty() && journal.isEmpty() && missed.isEmpty(); }
 };
 
-/** Where events, the last cookie and the journal outlive the daemon. */
+/** Where events, the last cookie, misses and the journal outlive the daemon. */
 class Store
 {
 public:
@@ -32,6 +34,8 @@ public:
     virtual quint32 lastCookie() const = 0;
     /** Entries from a moment on, in milliseconds, oldest first. */
     virtual QList<Wire::JournalEntry> journal(qint64 since) const = 0;
+    /** Everything that was missed and is not forgotten yet, in the order in which it was due. */
+    virtual QList<Miss> missed() const = 0;
     /** Facts for the health report. */
     virtual QVariantMap facts() const = 0;
 };

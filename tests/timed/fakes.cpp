@@ -16,6 +16,10 @@ Result<> FakeStore::commit(const Change &change)
     for (const quint32 cookie : change.erased)
         stored.erase(cookie);
     entries += change.journal;
+    for (const Miss &miss : change.missed) {
+        misses.removeIf([&miss](const Miss &other) { return miss.isSame(other); });
+        misses.append(miss);
+    }
     return Done{};
 }
 
@@ -38,8 +42,20 @@ QList<Wire::JournalEntry> FakeStore::journal(qint64 since) const
 QStringList FakeStore::words() const
 {
     QStringList result;
-    for (const Wire::JournalEntry &entry : entries)
-        result.append(entry.what);
+    for (const Wire::JournalEntry &entry : entries) {
+        if (entry.cookie != 0)
+            result.append(entry.what);
+    }
+    return result;
+}
+
+QStringList FakeStore::happenings() const
+{
+    QStringList result;
+    for (const Wire::JournalEntry &entry : entries) {
+        if (entry.cookie == 0)
+            result.append(entry.what);
+    }
     return result;
 }
 

@@ -50,13 +50,17 @@ public:
     QList<Astel::Timed::AlarmEvent> events() const override;
     quint32 lastCookie() const override { return last; }
     QList<Astel::Timed::Wire::JournalEntry> journal(qint64 since) const override;
+    QList<Astel::Timed::Miss> missed() const override { return misses; }
     QVariantMap facts() const override { return {}; }
 
-    /** The words of the journal so far, without their details. */
+    /** The words of the journal so far that are about an event, without their details. */
     QStringList words() const;
+    /** Those that are about all events. */
+    QStringList happenings() const;
 
     std::map<quint32, Astel::Timed::AlarmEvent> stored;
     QList<Astel::Timed::Wire::JournalEntry> entries;
+    QList<Astel::Timed::Miss> misses;
     quint32 last = 0;
     int commits = 0;
     bool failing = false;

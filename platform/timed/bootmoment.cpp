@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/timed/bootmoment.h"
+
+#include "platform/timed/clock.h"
+#include "platform/timed/eventbook.h"
+#include "platform/timed/logging.h"
+#include "platform/timed/moments.h"
+#include "platform/timed/schedule.h"
+
+#include <cerrno>
+#include <QFile>
+#include <QSaveFile>
+#include <unistd.h>
+
+namespace Astel::Timed {
+
+namespace {
+
+constexpr qint64 MillisecondsOfSecond = 1000;
+
+// Both answer what went wrong, or nothing.
+
+QString writeFile(const QString &path, qint64 moment)
+{
+    const QByteArray line = QByteArray::number(moment / MillisecondsOfSecond) + '\n';
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(line) == line.size() && file.commit())
+        return {};
+    return QStringLiteral("%1: %2").arg(path, file.errorString());
+}
+
+QString removeFile(const QString &path, const QString &folder)
+{
+    if (access(QFile::encodeName(folder).constData(), W_OK) == 0 && (QFile::remove(path) || !QFile::exists(path)))
+        return {};
+    return QStringLiteral("%1: %2").arg(folder, qt_error_string(errno));
+}
+
+} // namespace
+
+BootMoment::BootMoment(const EventBook &book, const Schedule &schedule, const Clock &clock, const QString &folder)
+    : m_book(book)
+    , m_clock(clock)
+    , m_folder(folder)
+{
+    // Many changes at once are written once, and nobody waits for it.
+    connect(&schedule, &Schedule::changed, this, [this] {
+        if (!m_pending)
+            QMetaObject::invokeMethod(this, &BootMoment::update, Qt::QueuedConnection);
+        m_pending = true;
+    });
+}
+
+BootMoment::~BootMoment()
+{
+    if (m_pending)
+        update();
+}
+
+void BootMoment::update()
+{
+    m_pending = false;
+    const auto moment = next();
+    if (m_known && moment == m_written)
+        return;
+    write(moment);
+}
+
+QVariantMap BootMoment::facts() const
+{
+    QVariantMap facts{{"boot_ready", m_problem.isEmpty()}, {"boot_reason", m_problem}};
+    if (const auto moment = next())
+        facts.insert("boot_moment", toNanoseconds(*moment));
+    return facts;
+}
+
+std::optional<qint64> BootMoment::next() const
+{
+    std::optional<qint64> first;
+    for (const auto &[cookie, event] : m_book.events()) {
+        const auto moment = event.moment();
+        if (event.has(Wire::Boot) && moment && *moment > m_clock.now() && (!first || *moment < *first))
+            first = moment;
+    }
+    return first;
+}
+
+void BootMoment::write(std::optional<qint64> moment)
+{
+    m_known = true;
+    m_written = moment;
+    const QString path = m_folder + '/' + QString::number(getuid());
+    m_problem = moment ? writeFile(path, *moment) : removeFile(path, m_folder);
+    if (moment && !m_problem.isEmpty())
+        qCWarning(lcTimed, "no alarm turns the device on: %ls", qUtf16Printable(m_problem));
+}
+
+} // namespace Astel::Timed

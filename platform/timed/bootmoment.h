@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <optional>
+#include <QObject>
+#include <QVariantMap>
+
+namespace Astel::Timed {
+
+class Clock;
+class EventBook;
+class Schedule;
+
+/**
+ * Hands the next moment of an event with the boot flag over to clock-rtc, which sets the hardware clock's alarm when
+ * the device is shut down: a file in a folder of the system, named after the user's number, with the seconds since the
+ * epoch. There is none without such an event. The folder is made when clock-rtc is installed; without it, no alarm
+ * turns the device on, and the facts say so.
+ */
+class BootMoment : public QObject
+{
+    Q_OBJECT
+
+public:
+    BootMoment(const EventBook &book, const Schedule &schedule, const Clock &clock, const QString &folder);
+    ~BootMoment() override;
+
+    /** Brings the file up to date now, instead of soon after the schedule changed. */
+    void update();
+    QVariantMap facts() const;
+
+private:
+    std::optional<qint64> next() const;
+    void write(std::optional<qint64> moment);
+
+    const EventBook &m_book;
+    const Clock &m_clock;
+    const QString m_folder;
+    bool m_pending = false;
+    bool m_known = false;
+    std::optional<qint64> m_written;
+    QString m_problem;
+};
+
+} // namespace Astel::Timed

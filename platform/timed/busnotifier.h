@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/timed/buspresence.h"
+#include "platform/timed/notifier.h"
+
+#include <QDBusConnection>
+
+namespace Astel::Timed {
+
+/** The notification server of the desktop, on the session bus; started by the bus where that can. */
+class BusNotifier final : public Notifier
+{
+    Q_OBJECT
+
+public:
+    explicit BusNotifier(const QDBusConnection &bus);
+
+    void show(const Notice &notice, const std::function<void(bool)> &done) override;
+    bool isPresent() const override { return m_presence.isPresent(); }
+
+private slots:
+    void actionInvoked(uint id, const QString &key);
+
+private:
+    void send(const Notice &notice, const std::function<void(bool)> &done);
+
+    QDBusConnection m_bus;
+    BusPresence m_presence;
+};
+
+} // namespace Astel::Timed

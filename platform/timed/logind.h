@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "platform/timed/buspresence.h"
+#include "platform/timed/sleepcontrol.h"
+
+#include <QDBusConnection>
+#include <QDBusUnixFileDescriptor>
+
+namespace Astel::Timed {
+
+/**
+ * The login manager on the system bus. A delay of sleep is a descriptor that it hands out, and that is closed to end
+ * the delay. Without the manager or the bus nothing is delayed or heard; the facts say so.
+ */
+class Logind final : public SleepControl
+{
+    Q_OBJECT
+
+public:
+    explicit Logind(const QDBusConnection &bus);
+
+    void delaySleep(bool delayed) override;
+    QVariantMap facts() const override;
+
+private slots:
+    void prepareForSleep(bool begins);
+
+private:
+    enum class Delay {
+        None,
+        Asked, ///< the answer is under way
+        Held,
+        Refused, ///< asked for in vain; not again before the next one is needed
+    };
+
+    void ask();
+    void setDelay(Delay delay, const QDBusUnixFileDescriptor &descriptor = {});
+
+    QDBusConnection m_bus;
+    BusPresence m_presence;
+    bool m_wanted = false;
+    Delay m_delay = Delay::None;
+    QDBusUnixFileDescriptor m_descriptor;
+};
+
+} // namespace Astel::Timed
