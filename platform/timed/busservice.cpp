@@ -10,6 +10,7 @@
 #include "platform/timed/lifecycle.h"
 #include "platform/timed/moments.h"
 #include "platform/timed/triggers.h"
+#include "platform/timed/validator.h"
 #include "platform/timed/zonesource.h"
 #include "timedadaptor.h"
 
@@ -71,13 +72,14 @@ bool BusService::cancel(uint cookie)
     return false;
 }
 
-QVariantList BusService::query(const QVariantMap &attributes) const
+QVariantList BusService::query(const Wire::Filter &filter) const
 {
-    QVariantList result;
-    const QList<quint32> cookies = m_parts.events.query(attributes);
-    for (const quint32 cookie : cookies)
-        result.append(cookie);
-    return result;
+    const auto cookies = m_parts.events.query(filter);
+    if (!cookies) {
+        refuse(cookies.error());
+        return {};
+    }
+    return {(*cookies).begin(), (*cookies).end()};
 }
 
 QVariantMap BusService::query_attributes(uint cookie) const
@@ -93,13 +95,16 @@ void BusService::rings(uint cookie)
 
 void BusService::sounds(uint cookie, const QString &tone)
 {
-    if (const auto done = m_parts.lifeCycle.sounds(cookie, tone); !done)
+    if (const auto valid = validateTone(tone); !valid)
+        refuse(valid.error());
+    else if (const auto done = m_parts.lifeCycle.sounds(cookie, tone); !done)
         refuse(done.error());
 }
 
 qulonglong BusService::snooze(uint cookie, uint seconds, const QString &by)
 {
-    const auto until = m_parts.lifeCycle.snooze(cookie, seconds, by);
+    const auto valid = validateWho(by);
+    const auto until = valid ? m_parts.lifeCycle.snooze(cookie, seconds, by) : valid.error();
     if (until)
         answer({toNanoseconds(*until)});
     else
@@ -109,7 +114,8 @@ qulonglong BusService::snooze(uint cookie, uint seconds, const QString &by)
 
 void BusService::dismiss(uint cookie, const QString &by)
 {
-    const auto done = m_parts.lifeCycle.dismiss(cookie, by);
+    const auto valid = validateWho(by);
+    const auto done = valid ? m_parts.lifeCycle.dismiss(cookie, by) : valid;
     if (done)
         answer({});
     else

@@ -48,7 +48,7 @@ public:
     uint add_event(const Wire::Event &event);
     uint replace_event(const Wire::Event &event, uint cookie);
     bool cancel(uint cookie);
-    QVariantList query(const QVariantMap &attributes) const;
+    QVariantList query(const Wire::Filter &filter) const;
     QVariantMap query_attributes(uint cookie) const;
     void rings(uint cookie);
     void sounds(uint cookie, const QString &tone);

@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QStandardPaths>
 #include <QUuid>
 #include <QVariant>
 #include <sys/file.h>
@@ -39,6 +40,7 @@ bool isDamage(const QSqlError &error)
 
 Database::Database(const QString &folder)
     : m_path(folder + "/events.db")
+    , m_working(m_path)
     , m_connectionName(QUuid::createUuid().toString())
 { }
 
@@ -60,12 +62,9 @@ Result<std::shared_ptr<Database>> Database::open(const QString &folder)
     std::shared_ptr<Database> database(new Database(folder));
     if (const auto locked = database->lock(); !locked)
         return locked.error();
-    Condition condition = database->examine();
-    // The first replacement is the snapshot; when that is damaged as well, an empty file.
-    for (int attempt = 0; condition == Condition::Damaged && attempt < 2; ++attempt) {
-        database->replaceDamaged();
-        condition = database->connect();
-    }
+    Condition condition = database->m_lock < 0 ? Condition::Unusable : database->openSound();
+    if (condition == Condition::Unusable && database->workOnCopy())
+        condition = database->openSound();
     if (condition != Condition::Sound)
         return failure(QStringLiteral("cannot use ") + database->m_path, database->m_problem);
     return database;
@@ -76,17 +75,43 @@ Result<> Database::lock()
     const QString path = m_path + ".lock";
     m_lock = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
     if (m_lock < 0)
-        return failure(QStringLiteral("cannot write ") + path, qt_error_string(errno));
-    if (flock(m_lock, LOCK_EX | LOCK_NB) != 0)
+        m_problem = QStringLiteral("cannot write %1: %2").arg(path, qt_error_string(errno));
+    else if (flock(m_lock, LOCK_EX | LOCK_NB) != 0)
         return failure(QStringLiteral("cannot use ") + m_path, QStringLiteral("another daemon is using it"));
     return Done{};
+}
+
+bool Database::workOnCopy()
+{
+    if (!QFile::exists(m_path) && !QFile::exists(snapshotOf(m_path)))
+        return false;
+    // A file system becomes read-only when its disk fails, or is full; what it holds still has to ring.
+    qCCritical(lcTimed, "%ls cannot be changed: %ls", qUtf16Printable(m_path), qUtf16Printable(m_problem));
+    m_copy = std::make_unique<QTemporaryDir>(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation)
+                                             + "/timed-XXXXXX");
+    m_working = m_copy->filePath(QFileInfo(m_path).fileName());
+    m_restored = false;
+    for (const char *suffix : {"", "-wal", ".snapshot"}) {
+        QFile::copy(m_path + suffix, m_working + suffix);
+        QFile::setPermissions(m_working + suffix, QFile::ReadOwner | QFile::WriteOwner);
+    }
+    return true;
+}
+
+Database::Condition Database::openSound()
+{
+    Condition condition = examine();
+    // The first replacement is the snapshot; when that is damaged as well, an empty file.
+    for (int attempt = 0; condition == Condition::Damaged && attempt < 2; ++attempt)
+        condition = replaceDamaged() ? connect() : Condition::Unusable;
+    return condition;
 }
 
 Database::Condition Database::examine()
 {
     // A daemon that ended while it was replacing a damaged file leaves none; an empty one would pass for sound.
-    const QFileInfo file(m_path);
-    if (QFile::exists(snapshotOf(m_path)) && (!file.exists() || file.size() == 0)) {
+    const QFileInfo file(m_working);
+    if (QFile::exists(snapshotOf(m_working)) && (!file.exists() || file.size() == 0)) {
         m_problem = QStringLiteral("it is missing or empty");
         return Condition::Damaged;
     }
@@ -97,7 +122,7 @@ Database::Condition Database::connect()
 {
     QSqlDatabase::removeDatabase(m_connectionName);
     QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", m_connectionName);
-    database.setDatabaseName(m_path);
+    database.setDatabaseName(m_working);
     database.setConnectOptions("QSQLITE_BUSY_TIMEOUT=1000");
     if (!database.open())
         return conditionAfter(database.lastError());
@@ -124,7 +149,7 @@ Database::Condition Database::prepare()
     query.finish();
     if (version > Schema::Version) {
         m_problem = QStringLiteral("it was written by a newer version");
-        return Condition::Unusable;
+        return Condition::Newer;
     }
     const QSqlError error = Schema::migrate(connection(), version, hasBeenDamaged() ? CookiesToStepOver : 0);
     return error.isValid() ? conditionAfter(error) : Condition::Sound;
@@ -136,21 +161,26 @@ Database::Condition Database::conditionAfter(const QSqlError &error)
     return isDamage(error) ? Condition::Damaged : Condition::Unusable;
 }
 
-void Database::replaceDamaged()
+bool Database::replaceDamaged()
 {
-    qCCritical(lcTimed, "%ls is damaged: %ls", qUtf16Printable(m_path), qUtf16Printable(m_problem));
-    setAside(m_path);
-    for (const char *companion : {"-wal", "-shm"})
-        setAside(m_path + companion);
-    const QString snapshot = snapshotOf(m_path);
-    const bool copied = !m_restored && QFile::copy(snapshot, m_path);
-    Disk::sync(m_path);
-    if (copied)
-        qCWarning(lcTimed, "restored the snapshot of %ls",
-                  qUtf16Printable(QFileInfo(snapshot).lastModified().toString(Qt::ISODate)));
-    else
-        qCCritical(lcTimed, "no snapshot to restore, starting without events");
+    qCCritical(lcTimed, "%ls is damaged: %ls", qUtf16Printable(m_working), qUtf16Printable(m_problem));
+    for (const char *suffix : {"", "-wal", "-shm"})
+        setAside(m_working + suffix);
+    const QString snapshot = snapshotOf(m_working);
+    const bool restores = !m_restored && QFile::exists(snapshot);
     m_restored = true;
+    if (!restores) {
+        qCCritical(lcTimed, "no snapshot to restore, starting without events");
+        return true;
+    }
+    if (!QFile::copy(snapshot, m_working)) {
+        m_problem = QStringLiteral("cannot restore ") + snapshot;
+        return false;
+    }
+    Disk::sync(m_working);
+    qCWarning(lcTimed, "restored the snapshot of %ls",
+              qUtf16Printable(QFileInfo(snapshot).lastModified().toString(Qt::ISODate)));
+    return true;
 }
 
 void Database::setAside(const QString &path) const
@@ -171,7 +201,7 @@ void Database::setAside(const QString &path) const
 
 bool Database::hasBeenDamaged() const
 {
-    const QFileInfo file(m_path);
+    const QFileInfo file(m_working);
     return !file.dir().entryList({file.fileName() + DamagedMark + '*'}).isEmpty();
 }
 

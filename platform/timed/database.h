@@ -4,14 +4,16 @@
 
 #include "platform/timed/result.h"
 
+#include <memory>
 #include <QSqlDatabase>
+#include <QTemporaryDir>
 
 namespace Astel::Timed {
 
 /**
  * The SQLite file of the store: locked for one process, opened durable, checked, and brought to the current schema. A
  * damaged or lost file is set aside and the snapshot, or an empty database, takes its place; wasRestored() tells.
- * Closed with the object.
+ * Where the disk cannot be written, it is a copy in memory's file system, for reading. Closed with the object.
  */
 class Database
 {
@@ -23,6 +25,8 @@ public:
 
     QSqlDatabase connection() const;
     QString path() const { return m_path; }
+    /** Whether what is written here is lost. */
+    bool isReadOnly() const { return m_copy != nullptr; }
     /** Whether a damaged file was replaced when this one was opened. */
     bool wasRestored() const { return m_restored; }
     static QString snapshotOf(const QString &path) { return path + ".snapshot"; }
@@ -34,22 +38,27 @@ private:
     enum class Condition {
         Sound,
         Damaged,
-        Unusable,
+        Newer,    ///< written by a later version
+        Unusable, ///< the disk is at fault, not the file
     };
 
     explicit Database(const QString &folder);
     Result<> lock();
+    bool workOnCopy();
+    Condition openSound();
     Condition examine();
     Condition connect();
     Condition prepare();
     Condition conditionAfter(const QSqlError &error);
-    void replaceDamaged();
+    bool replaceDamaged();
     void setAside(const QString &path) const;
     bool hasBeenDamaged() const;
 
-    QString m_path;
+    const QString m_path;
+    QString m_working; ///< the file itself, or its copy
     QString m_connectionName;
     QString m_problem;
+    std::unique_ptr<QTemporaryDir> m_copy;
     int m_lock = -1;
     bool m_restored = false;
 };

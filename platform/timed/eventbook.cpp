@@ -3,6 +3,7 @@
 #include "platform/timed/eventbook.h"
 
 #include "platform/timed/logging.h"
+#include "platform/timed/validator.h"
 
 #include <algorithm>
 #include <limits>
@@ -21,7 +22,7 @@ EventBook::EventBook(Store &store)
 {
     const QList<AlarmEvent> stored = store.events();
     for (const AlarmEvent &event : stored)
-        m_events.insert_or_assign(event.cookie(), event);
+        put(event);
     const QList<Miss> missed = store.missed();
     for (const Miss &miss : missed)
         m_missed.insert_or_assign({miss.due, miss.cookie}, miss);
@@ -83,13 +84,29 @@ void EventBook::commitOrCarryOn(const Change &change)
 void EventBook::apply(const Change &change)
 {
     for (const AlarmEvent &event : change.put) {
-        m_events.insert_or_assign(event.cookie(), event);
+        put(event);
         m_lastCookie = std::max(m_lastCookie, event.cookie());
     }
     for (const quint32 cookie : change.erased)
-        m_events.erase(cookie);
+        erase(cookie);
     for (const Miss &miss : change.missed)
         m_missed.insert_or_assign({miss.due, miss.cookie}, miss);
+}
+
+void EventBook::put(const AlarmEvent &event)
+{
+    AlarmEvent &place = m_events[event.cookie()];
+    m_textSize += Timed::textSize(event.wire()) - Timed::textSize(place.wire());
+    place = event;
+}
+
+void EventBook::erase(quint32 cookie)
+{
+    const auto found = m_events.find(cookie);
+    if (found == m_events.end())
+        return;
+    m_textSize -= Timed::textSize(found->second.wire());
+    m_events.erase(found);
 }
 
 } // namespace Astel::Timed

@@ -18,6 +18,8 @@ public:
     explicit EventBook(Store &store);
 
     const Events &events() const { return m_events; }
+    /** How many characters all events hold. */
+    qsizetype textSize() const { return m_textSize; }
     const AlarmEvent *find(quint32 cookie) const;
     /** Also one that was missed and is stored no more. */
     std::optional<AlarmEvent> findOrMissed(quint32 cookie) const;
@@ -36,11 +38,14 @@ public:
 
 private:
     void apply(const Change &change);
+    void put(const AlarmEvent &event);
+    void erase(quint32 cookie);
 
     Store &m_store;
     Events m_events;
     std::map<std::pair<qint64, quint32>, Miss> m_missed; ///< by due moment
     quint32 m_lastCookie = 0;
+    qsizetype m_textSize = 0;
 };
 
 } // namespace Astel::Timed

@@ -43,9 +43,21 @@ Result<quint32> EventService::replace(const Wire::Event &event, quint32 cookie)
     return store(event, {cookie});
 }
 
+Result<> EventService::validate(const Wire::Event &event, const QList<quint32> &replaced) const
+{
+    if (auto valid = Timed::validate(event); !valid)
+        return valid;
+    qsizetype size = m_book.textSize() + textSize(event);
+    for (const quint32 cookie : replaced)
+        size -= textSize(m_book.find(cookie)->wire());
+    if (size > MaximalText)
+        return Error{Wire::LimitError, QStringLiteral("all events together hold %1 characters").arg(MaximalText)};
+    return Done{};
+}
+
 Result<quint32> EventService::store(const Wire::Event &event, const QList<quint32> &replaced)
 {
-    if (const auto valid = validate(event); !valid)
+    if (const auto valid = validate(event, replaced); !valid)
         return valid.error();
     auto cookie = m_book.nextCookie();
     if (!cookie)
@@ -66,11 +78,13 @@ Result<bool> EventService::cancel(quint32 cookie)
     return true;
 }
 
-QList<quint32> EventService::query(const QVariantMap &attributes) const
+Result<QList<quint32>> EventService::query(const Wire::Filter &filter) const
 {
+    if (const auto valid = Timed::validate(filter); !valid)
+        return valid.error();
     QList<quint32> result;
     for (const auto &[cookie, event] : m_book.events()) {
-        if (holdsAll(event.wire().attributes, attributes))
+        if (holdsAll(event.wire().attributes, filter.attributes))
             result.append(cookie);
     }
     return result;

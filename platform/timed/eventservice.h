@@ -23,11 +23,12 @@ public:
     /** False where there was no such event. */
     Result<bool> cancel(quint32 cookie);
     /** The cookies of the events whose attributes hold all of these, compared as text. */
-    QList<quint32> query(const QVariantMap &attributes) const;
+    Result<QList<quint32>> query(const Wire::Filter &filter) const;
     /** The attributes and STATE; empty where there is no such event. */
     QVariantMap queryAttributes(quint32 cookie) const;
 
 private:
+    Result<> validate(const Wire::Event &event, const QList<quint32> &replaced) const;
     Result<quint32> store(const Wire::Event &event, const QList<quint32> &replaced);
 
     EventBook &m_book;

@@ -16,6 +16,7 @@ namespace {
 constexpr qint64 Day = Q_INT64_C(86400) * 1000;
 constexpr qint64 Week = 7 * Day;
 constexpr qint64 Year = 366 * Day;
+constexpr int MostEntries = 10000;
 
 QVariant notNull(const QString &text)
 {
@@ -39,7 +40,8 @@ History::History(const QSqlDatabase &database)
                       "INSERT OR REPLACE INTO missed (cookie, due, noticed, reason, told, event)"
                       " VALUES (?, ?, ?, ?, ?, ?)"))
     , m_journal(prepared(database,
-                         "SELECT moment, cookie, what, detail FROM journal WHERE moment >= ? ORDER BY moment, rowid"))
+                         "SELECT * FROM (SELECT moment, cookie, what, detail, rowid FROM journal WHERE moment >= ?"
+                         " ORDER BY moment DESC, rowid DESC LIMIT ?) ORDER BY moment, rowid"))
     , m_missed(prepared(database, "SELECT cookie, due, noticed, reason, told, event FROM missed"))
     , m_last(prepared(database, "SELECT max(moment) FROM journal"))
     , m_dropEntries(prepared(database, "DELETE FROM journal WHERE moment < ?"))
@@ -84,6 +86,7 @@ QList<Wire::JournalEntry> History::journal(qint64 since) const
 {
     QList<Wire::JournalEntry> result;
     m_journal.bindValue(0, since);
+    m_journal.bindValue(1, MostEntries);
     m_journal.exec();
     while (m_journal.next())
         result.append({m_journal.value(0).toLongLong(), m_journal.value(1).toUInt(), m_journal.value(2).toString(),

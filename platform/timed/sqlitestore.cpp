@@ -70,6 +70,8 @@ Result<std::unique_ptr<SqliteStore>> SqliteStore::create(const QString &folder, 
 
 Result<> SqliteStore::begin(qint64 now)
 {
+    if (m_database->isReadOnly())
+        return Done{};
     QSqlQuery query(m_database->connection());
     if (m_database->wasRestored()) {
         query.prepare("UPDATE counter SET restored = ?");
@@ -83,6 +85,8 @@ Result<> SqliteStore::begin(qint64 now)
 
 Result<> SqliteStore::commit(const Change &change)
 {
+    if (m_database->isReadOnly())
+        return Database::failure(QStringLiteral("cannot write the change"), QStringLiteral("the disk is read-only"));
     QSqlDatabase database = m_database->connection();
     if (!database.transaction())
         return Database::failure(QStringLiteral("cannot begin a change"), database.lastError().text());
@@ -162,6 +166,7 @@ QVariantMap SqliteStore::facts() const
 {
     QVariantMap facts{{"store_path", m_database->path()},
                       {"store_integrity", m_snapshots.integrity()},
+                      {"store_writable", !m_database->isReadOnly()},
                       {"store_restored", m_database->wasRestored()}};
     QSqlQuery query("SELECT restored FROM counter", m_database->connection());
     if (query.next() && !query.value(0).isNull())

@@ -32,7 +32,7 @@ public:
     virtual QList<AlarmEvent> events() const = 0;
     /** The highest cookie ever given. */
     virtual quint32 lastCookie() const = 0;
-    /** Entries from a moment on, in milliseconds, oldest first. */
+    /** Entries from a moment on, in milliseconds, oldest first; of very many the newest. */
     virtual QList<Wire::JournalEntry> journal(qint64 since) const = 0;
     /** Everything that was missed and is not forgotten yet, in the order in which it was due. */
     virtual QList<Miss> missed() const = 0;

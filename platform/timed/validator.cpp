@@ -4,6 +4,8 @@
 
 #include "platform/timedclient/wire.h"
 
+#include <algorithm>
+
 namespace Astel::Timed {
 
 namespace {
@@ -14,6 +16,7 @@ constexpr int MaximalButtons = 8;
 constexpr int MaximalButtonAttributes = 16;
 constexpr int LongestName = 128;
 constexpr int LongestValue = 4096;
+constexpr int LongestText = 32768;
 constexpr qint64 LatestTicker = 253402300799; // the end of the year 9999
 constexpr auto PluginAttribute = "PLUGIN";
 
@@ -25,6 +28,14 @@ Error invalid(const QString &text)
 Error limit(const QString &what, qsizetype size, int most)
 {
     return {Wire::LimitError, QStringLiteral("%1: %2, where at most %3 are taken").arg(what).arg(size).arg(most)};
+}
+
+qsizetype textSize(const Wire::Attributes &attributes)
+{
+    qsizetype result = 0;
+    for (auto it = attributes.begin(); it != attributes.end(); ++it)
+        result += it.key().size() + it.value().size();
+    return result;
 }
 
 Result<> validateAttributes(const Wire::Attributes &attributes, int most)
@@ -44,7 +55,9 @@ Result<> validateAttributes(const Wire::Attributes &attributes, int most)
 
 Result<> validatePlugin(const QString &name)
 {
-    if (name.contains('/') || name.contains('\\') || name.startsWith('.'))
+    const auto misplaced
+        = [](QChar character) { return character == '/' || character == '\\' || !character.isPrint(); };
+    if (name.startsWith('.') || std::any_of(name.begin(), name.end(), misplaced))
         return invalid(QStringLiteral("PLUGIN \"%1\" is not a bare name").arg(name));
     return Done{};
 }
@@ -100,8 +113,20 @@ Result<> validateRecurrences(const QList<Wire::Recurrence> &recurrences)
 
 } // namespace
 
+qsizetype textSize(const Wire::Event &event)
+{
+    qsizetype result = textSize(event.attributes);
+    for (const Wire::Button &button : event.buttons)
+        result += textSize(button.attributes);
+    return result;
+}
+
 Result<> validate(const Wire::Event &event)
 {
+    if (event.oversized)
+        return Error{Wire::LimitError, QStringLiteral("the event has many more parts than are taken")};
+    if (const qsizetype size = textSize(event); size > LongestText)
+        return limit(QStringLiteral("characters of all attributes"), size, LongestText);
     if (event.ticker < Wire::NoTicker || event.ticker > LatestTicker)
         return invalid(QStringLiteral("a ticker of %1 is neither -1, 0 nor a moment").arg(event.ticker));
     if (event.flags & ~quint32(Wire::AllFlags))
@@ -116,6 +141,27 @@ Result<> validate(const Wire::Event &event)
     if (result)
         result = validateButtons(event.buttons);
     return result;
+}
+
+Result<> validate(const Wire::Filter &filter)
+{
+    if (filter.oversized || filter.attributes.size() > MaximalAttributes)
+        return limit(QStringLiteral("attributes"), filter.attributes.size(), MaximalAttributes);
+    return Done{};
+}
+
+Result<> validateTone(const QString &tone)
+{
+    if (tone.size() > LongestValue)
+        return limit(QStringLiteral("characters of a tone"), tone.size(), LongestValue);
+    return Done{};
+}
+
+Result<> validateWho(const QString &by)
+{
+    if (by.size() > LongestName)
+        return limit(QStringLiteral("characters of who answered"), by.size(), LongestName);
+    return Done{};
 }
 
 } // namespace Astel::Timed

@@ -8,13 +8,22 @@ namespace Astel::Timed {
 
 namespace Wire {
 struct Event;
-}
+struct Filter;
+} // namespace Wire
 
 inline constexpr int MaximalEvents = 10000;
+/** How many characters all events together hold. */
+inline constexpr qsizetype MaximalText = 8388608;
 /** The longest snooze, in seconds. */
 inline constexpr int LongestSnooze = 7 * 86400;
 
-/** Checks an event that came over the bus against the ranges and limits of the interface's description. */
+/** How many characters the attributes of an event hold, those of its buttons included. */
+qsizetype textSize(const Wire::Event &event);
+
+/** Check what came over the bus against the ranges and limits of the interface's description. */
 Result<> validate(const Wire::Event &event);
+Result<> validate(const Wire::Filter &filter);
+Result<> validateTone(const QString &tone);
+Result<> validateWho(const QString &by);
 
 } // namespace Astel::Timed

@@ -47,7 +47,7 @@ QDBusPendingReply<bool> Interface::cancel(uint cookie)
 
 QDBusPendingReply<QVariantList> Interface::query(const QVariantMap &attributes)
 {
-    return m_proxy->query(attributes);
+    return m_proxy->query({attributes});
 }
 
 QDBusPendingReply<QVariantMap> Interface::query_attributes(uint cookie)

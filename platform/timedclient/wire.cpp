@@ -8,6 +8,77 @@
 
 namespace Astel::Timed::Wire {
 
+namespace {
+
+// Above every limit: what comes after so many elements is not read, so that a huge message is refused at once.
+constexpr int MostRead = 128;
+
+/** These read at most so many elements; false where there were more, or more within one of them. */
+template <typename Read>
+bool readSome(const QDBusArgument &argument, Read read)
+{
+    bool complete = true;
+    for (int count = 0; complete && count < MostRead && !argument.atEnd(); ++count)
+        complete = read();
+    return complete && argument.atEnd();
+}
+
+template <typename Value, typename Insert>
+bool readMap(const QDBusArgument &argument, Insert insert)
+{
+    argument.beginMap();
+    const bool complete = readSome(argument, [&] {
+        QString name;
+        Value value;
+        argument.beginMapEntry();
+        argument >> name >> value;
+        argument.endMapEntry();
+        insert(name, value);
+        return true;
+    });
+    argument.endMap();
+    return complete;
+}
+
+bool readAttributes(const QDBusArgument &argument, Attributes &attributes)
+{
+    attributes.clear();
+    return readMap<QString>(argument,
+                            [&](const QString &name, const QString &value) { attributes.insert(name, value); });
+}
+
+bool readRecurrences(const QDBusArgument &argument, QList<Recurrence> &recurrences)
+{
+    recurrences.clear();
+    argument.beginArray();
+    const bool complete = readSome(argument, [&] {
+        argument >> recurrences.emplaceBack();
+        return true;
+    });
+    argument.endArray();
+    return complete;
+}
+
+bool readButton(const QDBusArgument &argument, Button &button)
+{
+    argument.beginStructure();
+    argument >> button.snooze;
+    const bool complete = readAttributes(argument, button.attributes);
+    argument.endStructure();
+    return complete;
+}
+
+bool readButtons(const QDBusArgument &argument, QList<Button> &buttons)
+{
+    buttons.clear();
+    argument.beginArray();
+    const bool complete = readSome(argument, [&] { return readButton(argument, buttons.emplaceBack()); });
+    argument.endArray();
+    return complete;
+}
+
+} // namespace
+
 void registerTypes()
 {
     qDBusRegisterMetaType<Attributes>();
@@ -16,6 +87,7 @@ void registerTypes()
     qDBusRegisterMetaType<Button>();
     qDBusRegisterMetaType<QList<Button>>();
     qDBusRegisterMetaType<Event>();
+    qDBusRegisterMetaType<Filter>();
     qDBusRegisterMetaType<Trigger>();
     qDBusRegisterMetaType<QList<Trigger>>();
     qDBusRegisterMetaType<JournalEntry>();
@@ -51,9 +123,7 @@ QDBusArgument &operator<<(QDBusArgument &argument, const Button &button)
 
 const QDBusArgument &operator>>(const QDBusArgument &argument, Button &button)
 {
-    argument.beginStructure();
-    argument >> button.snooze >> button.attributes;
-    argument.endStructure();
+    readButton(argument, button);
     return argument;
 }
 
@@ -69,9 +139,25 @@ QDBusArgument &operator<<(QDBusArgument &argument, const Event &event)
 const QDBusArgument &operator>>(const QDBusArgument &argument, Event &event)
 {
     argument.beginStructure();
-    argument >> event.ticker >> event.flags >> event.timeoutSnooze >> event.maximalTimeoutSnoozeCounter
-        >> event.attributes >> event.recurrences >> event.buttons;
+    argument >> event.ticker >> event.flags >> event.timeoutSnooze >> event.maximalTimeoutSnoozeCounter;
+    event.oversized = !readAttributes(argument, event.attributes);
+    event.oversized |= !readRecurrences(argument, event.recurrences);
+    event.oversized |= !readButtons(argument, event.buttons);
     argument.endStructure();
+    return argument;
+}
+
+QDBusArgument &operator<<(QDBusArgument &argument, const Filter &filter)
+{
+    return argument << filter.attributes;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, Filter &filter)
+{
+    filter.attributes.clear();
+    filter.oversized = !readMap<QDBusVariant>(argument, [&](const QString &name, const QDBusVariant &value) {
+        filter.attributes.insert(name, value.variant());
+    });
     return argument;
 }
 

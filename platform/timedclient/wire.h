@@ -7,6 +7,7 @@
 #include <QMap>
 #include <QMetaType>
 #include <QString>
+#include <QVariantMap>
 
 /**
  * What travels between the daemon, its clients and the ringer: plain values, field by field as com.astel.timed.xml
@@ -79,8 +80,16 @@ struct Event
     Attributes attributes;
     QList<Recurrence> recurrences;
     QList<Button> buttons;
+    bool oversized = false; ///< larger than any limit allows, and read in part
 
     bool operator==(const Event &) const = default;
+};
+
+/** The attributes that an event must hold to be found. */
+struct Filter
+{
+    QVariantMap attributes;
+    bool oversized = false; ///< as in Event
 };
 
 struct Trigger
@@ -110,6 +119,8 @@ QDBusArgument &operator<<(QDBusArgument &argument, const Button &button);
 const QDBusArgument &operator>>(const QDBusArgument &argument, Button &button);
 QDBusArgument &operator<<(QDBusArgument &argument, const Event &event);
 const QDBusArgument &operator>>(const QDBusArgument &argument, Event &event);
+QDBusArgument &operator<<(QDBusArgument &argument, const Filter &filter);
+const QDBusArgument &operator>>(const QDBusArgument &argument, Filter &filter);
 QDBusArgument &operator<<(QDBusArgument &argument, const Trigger &trigger);
 const QDBusArgument &operator>>(const QDBusArgument &argument, Trigger &trigger);
 QDBusArgument &operator<<(QDBusArgument &argument, const JournalEntry &entry);
@@ -120,5 +131,6 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, JournalEntry &ent
 Q_DECLARE_METATYPE(Astel::Timed::Wire::Recurrence)
 Q_DECLARE_METATYPE(Astel::Timed::Wire::Button)
 Q_DECLARE_METATYPE(Astel::Timed::Wire::Event)
+Q_DECLARE_METATYPE(Astel::Timed::Wire::Filter)
 Q_DECLARE_METATYPE(Astel::Timed::Wire::Trigger)
 Q_DECLARE_METATYPE(Astel::Timed::Wire::JournalEntry)

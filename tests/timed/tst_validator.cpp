@@ -18,6 +18,8 @@ class tst_Validator : public QObject
 private slots:
     void eventIsTakenOrRefused_data();
     void eventIsTakenOrRefused();
+    void filterIsTakenOrRefused();
+    void textsOfAnswersAreLimited();
 };
 
 namespace {
@@ -27,6 +29,18 @@ Wire::Attributes attributes(int count)
     Wire::Attributes result;
     for (int i = 0; i < count; ++i)
         result.insert(QString::number(i), {});
+    return result;
+}
+
+/** Attributes with so many characters in all, none of them longer than allowed. */
+Wire::Attributes longText(int size)
+{
+    Wire::Attributes result;
+    for (char name = 'a'; size > 0; ++name) {
+        const int length = qMin(size - 1, 4096);
+        result.insert(QString(QChar::fromLatin1(name)), QString(length, 'v'));
+        size -= length + 1;
+    }
     return result;
 }
 
@@ -46,6 +60,18 @@ void attributeRows(const std::function<void(const char *, const char *, Edit)> &
     row("value of 4097", Wire::LimitError, [](auto &event) { event.attributes = {{"n", QString(4097, 'v')}}; });
     row("bare plug-in", "", [](auto &event) { event.attributes = {{"PLUGIN", "libclockalarm"}}; });
     row("plug-in with path", Wire::InvalidError, [](auto &event) { event.attributes = {{"PLUGIN", "a/b"}}; });
+    row("text of 32768 in all", "", [](auto &event) { event.attributes = longText(32768); });
+    row("text of 32769 in all", Wire::LimitError, [](auto &event) { event.attributes = longText(32769); });
+    row("text of 32769 with the buttons", Wire::LimitError, [](auto &event) {
+        event.attributes = longText(32767);
+        event.buttons = {{0, {{"n", "v"}}}};
+    });
+    row("read in part", Wire::LimitError, [](auto &event) { event.oversized = true; });
+    row("plug-in with backslash", Wire::InvalidError, [](auto &event) { event.attributes = {{"PLUGIN", "a\\b"}}; });
+    row("plug-in with line feed", Wire::InvalidError, [](auto &event) { event.attributes = {{"PLUGIN", "a\nb"}}; });
+    row("plug-in with NUL", Wire::InvalidError, [](auto &event) {
+        event.attributes = {{"PLUGIN", QString("a") + QChar(0)}};
+    });
     row("plug-in upwards", Wire::InvalidError, [](auto &event) { event.attributes = {{"PLUGIN", ".."}}; });
 }
 
@@ -108,6 +134,25 @@ void tst_Validator::eventIsTakenOrRefused()
     const auto result = validate(event);
     QCOMPARE(result ? QString() : result.error().name, error);
     QVERIFY(result || !result.error().text.isEmpty());
+}
+
+void tst_Validator::filterIsTakenOrRefused()
+{
+    Wire::Filter filter;
+    for (int i = 0; i < 64; ++i)
+        filter.attributes.insert(QString::number(i), i);
+    QVERIFY(validate(filter));
+    filter.attributes.insert("one more", 0);
+    QCOMPARE(validate(filter).error().name, Wire::LimitError);
+    QCOMPARE(validate(Wire::Filter{{}, true}).error().name, Wire::LimitError);
+}
+
+void tst_Validator::textsOfAnswersAreLimited()
+{
+    QVERIFY(validateTone(QString(4096, 't')));
+    QCOMPARE(validateTone(QString(4097, 't')).error().name, Wire::LimitError);
+    QVERIFY(validateWho(QString(128, 'w')));
+    QCOMPARE(validateWho(QString(129, 'w')).error().name, Wire::LimitError);
 }
 
 QTEST_GUILESS_MAIN(tst_Validator)
