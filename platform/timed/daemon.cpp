@@ -118,7 +118,7 @@ Result<> Daemon::start()
     if (!bus.registerService(Wire::Service))
         return Error{BusError, QStringLiteral("%1 is taken: another daemon is running").arg(Wire::Service)};
     parts.lifeCycle.start();
-    parts.missedTeller.tellAll();
+    parts.missedTeller.start();
     parts.boot.update();
     parts.publisher = std::make_unique<ContextPublisher>(Wire::TriggerProperty, triggerMap(parts.book.events()), bus);
     if (!parts.publisher->isPublished())

@@ -6,7 +6,6 @@
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 
 namespace Astel::Timed {
 
@@ -15,6 +14,8 @@ namespace {
 constexpr auto Service = "org.freedesktop.login1";
 constexpr auto Path = "/org/freedesktop/login1";
 constexpr auto Interface = "org.freedesktop.login1.Manager";
+// One that has just come may not be ready yet.
+constexpr int RetryInterval = 2000;
 
 } // namespace
 
@@ -22,6 +23,9 @@ Logind::Logind(const QDBusConnection &bus)
     : m_bus(bus)
     , m_presence(Service, bus)
 {
+    m_retry.setSingleShot(true);
+    m_retry.setInterval(RetryInterval);
+    connect(&m_retry, &QTimer::timeout, this, &Logind::ask);
     if (!m_bus.isConnected()) {
         qCInfo(lcTimed, "no system bus, sleep is neither delayed nor heard of");
         return;
@@ -64,23 +68,28 @@ void Logind::ask()
     auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
         call->deleteLater();
-        const QDBusPendingReply<QDBusUnixFileDescriptor> reply = *call;
-        if (m_delay != Delay::Asked)
-            return;
-        if (!reply.isValid()) {
-            qCWarning(lcTimed, "cannot delay sleep: %ls, ignoring", qUtf16Printable(reply.error().message()));
-            setDelay(m_wanted ? Delay::Refused : Delay::None);
-        } else if (m_wanted) {
-            setDelay(Delay::Held, reply.value());
-        } else {
-            setDelay(Delay::None);
-        }
+        if (m_delay == Delay::Asked)
+            answered(*call);
     });
+}
+
+void Logind::answered(const QDBusPendingReply<QDBusUnixFileDescriptor> &reply)
+{
+    if (!m_wanted) {
+        setDelay(Delay::None);
+    } else if (reply.isValid()) {
+        setDelay(Delay::Held, reply.value());
+    } else {
+        qCWarning(lcTimed, "cannot delay sleep: %ls", qUtf16Printable(reply.error().message()));
+        setDelay(Delay::Refused);
+        m_retry.start();
+    }
 }
 
 void Logind::setDelay(Delay delay, const QDBusUnixFileDescriptor &descriptor)
 {
     m_delay = delay;
+    m_retry.stop();
     // Closes the one before.
     m_descriptor = descriptor;
 }

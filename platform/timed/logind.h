@@ -6,7 +6,9 @@
 #include "platform/timed/sleepcontrol.h"
 
 #include <QDBusConnection>
+#include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
+#include <QTimer>
 
 namespace Astel::Timed {
 
@@ -32,10 +34,11 @@ private:
         None,
         Asked, ///< the answer is under way
         Held,
-        Refused, ///< asked for in vain; not again before the next one is needed
+        Refused, ///< asked for in vain
     };
 
     void ask();
+    void answered(const QDBusPendingReply<QDBusUnixFileDescriptor> &reply);
     void setDelay(Delay delay, const QDBusUnixFileDescriptor &descriptor = {});
 
     QDBusConnection m_bus;
@@ -43,6 +46,7 @@ private:
     bool m_wanted = false;
     Delay m_delay = Delay::None;
     QDBusUnixFileDescriptor m_descriptor;
+    QTimer m_retry;
 };
 
 } // namespace Astel::Timed

@@ -8,9 +8,15 @@
 #include "platform/timed/missednotice.h"
 #include "platform/timed/zonesource.h"
 
-#include <utility>
-
 namespace Astel::Timed {
+
+namespace {
+
+// One that has just come may not be ready yet.
+constexpr int RetryInterval = 2000;
+constexpr int MaximalRetries = 3;
+
+} // namespace
 
 MissedTeller::MissedTeller(const EventBook &book, LifeCycle &lifeCycle, Notifier &notifier, const ZoneSource &zone)
     : m_book(book)
@@ -18,14 +24,24 @@ MissedTeller::MissedTeller(const EventBook &book, LifeCycle &lifeCycle, Notifier
     , m_notifier(notifier)
     , m_zone(zone)
 {
-    connect(&lifeCycle, &LifeCycle::missed, this, &MissedTeller::tellEach);
-    connect(&notifier, &Notifier::appeared, this, &MissedTeller::tellAll);
-    connect(&notifier, &Notifier::chosen, this, &MissedTeller::ring);
+    m_retry.setSingleShot(true);
+    m_retry.setInterval(RetryInterval);
+    connect(&m_retry, &QTimer::timeout, this, &MissedTeller::tellAll);
+}
+
+void MissedTeller::start()
+{
+    tellAll();
+    connect(&m_lifeCycle, &LifeCycle::missed, this, &MissedTeller::tellEach);
+    connect(&m_notifier, &Notifier::chosen, this, &MissedTeller::ring);
+    connect(&m_notifier, &Notifier::appeared, this, [this] {
+        m_failures = 0;
+        tellAll();
+    });
 }
 
 void MissedTeller::tellAll()
 {
-    m_again = !m_underWay.empty();
     if (const QList<Miss> misses = waiting(); !misses.isEmpty())
         tell(misses);
 }
@@ -48,10 +64,11 @@ void MissedTeller::finish(const QList<Miss> &misses, bool shown)
 {
     for (const Miss &miss : misses)
         m_underWay.erase({miss.due, miss.cookie});
+    m_failures = shown ? 0 : m_failures + 1;
     if (shown)
         m_lifeCycle.tell(misses);
-    else if (std::exchange(m_again, false))
-        tellAll();
+    else if (m_notifier.isPresent() && m_failures <= MaximalRetries)
+        m_retry.start();
 }
 
 QList<Miss> MissedTeller::waiting() const

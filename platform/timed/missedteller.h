@@ -5,6 +5,7 @@
 #include "platform/timed/miss.h"
 
 #include <QObject>
+#include <QTimer>
 #include <set>
 
 namespace Astel::Timed {
@@ -16,7 +17,8 @@ class ZoneSource;
 
 /**
  * Tells the user what was missed: everything at once after the start, or when a notifier appears that was away; later
- * each miss for itself. What could not be shown stays untold in the book. Rings again what the user asks for.
+ * each miss for itself. What could not be shown stays untold in the book; a notifier that is there gets another chance
+ * or two. Rings again what the user asks for.
  */
 class MissedTeller : public QObject
 {
@@ -25,10 +27,11 @@ class MissedTeller : public QObject
 public:
     MissedTeller(const EventBook &book, LifeCycle &lifeCycle, Notifier &notifier, const ZoneSource &zone);
 
-    /** All that is untold, in one notice. */
-    void tellAll();
+    /** To be called once the life cycle has started. */
+    void start();
 
 private:
+    void tellAll();
     void tellEach();
     void tell(const QList<Miss> &misses);
     void finish(const QList<Miss> &misses, bool shown);
@@ -41,7 +44,8 @@ private:
     Notifier &m_notifier;
     const ZoneSource &m_zone;
     std::set<std::pair<qint64, quint32>> m_underWay;
-    bool m_again = false; ///< the notifier appeared while something was under way
+    int m_failures = 0; ///< since a notice was shown, or the notifier appeared
+    QTimer m_retry;
 };
 
 } // namespace Astel::Timed
