@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "alarmctl/argumentvalues.h"
 
+#include <QDateTime>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -110,4 +111,16 @@ Result<qint64> parseEpoch(const QString &text)
     if (!readNumber(text, -MaximalEpoch, MaximalEpoch, epoch))
         return wrongUsage(QStringLiteral("\"%1\" is not a moment in seconds since the epoch").arg(text));
     return epoch;
+}
+
+Result<qint64> parseMoment(const QString &text)
+{
+    for (const char *form : {"yyyy-MM-dd", "yyyy-MM-ddTHH:mm"}) {
+        const QDateTime moment = QDateTime::fromString(text, QLatin1String(form));
+        if (moment.isValid())
+            return moment.toSecsSinceEpoch();
+    }
+    if (const Result<qint64> epoch = parseEpoch(text))
+        return epoch;
+    return wrongUsage(QStringLiteral("\"%1\" is neither a date nor a moment in seconds since the epoch").arg(text));
 }

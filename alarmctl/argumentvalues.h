@@ -24,3 +24,5 @@ Result<quint32> parseCookie(const QString &text);
 Result<quint32> parseCount(const QString &text);
 /** Seconds since the epoch. */
 Result<qint64> parseEpoch(const QString &text);
+/** Seconds since the epoch, given so, or as a local date with or without a time: "2026-11-20", "2026-11-20T07:30". */
+Result<qint64> parseMoment(const QString &text);

@@ -10,6 +10,23 @@ const Option Json{"json", "", "print JSON instead of text"};
 const Option Help{"help", "", "show this help"};
 const Option Count{"count", "N", "how many, 1 to 1000; 1 unless given"};
 
+const auto HealthDetails = QStringLiteral(
+    "The first line is the answer. The others say what it rests on, each marked \"ok\", \"warning\" (the alarm is\n"
+    "heard, but not as it should be, or not always) or \"bad\" (it is not heard): the next alarm, whether the timer "
+    "is\n"
+    "armed for it and wakes the device, the sound output and its volume, the tone of that alarm, the ringer and its\n"
+    "screen, the storage; then how the last five rings ended. Makes no sound. JSON has the same as objects, and the\n"
+    "facts of daemon and ringer as they told them; its moments are in milliseconds since the epoch.\n"
+    "\n"
+    "Exit status: 0 all is well, or no alarm is set; 1 something would keep the next alarm from being heard;\n"
+    "2 wrong usage.\n");
+const auto JournalDetails = QStringLiteral(
+    "A line tells when an alarm was due, and with the seconds that had passed since: whether it woke the device, when\n"
+    "it was on the screen (\"rang\"), with what tone it was heard (\"sounded\"), and by what it was answered, or why "
+    "it\n"
+    "was missed. JSON has an object for each of these, oldest first, with its moment in milliseconds since the "
+    "epoch.\n");
+
 QList<Command> makeCommands()
 {
     const Option off{"off", "", "switched off"};
@@ -71,13 +88,22 @@ QList<Command> makeCommands()
          {Json},
          {"watch", "watch --json"},
          runWatch},
-        {"health", "", "Shows what the daemon tells about itself.", {Json}, {"health"}, runHealth},
+        {"health",
+         "",
+         "Tells whether the next alarm will ring, and what could be in its way.",
+         {Json},
+         {"health --json", "health"},
+         runHealth,
+         HealthDetails},
         {"journal",
          "",
-         "Shows what happened to the alarms: moment, cookie, what, details.",
-         {{"since", "EPOCH", "only later entries, in seconds since the epoch"}, Json},
-         {"journal --since 1774699200"},
-         runJournal},
+         "Shows what happened to the alarms, a line for each time one was due.",
+         {{"since", "MOMENT", "only what happened since: 2026-11-20, 2026-11-20T07:30, or seconds since the epoch"},
+          {"count", "N", "only the last so many, 1 to 1000"},
+          Json},
+         {"journal --since 2026-11-20", "journal --count 10"},
+         runJournal,
+         JournalDetails},
     };
 }
 
@@ -107,7 +133,10 @@ const QList<Command> &allCommands()
 
 QString helpFor(const Command &command)
 {
-    QString text = "Usage: " + usageOf(command) + "\n\n" + command.summary + "\n\nOptions:\n";
+    QString text = "Usage: " + usageOf(command) + "\n\n" + command.summary + "\n\n";
+    if (!command.details.isEmpty())
+        text += command.details + '\n';
+    text += "Options:\n";
     for (const Option &option : command.options)
         text += optionLine(option);
     text += optionLine(Help) + "\nExamples:\n";

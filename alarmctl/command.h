@@ -14,6 +14,7 @@ struct Command
     QList<Option> options;
     QStringList examples; ///< without the name of the program
     Result<> (*run)(const CommandLine &line);
+    QString details = {}; ///< what else is worth knowing, lines that end with a line break
 };
 
 const QList<Command> &allCommands();

@@ -45,3 +45,10 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments, const QList
     }
     return result;
 }
+
+Result<> CommandLine::withoutPositionals() const
+{
+    if (!m_positionals.isEmpty())
+        return wrongUsage(QStringLiteral("\"%1\" is one argument too many").arg(m_positionals.first()));
+    return Done();
+}

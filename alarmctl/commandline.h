@@ -24,6 +24,8 @@ public:
     bool has(const QString &option) const { return m_options.contains(option); }
     QString value(const QString &option) const { return m_options.value(option); }
     const QStringList &positionals() const { return m_positionals; }
+    /** A problem if there is a positional argument. */
+    Result<> withoutPositionals() const;
 
 private:
     QMap<QString, QString> m_options;

@@ -12,6 +12,8 @@ namespace {
 
 int report(const Problem &problem, const QString &hint)
 {
+    if (problem.text.isEmpty())
+        return int(problem.exit);
     QString text = "alarmctl: " + QString(problem.text).replace('\n', ' ') + '\n';
     if (problem.exit == Exit::WrongUsage)
         text += "Try \"" + hint + "\".\n";

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "alarmctl/output.h"
 
+#include "alarmctl/texts.h"
 #include "alarms/qmalarmevent.h"
 #include "alarms/utility.h"
 
@@ -105,6 +106,5 @@ void printAlarms(const QList<Clock::QmAlarmEvent> &alarms, bool json)
 
 QString momentText(quint64 nanoseconds)
 {
-    return QDateTime::fromMSecsSinceEpoch(qint64(nanoseconds / NanosecondsOfMillisecond))
-        .toString("yyyy-MM-dd HH:mm:ss");
+    return localMoment(qint64(nanoseconds / NanosecondsOfMillisecond));
 }

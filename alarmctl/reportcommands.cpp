@@ -12,16 +12,6 @@
 
 namespace {
 
-constexpr quint64 NanosecondsOfMillisecond = 1000000;
-constexpr qint64 MillisecondsOfSecond = 1000;
-
-Result<> withoutPositionals(const CommandLine &line)
-{
-    if (!line.positionals().isEmpty())
-        return wrongUsage(QStringLiteral("\"%1\" is one argument too many").arg(line.positionals().first()));
-    return Done();
-}
-
 void printTriggers(const QVariantMap &triggers, bool json)
 {
     QStringList texts;
@@ -37,7 +27,7 @@ void printTriggers(const QVariantMap &triggers, bool json)
 
 Result<> runList(const CommandLine &line)
 {
-    if (const Result<> plain = withoutPositionals(line); !plain)
+    if (const Result<> plain = line.withoutPositionals(); !plain)
         return plain;
     const Result<QList<Clock::QmAlarmEvent>> alarms = loadAlarms();
     if (!alarms)
@@ -48,7 +38,7 @@ Result<> runList(const CommandLine &line)
 
 Result<> runNext(const CommandLine &line)
 {
-    if (const Result<> plain = withoutPositionals(line); !plain)
+    if (const Result<> plain = line.withoutPositionals(); !plain)
         return plain;
     const Result<quint32> count = parseCount(line.has("count") ? line.value("count") : "1");
     if (!count)
@@ -69,7 +59,7 @@ Result<> runNext(const CommandLine &line)
 
 Result<> runWatch(const CommandLine &line)
 {
-    if (const Result<> plain = withoutPositionals(line); !plain)
+    if (const Result<> plain = line.withoutPositionals(); !plain)
         return plain;
     if (const Result<> reached = reachDaemon(); !reached)
         return reached;
@@ -83,49 +73,5 @@ Result<> runWatch(const CommandLine &line)
     });
     triggers.subscribe();
     QCoreApplication::exec();
-    return Done();
-}
-
-Result<> runHealth(const CommandLine &line)
-{
-    if (const Result<> plain = withoutPositionals(line); !plain)
-        return plain;
-    const Result<QVariantMap> facts = answerOf(Astel::Timed::Interface().health());
-    if (!facts)
-        return facts.problem();
-    if (line.has("json")) {
-        printJson(QJsonObject::fromVariantMap(*facts));
-        return Done();
-    }
-    for (auto fact = facts->cbegin(); fact != facts->cend(); ++fact)
-        printLine(fact.key() + ": " + fact->toString());
-    return Done();
-}
-
-Result<> runJournal(const CommandLine &line)
-{
-    if (const Result<> plain = withoutPositionals(line); !plain)
-        return plain;
-    const Result<qint64> since = parseEpoch(line.has("since") ? line.value("since") : "0");
-    if (!since)
-        return since.problem();
-    const auto entries = answerOf(Astel::Timed::Interface().journal(*since * MillisecondsOfSecond));
-    if (!entries)
-        return entries.problem();
-    QJsonArray array;
-    for (const Astel::Timed::Wire::JournalEntry &entry : *entries) {
-        array.append(QJsonObject{{"moment", entry.moment},
-                                 {"cookie", qint64(entry.cookie)},
-                                 {"what", entry.what},
-                                 {"detail", entry.detail}});
-        if (!line.has("json"))
-            printLine(QStringLiteral("%1  %2  %3  %4")
-                          .arg(momentText(quint64(entry.moment) * NanosecondsOfMillisecond))
-                          .arg(entry.cookie, 5)
-                          .arg(entry.what, entry.detail)
-                          .trimmed());
-    }
-    if (line.has("json"))
-        printJson(array);
     return Done();
 }

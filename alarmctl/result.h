@@ -9,7 +9,7 @@
 /** How the program ends. */
 enum class Exit { Done = 0, Failed = 1, WrongUsage = 2 };
 
-/** Why something was not done; the text is one line for the user. */
+/** Why something was not done; the text is one line for the user, empty where the output has told it. */
 struct Problem
 {
     Exit exit = Exit::Failed;

@@ -63,7 +63,8 @@ private slots:
     void removesSeveral();
     void touchesNothingIfOneAlarmIsUnknown();
     void showsWhatIsNext();
-    void showsHealthAndJournal();
+    void healthMissesTheRinger();
+    void healthOfNoAlarmIsGood();
     void keepsAnAlarmWhenTheDaemonIsKilled();
 
 private:
@@ -301,16 +302,29 @@ void AlarmCommandsTest::showsWhatIsNext()
     QCOMPARE(lines.first().simplified(), QString("%1 %2").arg(cookie).arg(moment));
 }
 
-void AlarmCommandsTest::showsHealthAndJournal()
+void AlarmCommandsTest::healthMissesTheRinger()
 {
-    QVERIFY(add("07:30") > 0);
-    const Run health = alarmctl("health --json");
+    QVERIFY(add("07:30 --title Work") > 0);
+    const Run health = alarmctl("health");
+    QCOMPARE(health.exitCode, 1);
+    QCOMPARE(health.errors, "");
+    QVERIFY2(health.output.startsWith("No, the next alarm would not be heard: ringer: does not start: "),
+             qPrintable(health.output));
+    QVERIFY(health.output.contains("\nok       next alarm: \"Work\" ("));
+    QVERIFY(health.output.contains("\nok       armed: for 20"));
+    QVERIFY(health.output.contains("\nok       storage: sound\n"));
+    const Run json = alarmctl("health --json");
+    QCOMPARE(json.exitCode, 1);
+    QCOMPARE(json.json()["daemon"]["events"].toInt(), 1);
+    QCOMPARE(json.json()["next"]["title"].toString(), "Work");
+    QVERIFY(json.json()["ringer"].isNull());
+}
+
+void AlarmCommandsTest::healthOfNoAlarmIsGood()
+{
+    const Run health = alarmctl("health");
     QCOMPARE(health.exitCode, 0);
-    QCOMPARE(health.json().object()["events"].toInt(), 1);
-    QVERIFY(alarmctl("health").lines().contains("events: 1"));
-    const Run journal = alarmctl("journal --since 0 --json");
-    QCOMPARE(journal.exitCode, 0);
-    QVERIFY(journal.json().isArray());
+    QCOMPARE(health.lines().first(), "No alarm is set.");
 }
 
 void AlarmCommandsTest::keepsAnAlarmWhenTheDaemonIsKilled()

@@ -28,6 +28,8 @@ private slots:
     void saysInOneLineThatTheBusIsMissing();
     void saysInOneLineThatTheDaemonIsMissing_data();
     void saysInOneLineThatTheDaemonIsMissing();
+    void healthSaysThatTheDaemonIsMissing_data();
+    void healthSaysThatTheDaemonIsMissing();
     void showsTheTraceOnlyWhenAsked();
 
 private:
@@ -116,6 +118,11 @@ void UsageTest::refusesNonsenseWithAHintAndChangesNothing_data()
     row("next --count 0", "\"0\"", "next ");
     row("next --count -3", "\"-3\"", "next ");
     row("watch x", "\"x\"", "watch ");
+    row("health now", "\"now\"", "health ");
+    row("journal x", "\"x\"", "journal ");
+    row("journal --count 0", "\"0\"", "journal ");
+    row("journal --since yesterday", "\"yesterday\"", "journal ");
+    row("journal --since 2026-02-30", "\"2026-02-30\"", "journal ");
 }
 
 void UsageTest::refusesNonsenseWithAHintAndChangesNothing()
@@ -147,8 +154,7 @@ void UsageTest::saysInOneLineThatTheBusIsMissing_data()
 {
     QTest::addColumn<QByteArray>("arguments");
 
-    for (const char *arguments :
-         {"list", "add 07:00", "edit 1 --off", "on 1", "remove 1", "next", "watch", "health", "journal"})
+    for (const char *arguments : {"list", "add 07:00", "edit 1 --off", "on 1", "remove 1", "next", "watch", "journal"})
         QTest::newRow(arguments) << QByteArray(arguments);
 }
 
@@ -176,6 +182,30 @@ void UsageTest::saysInOneLineThatTheDaemonIsMissing()
     QCOMPARE(run.output, "");
     QCOMPARE(run.errorLines().size(), 1);
     QVERIFY2(run.errors.contains("com.astel.timed"), qPrintable(run.errors));
+}
+
+void UsageTest::healthSaysThatTheDaemonIsMissing_data()
+{
+    QTest::addColumn<bool>("hasBus");
+
+    QTest::newRow("no bus") << false;
+    QTest::newRow("no daemon on it") << true;
+}
+
+void UsageTest::healthSaysThatTheDaemonIsMissing()
+{
+    QFETCH(const bool, hasBus);
+    const Support::PrivateBus empty;
+    const QString address = hasBus ? qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS") : "unix:path=/nowhere";
+    const QStringList environment{"DBUS_SESSION_BUS_ADDRESS=" + address};
+    const Run run = alarmctl({"health"}, environment);
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.errors, "");
+    QVERIFY2(run.output.startsWith("No, no alarm will ring: alarm daemon: does not answer: "), qPrintable(run.output));
+    const Run json = alarmctl({"health", "--json"}, environment);
+    QCOMPARE(json.exitCode, 1);
+    QCOMPARE(json.json()["verdict"]["mark"].toString(), "bad");
+    QVERIFY(json.json()["daemon"].isNull());
 }
 
 void UsageTest::showsTheTraceOnlyWhenAsked()

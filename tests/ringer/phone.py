@@ -5,14 +5,18 @@ import array
 import collections
 import os
 import pathlib
+import shutil
 import signal
 import subprocess
 import threading
 import time
 
+import dbus
 import dbus.bus
 
 SILENCE = 0.002  # of full scale
+
+SINGLE_SHOT, KEEP_ALIVE, ALARM, REMINDER = 1, 2, 8, 32  # flags of events
 
 
 def wait_for(condition, seconds, what):
@@ -82,9 +86,9 @@ class Recorder:
 
 
 class Phone:
-    """Starts everything, with alarms of its own in a folder; close() ends it."""
+    """Starts everything, with alarms of its own in a folder; close() ends it. Parts can be left out."""
 
-    def __init__(self, build, home, theme="dark", display=True):
+    def __init__(self, build, home, theme="dark", display=True, sound=True, ringer=True):
         self.build = pathlib.Path(build).resolve()
         socket = pathlib.Path(home) / "sound"
         self.environment = dict(
@@ -95,8 +99,18 @@ class Phone:
         self._processes = []
         if display:
             self._start_display()
-        self._start_sound(socket)
+        self.sound = None
+        if sound:
+            self._start_sound(socket)
+        if not ringer:
+            self._leave_out_ringer(pathlib.Path(home))
         self._start_bus()
+
+    def _leave_out_ringer(self, home):
+        services = home / "share" / "dbus-1" / "services"
+        services.mkdir(parents=True)
+        shutil.copy(self.build / "share" / "dbus-1" / "services" / "com.astel.timed.service", services)
+        self.environment["XDG_DATA_DIRS"] = f"{home}/share:/usr/share"
 
     def _start(self, command, **options):
         process = subprocess.Popen(command, env=self.environment, **options)
@@ -132,9 +146,27 @@ class Phone:
     def alarmctl(self, *arguments):
         return self.run(str(self.build / "bin" / "alarmctl"), *arguments)
 
+    def alarmctl_status(self, *arguments):
+        """What it prints, and its exit code."""
+        done = subprocess.run([str(self.build / "bin" / "alarmctl"), *arguments], env=self.environment, check=False,
+                              capture_output=True, text=True)
+        return done.stdout, done.returncode
+
     def timed(self, method, *arguments):
         timed = self.bus.get_object("com.astel.timed", "/com/astel/timed", introspect=False)
         return timed.get_dbus_method(method, "com.astel.timed")(*arguments)
+
+    def add_event(self, title, due, snooze=600, **attributes):
+        """An event straight on the bus, due at a second, whose button snoozes so many seconds."""
+        event = dbus.Struct(
+            (dbus.Int64(due), dbus.UInt32(SINGLE_SHOT | KEEP_ALIVE | ALARM | REMINDER), dbus.Int32(snooze),
+             dbus.UInt32(3),
+             dbus.Dictionary({"APPLICATION": "test", "TITLE": title, "PLUGIN": "libclockalarm", **attributes},
+                             signature="ss"),
+             dbus.Array([], signature="(utuuub)"),
+             dbus.Array([(dbus.Int32(snooze), dbus.Dictionary({}, signature="ss"))], signature="(ia{ss})")),
+            signature="xuiua{ss}a(utuuub)a(ia{ss})")
+        return int(self.timed("add_event", event))
 
     def triggers(self):
         """The context property Alarm.Trigger: cookie to nanoseconds."""
@@ -178,7 +210,8 @@ class Phone:
             self.kill("com.astel.timed")
             self.kill("com.astel.ringer")
             self.bus.close()
-        self.sound.close()
+        if self.sound:
+            self.sound.close()
         for process in reversed(self._processes):
             self._end(process)
 

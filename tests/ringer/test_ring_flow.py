@@ -20,8 +20,6 @@ import phone
 
 BUILD = sys.argv.pop(1)
 
-SINGLE_SHOT, KEEP_ALIVE, ALARM, REMINDER = 1, 2, 8, 32
-
 # Where the buttons of the ring screen are on a display of 480 × 854.
 SNOOZE = (240, 610)
 STOP = (240, 778)
@@ -36,18 +34,6 @@ class RingFlow(unittest.TestCase):
     def start(self, **how):
         self.phone = phone.Phone(BUILD, self.home, **how)
         self.addCleanup(self.phone.close)
-
-    def add_event(self, title, due, snooze=600, **attributes):
-        """An event straight on the bus, due at a second, whose button snoozes so many seconds."""
-        event = dbus.Struct(
-            (dbus.Int64(due), dbus.UInt32(SINGLE_SHOT | KEEP_ALIVE | ALARM | REMINDER), dbus.Int32(snooze),
-             dbus.UInt32(3),
-             dbus.Dictionary({"APPLICATION": "test", "TITLE": title, "PLUGIN": "libclockalarm", **attributes},
-                             signature="ss"),
-             dbus.Array([], signature="(utuuub)"),
-             dbus.Array([(dbus.Int32(snooze), dbus.Dictionary({}, signature="ss"))], signature="(ia{ss})")),
-            signature="xuiua{ss}a(utuuub)a(ia{ss})")
-        return int(self.phone.timed("add_event", event))
 
     def state(self, cookie):
         return str(self.phone.timed("query_attributes", dbus.UInt32(cookie)).get("STATE", ""))
@@ -104,7 +90,7 @@ class RingFlow(unittest.TestCase):
     def test_a_snoozed_alarm_rings_again_and_stop_ends_it(self):
         self.start()
         due = int(time.time()) + 2
-        cookie = self.add_event("Tea", due, snooze=3)
+        cookie = self.phone.add_event("Tea", due, snooze=3)
         self.wait_for_ring(due, 10)
         self.phone.press(*SNOOZE)
         self.wait_for_state(cookie, "SNOOZED")
@@ -123,8 +109,8 @@ class RingFlow(unittest.TestCase):
     def test_two_alarms_are_answered_one_by_one(self):
         self.start(theme="light")
         due = int(time.time()) + 2
-        first = self.add_event("Wake up", due)
-        second = self.add_event("Take the pills", due)
+        first = self.phone.add_event("Wake up", due)
+        second = self.phone.add_event("Take the pills", due)
         self.wait_for_ring(due, 10)
         self.wait_for_state(second, "TRIGGERED")
         phone.wait_for(lambda: ("rang" in dict(self.journal(second))), 5, "the second alarm is seen as well")
@@ -141,7 +127,7 @@ class RingFlow(unittest.TestCase):
     def test_a_ringer_that_is_killed_rings_again(self):
         self.start()
         due = int(time.time()) + 2
-        cookie = self.add_event("Wake up", due)
+        cookie = self.phone.add_event("Wake up", due)
         self.wait_for_ring(due, 10)
         self.phone.kill("com.astel.ringer")
         phone.wait_for(lambda: self.phone.bus.name_has_owner("com.astel.ringer"), 5, "another ringer")
@@ -157,7 +143,7 @@ class RingFlow(unittest.TestCase):
             out.setparams((1, 2, 8000, 0, "NONE", "not compressed"))
             out.writeframes(bytes(2 * 8000 * 10))
         due = int(time.time()) + 2
-        cookie = self.add_event("Tea", due, sound=str(silent))
+        cookie = self.phone.add_event("Tea", due, sound=str(silent))
         # The two seconds of the tone, and the start of the ringer.
         self.assertLess(self.wait_for_ring(due, 10), 2.5)
         sounded = phone.wait_for(lambda: dict(self.journal(cookie)).get("sounded"), 5, "journal says what is heard")
@@ -166,7 +152,7 @@ class RingFlow(unittest.TestCase):
     def test_without_a_display_the_alarm_is_heard(self):
         self.start(display=False)
         due = int(time.time()) + 2
-        cookie = self.add_event("Wake up", due)
+        cookie = self.phone.add_event("Wake up", due)
         self.wait_for_sound(due, 10)
         self.phone.timed("dismiss", dbus.UInt32(cookie), "test")
         phone.wait_for(self.phone.sound.is_silent, 5, "silence")
@@ -174,7 +160,7 @@ class RingFlow(unittest.TestCase):
     def test_daemon_and_ringer_end_with_their_session(self):
         self.start()
         due = int(time.time()) + 2
-        cookie = self.add_event("Wake up", due)
+        cookie = self.phone.add_event("Wake up", due)
         self.wait_for_ring(due, 10)
         self.phone.press(*STOP)
         self.wait_for_state(cookie, "FINISHED")
