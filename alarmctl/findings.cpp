@@ -60,9 +60,33 @@ Finding waking(const QVariantMap &daemon)
     const auto wakes = daemon.constFind("timer_wakes");
     if (wakes == daemon.cend())
         return {Mark::Warning, subject, NotKnown};
-    if (wakes->toBool())
-        return {Mark::Good, subject, "yes"};
-    return {Mark::Warning, subject, "no, " + textIn(daemon, "timer_reason")};
+    if (!wakes->toBool())
+        return {Mark::Warning, subject, "no, " + textIn(daemon, "timer_reason")};
+    if (textIn(daemon, "sleep_delay") == "refused")
+        return {Mark::Warning, subject, "yes, but the login manager refuses to delay sleep while an alarm is set"};
+    return {Mark::Good, subject, "yes"};
+}
+
+Finding booting(const QVariantMap &daemon, qint64 moment)
+{
+    const QString subject = "wakes from off";
+    if (!daemon.contains("boot_ready"))
+        return {Mark::Warning, subject, NotKnown};
+    const auto boot = momentIn(daemon, "boot_moment");
+    if (!boot || *boot > moment)
+        return {Mark::Warning, subject, "no, this alarm does not ask for it"};
+    if (!daemon.value("boot_ready").toBool())
+        return {Mark::Warning, subject, "no, " + textIn(daemon, "boot_reason")};
+    return {Mark::Good, subject, "yes"};
+}
+
+Finding misses(const QVariantMap &daemon)
+{
+    const QString subject = "missed alarms";
+    const uint untold = daemon.value("missed_untold").toUInt();
+    if (untold > 0)
+        return {Mark::Warning, subject, QStringLiteral("%1 that you have not been told of").arg(untold)};
+    return {Mark::Good, subject, daemon.contains("missed_untold") ? QStringLiteral("none untold") : NotKnown};
 }
 
 Finding storage(const QVariantMap &daemon)
@@ -74,6 +98,8 @@ Finding storage(const QVariantMap &daemon)
         return {Mark::Bad, StorageSubject, "damaged: " + integrity};
     if (daemon.value("store_restored").toBool())
         return {Mark::Warning, StorageSubject, "sound, but was damaged and has been restored from a snapshot"};
+    if (!daemon.value("store_writable", true).toBool())
+        return {Mark::Warning, StorageSubject, "sound, but read-only: no change is taken"};
     return {Mark::Good, StorageSubject, "sound"};
 }
 
@@ -156,12 +182,16 @@ QList<Finding> findingsOf(const HealthFacts &facts)
         if (facts.next)
             findings.append(arming(*facts.daemon, facts.next->moment));
         findings.append(waking(*facts.daemon));
+        if (facts.next)
+            findings.append(booting(*facts.daemon, facts.next->moment));
     } else {
         findings.append({Mark::Bad, DaemonSubject, "does not answer: " + facts.daemonProblem});
     }
     addRinger(facts, findings);
-    if (facts.daemon)
+    if (facts.daemon) {
         findings.append(storage(*facts.daemon));
+        findings.append(misses(*facts.daemon));
+    }
     return findings;
 }
 

@@ -63,6 +63,8 @@ class HealthFlow(unittest.TestCase):
         self.assertEqual(findings["ringer"], ("ok", "installed"))
         self.assertEqual(findings["ring screen"], ("ok", "libclockalarm"))
         self.assertEqual(findings["storage"], ("ok", "sound"))
+        self.assertEqual(findings["missed alarms"], ("ok", "none untold"))
+        self.assertEqual(findings["wakes from off"], ("warning", "no, this alarm does not ask for it"))
         self.assertIsNone(self.phone.sound.heard_since(0), "a check is not heard")
 
     def test_the_sound_output_is_judged(self):

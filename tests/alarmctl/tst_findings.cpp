@@ -30,6 +30,11 @@ HealthFacts healthy()
                                {"armed_moment", nanoseconds(Due)},
                                {"timer_wakes", true},
                                {"timer_reason", ""},
+                               {"sleep_delay", "asked"},
+                               {"boot_moment", nanoseconds(Due)},
+                               {"boot_ready", true},
+                               {"missed_untold", 0u},
+                               {"store_writable", true},
                                {"store_integrity", "ok"},
                                {"store_restored", false}};
     facts.next = NextAlarm{12, Due, "Work", "/tones/own.aac", "libclockalarm"};
@@ -134,6 +139,29 @@ void FindingsTest::eachFactIsJudged_data()
     row(
         "waking unknown", [](HealthFacts &facts) { facts.daemon->remove("timer_wakes"); }, "wakes from sleep",
         Mark::Warning, "not known");
+    row("sleep is not delayed", daemonSays("sleep_delay", "refused"), "wakes from sleep", Mark::Warning, "yes, but ");
+    row(
+        "stays off",
+        [](HealthFacts &facts) {
+            facts.daemon->insert("boot_ready", false);
+            facts.daemon->insert("boot_reason", "no RTC");
+        },
+        "wakes from off", Mark::Warning, "no, no RTC");
+    row(
+        "turned on for no alarm", [](HealthFacts &facts) { facts.daemon->remove("boot_moment"); }, "wakes from off",
+        Mark::Warning, "no, this alarm does not ask for it");
+    row("turned on for a later one", daemonSays("boot_moment", nanoseconds(Due + 60'000)), "wakes from off",
+        Mark::Warning, "no, this alarm does not ask for it");
+    row("turned on before", daemonSays("boot_moment", nanoseconds(Due - 60'000)), "wakes from off", Mark::Good, "yes");
+    row(
+        "booting unknown", [](HealthFacts &facts) { facts.daemon->remove("boot_ready"); }, "wakes from off",
+        Mark::Warning, "not known");
+    row("missed and untold", daemonSays("missed_untold", 2u), "missed alarms", Mark::Warning,
+        "2 that you have not been told of");
+    row(
+        "misses unknown", [](HealthFacts &facts) { facts.daemon->remove("missed_untold"); }, "missed alarms",
+        Mark::Good, "not known");
+    row("read-only store", daemonSays("store_writable", false), "storage", Mark::Warning, "sound, but read-only");
     row("damaged store", daemonSays("store_integrity", "page 3 is torn"), "storage", Mark::Bad,
         "damaged: page 3 is torn");
     row("restored store", daemonSays("store_restored", true), "storage", Mark::Warning, "restored");
