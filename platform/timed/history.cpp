@@ -42,7 +42,7 @@ History::History(const QSqlDatabase &database)
     , m_journal(prepared(database,
                          "SELECT * FROM (SELECT moment, cookie, what, detail, rowid FROM journal WHERE moment >= ?"
                          " ORDER BY moment DESC, rowid DESC LIMIT ?) ORDER BY moment, rowid"))
-    , m_missed(prepared(database, "SELECT cookie, due, noticed, reason, told, event FROM missed"))
+    , m_missed(prepared(database, "SELECT cookie, due, noticed, reason, told, event FROM missed ORDER BY due, cookie"))
     , m_last(prepared(database, "SELECT max(moment) FROM journal"))
     , m_dropEntries(prepared(database, "DELETE FROM journal WHERE moment < ?"))
     , m_dropMisses(prepared(database, "DELETE FROM missed WHERE told AND noticed < ?"))

@@ -3,12 +3,15 @@
 #pragma once
 
 #include "platform/timed/clock.h"
+#include "platform/timed/notifier.h"
 #include "platform/timed/ringer.h"
+#include "platform/timed/sleepcontrol.h"
 #include "platform/timed/store.h"
 #include "platform/timed/waketimer.h"
 #include "platform/timed/zonesource.h"
 
 #include <map>
+#include <utility>
 
 class FakeClock final : public Astel::Timed::Clock
 {
@@ -86,4 +89,48 @@ public:
 
 private:
     const FakeStore &m_store;
+};
+
+/** Notes whether sleep is delayed, every time that changes. */
+class FakeSleep final : public Astel::Timed::SleepControl
+{
+    Q_OBJECT
+
+public:
+    void delaySleep(bool delayed) override
+    {
+        if (delays.value(delays.size() - 1, false) != delayed)
+            delays.append(delayed);
+    }
+    QVariantMap facts() const override { return {}; }
+
+    QList<bool> delays;
+};
+
+/** Keeps the notices; the test says whether they were shown. */
+class FakeNotifier final : public Astel::Timed::Notifier
+{
+    Q_OBJECT
+
+public:
+    void show(const Astel::Timed::Notice &notice, const std::function<void(bool)> &done) override
+    {
+        notices.append(notice);
+        m_pending.append(done);
+    }
+    bool isPresent() const override { return present; }
+
+    /** Answers everything that is not answered yet. */
+    void answer(bool shown)
+    {
+        const auto pending = std::exchange(m_pending, {});
+        for (const auto &done : pending)
+            done(shown);
+    }
+
+    QList<Astel::Timed::Notice> notices;
+    bool present = true;
+
+private:
+    QList<std::function<void(bool)>> m_pending;
 };

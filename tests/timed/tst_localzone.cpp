@@ -21,6 +21,9 @@ private slots:
     void replacedLinkIsFollowed();
     void unknownZoneKeepsTheOneBefore();
     void environmentWins();
+    void toldZoneNamesACopy();
+    void linkWinsOverTheToldZone();
+    void copyThatIsWrittenOverIsReadAgain();
 
 private:
     QString path() const { return m_folder->filePath("localtime"); }
@@ -74,6 +77,43 @@ void tst_LocalZone::environmentWins()
     qputenv("TZ", "Australia/Lord_Howe");
     const LocalZone zone(path());
     QCOMPARE(zone.zone().id(), "Australia/Lord_Howe");
+}
+
+void tst_LocalZone::toldZoneNamesACopy()
+{
+    QVERIFY(QFile::remove(path()));
+    QVERIFY(QFile::copy("/usr/share/zoneinfo/Asia/Tokyo", path()));
+    LocalZone zone(path());
+    const QSignalSpy changed(&zone, &ZoneSource::changed);
+    zone.told("Asia/Tokyo");
+    QCOMPARE(zone.zone().id(), "Asia/Tokyo");
+    zone.told("Asia/Tokyo");
+    QCOMPARE(changed.size(), 1);
+}
+
+void tst_LocalZone::linkWinsOverTheToldZone()
+{
+    LocalZone zone(path());
+    zone.told("Asia/Tokyo");
+    QCOMPARE(zone.zone().id(), "Asia/Kathmandu");
+    zone.told({});
+    QCOMPARE(zone.zone().id(), "Asia/Kathmandu");
+}
+
+void tst_LocalZone::copyThatIsWrittenOverIsReadAgain()
+{
+    QVERIFY(QFile::remove(path()));
+    QVERIFY(QFile::copy("/usr/share/zoneinfo/Asia/Tokyo", path()));
+    LocalZone zone(path());
+    const Support::LogCapture log;
+    // A name that is unknown is logged each time that the zone is read.
+    zone.told("Atlantis/Capital");
+    QCOMPARE(log.lines(QtWarningMsg).size(), 1);
+    QFile file(path());
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.write("TZif") > 0);
+    file.close();
+    QTRY_VERIFY(log.lines(QtWarningMsg).size() > 1);
 }
 
 QTEST_GUILESS_MAIN(tst_LocalZone)
