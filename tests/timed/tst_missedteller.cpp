@@ -198,9 +198,11 @@ void tst_MissedTeller::ringNowRingsOnceMore()
     const quint32 cookie = world.add(titled("One", 0, flags));
     world.restart(Seven + Hour);
     FakeNotifier notifier;
-    MissedTeller teller(world.parts->book, world.parts->life, notifier, world.zone);
-    teller.start();
-    notifier.answer(true);
+    {
+        MissedTeller teller(world.parts->book, world.parts->life, notifier, world.zone);
+        teller.start();
+        notifier.answer(true);
+    }
     // The notice outlives the daemon that showed it.
     world.restart(Seven + 2 * Hour);
     MissedTeller next(world.parts->book, world.parts->life, notifier, world.zone);

@@ -86,7 +86,10 @@ class DaemonCase(dbusmock.DBusTestCase):
         self.daemon = subprocess.Popen([TIMED], env=self.environment)
         wait_for(lambda: self.bus.name_has_owner(SERVICE), "the daemon on the bus", 20)
         self.timed = dbus.Interface(self.bus.get_object(SERVICE, PATH), SERVICE)
-        self.timed.connect_to_signal("settings_changed", lambda info, time: self.settings.append((str(info[0]), bool(time))))
+        self.timed.connect_to_signal("settings_changed", self.note_settings)
+
+    def note_settings(self, info, time_changed):
+        self.settings.append((str(info[0]), bool(time_changed)))
 
     def stop_daemon(self):
         if self.daemon:
@@ -97,9 +100,9 @@ class DaemonCase(dbusmock.DBusTestCase):
 
     def add(self, ticker, flags=SINGLE_SHOT | KEEP_ALIVE, title="", recurrences=()):
         attributes = dbus.Dictionary({"TITLE": title} if title else {}, signature="ss")
-        return int(self.timed.add_event((dbus.Int64(ticker), dbus.UInt32(flags), dbus.Int32(0), dbus.UInt32(0), attributes,
-                                         dbus.Array(recurrences, signature="(utuuub)"),
-                                         dbus.Array([], signature="(ia{ss})"))))
+        event = (dbus.Int64(ticker), dbus.UInt32(flags), dbus.Int32(0), dbus.UInt32(0), attributes,
+                 dbus.Array(recurrences, signature="(utuuub)"), dbus.Array([], signature="(ia{ss})"))
+        return int(self.timed.add_event(event))
 
     def add_daily(self, hour, title=""):
         every = ((1 << 24) - 1, (1 << 60) - 1, (1 << 7) - 1, 0xfffffffe, 0x1ffe)

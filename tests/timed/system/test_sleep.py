@@ -5,7 +5,7 @@
 import time
 import unittest
 
-from daemoncase import DaemonCase, dbus, dbusmock, wait_for
+from daemoncase import DaemonCase, dbusmock, wait_for
 
 MANAGER = "org.freedesktop.login1.Manager"
 
