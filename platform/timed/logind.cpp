@@ -33,8 +33,12 @@ Logind::Logind(const QDBusConnection &bus)
     if (!m_bus.connect(Service, Path, Interface, "PrepareForSleep", this, SLOT(prepareForSleep(bool))))
         qCWarning(lcTimed, "cannot listen to the login manager, ignoring");
     connect(&m_presence, &BusPresence::appeared, this, [this] { delaySleep(m_wanted); });
-    // What it handed out is worth nothing any more.
-    connect(&m_presence, &BusPresence::vanished, this, [this] { setDelay(Delay::None); });
+    connect(&m_presence, &BusPresence::vanished, this, [this] {
+        // What it handed out is worth nothing any more, and nobody else tells the end of a sleep.
+        setDelay(Delay::None);
+        if (m_asleep)
+            prepareForSleep(false);
+    });
 }
 
 void Logind::delaySleep(bool delayed)
@@ -54,6 +58,7 @@ QVariantMap Logind::facts() const
 
 void Logind::prepareForSleep(bool begins)
 {
+    m_asleep = begins;
     if (begins)
         emit goesToSleep();
     else

@@ -44,6 +44,7 @@ private:
     QDBusConnection m_bus;
     BusPresence m_presence;
     bool m_wanted = false;
+    bool m_asleep = false;
     Delay m_delay = Delay::None;
     QDBusUnixFileDescriptor m_descriptor;
     QTimer m_retry;

@@ -45,6 +45,7 @@ private slots:
 
     void ringNowRingsOnceMore_data();
     void ringNowRingsOnceMore();
+    void ringNowOfADeletedAlarmBringsItBackForOnce();
     void ringNowServesNoMomentAhead();
     void ringNowNeedsAMissedOrStoredAlarmThatIsSilent();
 };
@@ -214,6 +215,18 @@ void tst_MissedTeller::ringNowRingsOnceMore()
     QCOMPARE(world.parts->book.find(cookie) != nullptr, after.has_value());
     if (after)
         QCOMPARE(world.state(cookie), *after);
+}
+
+void tst_MissedTeller::ringNowOfADeletedAlarmBringsItBackForOnce()
+{
+    World world(Start);
+    const quint32 cookie = world.add(daily(7, 0));
+    world.restart(Seven + Hour);
+    QVERIFY(*world.parts->service.cancel(cookie));
+    QVERIFY(world.parts->life.ringNow(cookie));
+    QCOMPARE(world.ringer.rung, QList<quint32>{cookie});
+    QVERIFY(world.parts->life.dismiss(cookie, "user"));
+    QVERIFY(!world.parts->book.find(cookie));
 }
 
 void tst_MissedTeller::ringNowServesNoMomentAhead()

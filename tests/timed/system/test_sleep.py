@@ -70,6 +70,15 @@ class Sleep(DaemonCase):
         self.assertEqual(self.settings, [("UTC", False)])
         self.assertEqual(self.words(0), ["resumed"])
 
+    def test_sleep_ends_with_the_login_manager(self):
+        self.start_with_logind()
+        self.prepare_for_sleep(True)
+        self.end_mock()
+        wait_for(lambda: self.settings, "the settings told")
+        cookie = self.add(int(time.time()))
+        wait_for(lambda: self.state(cookie) == "TRIGGERED", "ringing")
+        self.assertNotIn("woke", self.words(cookie))
+
     def test_alarm_that_woke_the_device_says_so(self):
         self.start_with_logind()
         cookie = self.add(int(time.time()) + 2)
