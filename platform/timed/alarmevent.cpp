@@ -63,6 +63,11 @@ void AlarmEvent::snoozeUnanswered(qint64 until, qint64 now)
     setState(State::Snoozed, until, now);
 }
 
+void AlarmEvent::moveSnooze(qint64 until, qint64 now)
+{
+    setState(State::Snoozed, until, now);
+}
+
 void AlarmEvent::finish(qint64 now)
 {
     setState(State::Finished, std::nullopt, now);

@@ -56,6 +56,8 @@ public:
     void snooze(qint64 until, qint64 now);
     /** As snooze(), but because nobody answered. */
     void snoozeUnanswered(qint64 until, qint64 now);
+    /** The snooze that goes on ends at another moment. */
+    void moveSnooze(qint64 until, qint64 now);
     void finish(qint64 now);
 
 private:

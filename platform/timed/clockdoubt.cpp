@@ -37,6 +37,8 @@ bool ClockDoubt::resolve(Change &change)
     // Their moments were computed by the wrong clock: nothing was missed.
     for (const quint32 cookie : m_touched) {
         const AlarmEvent *event = m_book.find(cookie);
+        if (event && event->state() == State::Snoozed)
+            m_transitions.restartSnooze(*event, change);
         if (!event || event->state() != State::Waiting || event->wire().recurrences.isEmpty())
             continue;
         change.put.append(*event);

@@ -188,10 +188,10 @@ void LifeCycle::recomputeAll(Cause cause)
     Change change;
     if (m_doubt.resolve(change))
         apply(change);
-    if (m_doubt)
-        followAll();
-    else
+    if (!m_doubt)
         reconcileAll(cause);
+    // Also what stands as it did: its moment may have been reached by a clock that was wrong.
+    followAll();
     m_schedule.rearm();
     emit changed();
     emit settingsChanged(cause == Cause::Clock);

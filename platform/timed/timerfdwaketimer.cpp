@@ -39,7 +39,12 @@ qint64 toMilliseconds(const timespec &time)
 } // namespace
 
 TimerFdWakeTimer::TimerFdWakeTimer()
-    : m_descriptor(timerfd_create(CLOCK_REALTIME_ALARM, TFD_CLOEXEC | TFD_NONBLOCK))
+    : TimerFdWakeTimer(timerfd_settime)
+{ }
+
+TimerFdWakeTimer::TimerFdWakeTimer(SetTime setTime)
+    : m_setTime(setTime)
+    , m_descriptor(timerfd_create(CLOCK_REALTIME_ALARM, TFD_CLOEXEC | TFD_NONBLOCK))
 {
     if (m_descriptor < 0) {
         m_reason = QStringLiteral("the process may not set wake-up timers: %1").arg(qt_error_string(errno));
@@ -62,13 +67,7 @@ TimerFdWakeTimer::~TimerFdWakeTimer()
 void TimerFdWakeTimer::arm(std::optional<qint64> moment)
 {
     m_wanted = moment;
-    itimerspec setting = {};
-    // Zero would disarm; any moment that has passed expires at once.
-    setting.it_value = toTimespec(std::max(moment.value_or(FarAway), Q_INT64_C(1)));
-    if (timerfd_settime(m_descriptor, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &setting, nullptr) != 0
-        && errno != ECANCELED)
-        qCCritical(lcTimed, "cannot arm the timer: %ls", qUtf16Printable(qt_error_string(errno)));
-
+    setTimer(moment.value_or(FarAway));
     timespec now = {};
     clock_gettime(CLOCK_REALTIME, &now);
     if (!moment || *moment <= toMilliseconds(now))
@@ -76,6 +75,21 @@ void TimerFdWakeTimer::arm(std::optional<qint64> moment)
     const auto armed = armedFor();
     if (!armed || std::abs(*armed - *moment) > ReadBackTolerance)
         qCWarning(lcTimed, "the timer is armed for %lld instead of %lld", armed.value_or(0), *moment);
+}
+
+void TimerFdWakeTimer::setTimer(qint64 moment)
+{
+    itimerspec setting = {};
+    // Zero would disarm; any moment that has passed expires at once.
+    setting.it_value = toTimespec(std::max(moment, Q_INT64_C(1)));
+    if (m_setTime(m_descriptor, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &setting, nullptr) == 0)
+        return;
+    // The timer is armed, but the clock was set since it was last, and the descriptor will not tell of it any more.
+    // Whoever arms it is amid a change of its own, and is told after it.
+    if (errno == ECANCELED)
+        QMetaObject::invokeMethod(this, &WakeTimer::clockSet, Qt::QueuedConnection);
+    else
+        qCCritical(lcTimed, "cannot arm the timer: %ls", qUtf16Printable(qt_error_string(errno)));
 }
 
 std::optional<qint64> TimerFdWakeTimer::armedFor() const

@@ -5,6 +5,7 @@
 #include "platform/timed/waketimer.h"
 
 class QSocketNotifier;
+struct itimerspec;
 
 namespace Astel::Timed {
 
@@ -17,7 +18,12 @@ class TimerFdWakeTimer final : public WakeTimer
     Q_OBJECT
 
 public:
+    /** The system's call that sets a timer. */
+    using SetTime = int (*)(int descriptor, int flags, const itimerspec *wanted, itimerspec *before);
+
     TimerFdWakeTimer();
+    /** With another call in place of the system's: no test can set the clock. */
+    explicit TimerFdWakeTimer(SetTime setTime);
     ~TimerFdWakeTimer() override;
 
     void arm(std::optional<qint64> moment) override;
@@ -27,8 +33,10 @@ public:
     QString reason() const override { return m_reason; }
 
 private:
+    void setTimer(qint64 moment);
     void readEvent();
 
+    const SetTime m_setTime;
     int m_descriptor = -1;
     QString m_reason;
     QSocketNotifier *m_notifier = nullptr;

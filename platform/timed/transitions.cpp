@@ -15,9 +15,9 @@ namespace {
 constexpr qint64 MillisecondsOfSecond = 1000;
 constexpr qint64 MillisecondsOfMinute = 60000;
 
-qint64 snoozeEnd(const AlarmEvent &event, qint64 from, qint64 seconds)
+qint64 snoozeEnd(const AlarmEvent &event, qint64 from, qint64 length)
 {
-    const qint64 end = from + seconds * MillisecondsOfSecond;
+    const qint64 end = from + length;
     if (!event.has(Wire::AlignedSnooze))
         return end;
     return (end + MillisecondsOfMinute - 1) / MillisecondsOfMinute * MillisecondsOfMinute;
@@ -81,17 +81,21 @@ void Transitions::reconcileRinging(AlarmEvent event, Cause cause, Change &change
     }
 }
 
-void Transitions::reconcileSnooze(AlarmEvent event, Cause cause, Change &change) const
+void Transitions::reconcileSnooze(const AlarmEvent &event, Cause cause, Change &change) const
 {
     const qint64 now = m_clock.now();
-    const qint64 length = *event.moment() - event.standing().since;
-    if (now < event.standing().since) {
-        // The clock went back behind the answer: the snooze keeps its length, not its moment.
-        event.snooze(now + length, now);
-        change.put.append(event);
-    } else if (lateness(*event.moment(), now) != Lateness::Ahead) {
+    // Where the clock went back behind the answer, the snooze keeps its length, not its moment.
+    if (now < event.standing().since)
+        restartSnooze(event, change);
+    else if (lateness(*event.moment(), now) != Lateness::Ahead)
         come(event, cause, change);
-    }
+}
+
+void Transitions::restartSnooze(AlarmEvent event, Change &change) const
+{
+    const qint64 now = m_clock.now();
+    event.moveSnooze(snoozeEnd(event, now, *event.moment() - event.standing().since), now);
+    change.put.append(event);
 }
 
 void Transitions::refresh(AlarmEvent event, Change &change) const
@@ -122,11 +126,19 @@ void Transitions::come(AlarmEvent event, Cause cause, Change &change) const
         passBy(event, cause, change);
         break;
     case Lateness::Absurd:
-        qCWarning(lcTimed, "the clock jumped far over the moment of alarm %u, which waits on", event.cookie());
-        event.wait(nextMoment(event), now);
-        change.put.append(event);
+        waitOn(event, change);
         break;
     }
+}
+
+void Transitions::waitOn(AlarmEvent event, Change &change) const
+{
+    qCWarning(lcTimed, "the clock jumped far over the moment of alarm %u, which waits on", event.cookie());
+    // An alarm that was answered rings for its snooze when the clock is right again, and for no other moment.
+    if (event.state() == State::Snoozed && event.has(Wire::SingleShot))
+        return;
+    event.wait(nextMoment(event), m_clock.now());
+    change.put.append(event);
 }
 
 void Transitions::passBy(const AlarmEvent &event, Cause cause, Change &change) const
@@ -144,7 +156,7 @@ void Transitions::endUnanswered(AlarmEvent event, qint64 end, Cause cause, Chang
         miss(event, MissReason::Unanswered, QStringLiteral("unanswered"), change);
         return;
     }
-    event.snoozeUnanswered(snoozeEnd(event, end, wire.timeoutSnooze), end);
+    event.snoozeUnanswered(snoozeEnd(event, end, wire.timeoutSnooze * MillisecondsOfSecond), end);
     change.journal.append(
         entry(event.cookie(), "answered", QStringLiteral("timeout, snooze of %1 s").arg(wire.timeoutSnooze)));
     // After a time without the daemon, the end of this snooze may have passed as well.
@@ -156,7 +168,7 @@ void Transitions::endUnanswered(AlarmEvent event, qint64 end, Cause cause, Chang
 
 qint64 Transitions::snooze(AlarmEvent event, qint64 length, const QString &by, Change &change) const
 {
-    const qint64 until = snoozeEnd(event, m_clock.now(), length);
+    const qint64 until = snoozeEnd(event, m_clock.now(), length * MillisecondsOfSecond);
     event.snooze(until, m_clock.now());
     change.put.append(event);
     change.journal.append(

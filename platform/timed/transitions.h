@@ -41,6 +41,9 @@ public:
     /** Answers the end of the snooze in milliseconds; "length" in seconds. */
     qint64 snooze(AlarmEvent event, qint64 length, const QString &by, Change &change) const;
 
+    /** Nobody answered anew: the snooze that goes on keeps its length from now on. */
+    void restartSnooze(AlarmEvent event, Change &change) const;
+
     /** The next moment of the rules of an event, strictly later than now. */
     std::optional<qint64> nextMoment(const AlarmEvent &event) const;
     qint64 ringEnd(const AlarmEvent &event) const { return event.standing().since + m_ringTime; }
@@ -48,8 +51,9 @@ public:
 
 private:
     void reconcileRinging(AlarmEvent event, Cause cause, Change &change) const;
-    void reconcileSnooze(AlarmEvent event, Cause cause, Change &change) const;
+    void reconcileSnooze(const AlarmEvent &event, Cause cause, Change &change) const;
     void refresh(AlarmEvent event, Change &change) const;
+    void waitOn(AlarmEvent event, Change &change) const;
     void passBy(const AlarmEvent &event, Cause cause, Change &change) const;
     void miss(const AlarmEvent &event, MissReason reason, const QString &why, Change &change) const;
 

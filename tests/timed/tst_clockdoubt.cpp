@@ -23,6 +23,7 @@ private slots:
     void nothingFalseRingsAndNothingIsLost_data();
     void nothingFalseRingsAndNothingIsLost();
     void snoozeWaitsForTheRightTime();
+    void snoozeOfADoubtedClockBeginsAgain();
     void eventOfADoubtedClockIsNotMissed();
     void alarmRingsByADoubtedClockThatStays();
     void smallCorrectionEndsNoDoubt();
@@ -78,6 +79,18 @@ void tst_ClockDoubt::snoozeWaitsForTheRightTime()
     QVERIFY(world.ringer.rung.isEmpty());
     world.setClock(Seven + 12 * Minute);
     QCOMPARE(world.ringer.rung, QList<quint32>{cookie});
+}
+
+void tst_ClockDoubt::snoozeOfADoubtedClockBeginsAgain()
+{
+    World world(BuildDate - 60 * Day);
+    const quint32 cookie = world.add(daily(7, 0, Wire::SingleShot | Wire::KeepAlive));
+    world.passTo(*world.moment(cookie));
+    QVERIFY(world.parts->life.snooze(cookie, 600, "user"));
+    world.setClock(Start);
+    QCOMPARE(world.state(cookie), State::Snoozed);
+    QCOMPARE(world.moment(cookie), std::optional(Start + 10 * Minute));
+    QVERIFY(world.store.misses.isEmpty());
 }
 
 void tst_ClockDoubt::eventOfADoubtedClockIsNotMissed()

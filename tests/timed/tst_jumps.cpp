@@ -33,6 +33,9 @@ private slots:
     void jumpJustBeforeAnAlarm();
     void jumpWhileSnoozed_data();
     void jumpWhileSnoozed();
+    void snoozeStaysAlignedWhenTheClockGoesBack();
+    void unansweredSnoozesAreCountedOnWhenTheClockGoesBack();
+    void jumpByYearsLeavesASnoozeAsItIs();
     void flightOverTheDateLine_data();
     void flightOverTheDateLine();
 };
@@ -115,6 +118,51 @@ void tst_Jumps::jumpWhileSnoozed()
     // What was missed is the alarm, not its snooze.
     for (const Miss &miss : world.store.misses)
         QCOMPARE(miss.due, Seven);
+}
+
+void tst_Jumps::snoozeStaysAlignedWhenTheClockGoesBack()
+{
+    World world(Seven - Hour);
+    const quint32 cookie = world.add(daily(7, 0, Wire::KeepAlive | Wire::AlignedSnooze));
+    world.passTo(Seven);
+    QVERIFY(world.parts->life.snooze(cookie, 600, "user"));
+    world.setClock(Seven - 2 * Day + 5 * Second);
+    QCOMPARE(world.moment(cookie), std::optional(Seven - 2 * Day + 11 * Minute));
+}
+
+void tst_Jumps::unansweredSnoozesAreCountedOnWhenTheClockGoesBack()
+{
+    World world(Seven - Hour);
+    Wire::Event event = daily(7, 0);
+    event.timeoutSnooze = 300;
+    event.maximalTimeoutSnoozeCounter = 1;
+    const quint32 cookie = world.add(event);
+    world.passTo(Seven + 2 * Minute);
+    QCOMPARE(world.state(cookie), State::Snoozed);
+    world.setClock(Seven - 2 * Day);
+    QCOMPARE(world.moment(cookie), std::optional(Seven - 2 * Day + 5 * Minute));
+    world.pass(7 * Minute);
+    QCOMPARE(world.state(cookie), State::Waiting);
+    QCOMPARE(world.store.words().last(), "missed");
+}
+
+void tst_Jumps::jumpByYearsLeavesASnoozeAsItIs()
+{
+    World world(Seven - Hour);
+    const quint32 cookie = world.add(daily(7, 0, Wire::SingleShot | Wire::KeepAlive));
+    world.passTo(Seven);
+    QVERIFY(world.parts->life.snooze(cookie, 600, "user"));
+    world.setClock(Seven + 20440 * Day);
+    QCOMPARE(world.state(cookie), State::Snoozed);
+    QCOMPARE(world.moment(cookie), std::optional(Seven + 10 * Minute));
+    world.pass(Minute);
+    world.setClock(Seven + Minute);
+    QCOMPARE(world.ringer.rung.size(), 1);
+    QCOMPARE(world.moment(cookie), std::optional(Seven + 10 * Minute));
+    world.passTo(Seven + 10 * Minute);
+    QCOMPARE(world.ringer.rung.size(), 2);
+    QVERIFY(world.parts->life.dismiss(cookie, "user"));
+    QCOMPARE(world.state(cookie), State::Finished);
 }
 
 void tst_Jumps::flightOverTheDateLine_data()

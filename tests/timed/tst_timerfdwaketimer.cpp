@@ -2,11 +2,30 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/timerfdwaketimer.h"
 
+#include <cerrno>
 #include <QDateTime>
 #include <QSignalSpy>
 #include <QTest>
+#include <sys/timerfd.h>
+#include <utility>
 
 using namespace Astel::Timed;
+
+namespace {
+
+bool clockWasSet = false;
+
+/** Answers as the system does when the clock was set since the last call: armed all the same, and told once. */
+int setTime(int descriptor, int flags, const itimerspec *wanted, itimerspec *before)
+{
+    const int result = timerfd_settime(descriptor, flags, wanted, before);
+    if (!std::exchange(clockWasSet, false))
+        return result;
+    errno = ECANCELED;
+    return -1;
+}
+
+} // namespace
 
 class tst_TimerFdWakeTimer : public QObject
 {
@@ -17,6 +36,7 @@ private slots:
     void unarmedTimerSaysSo();
     void expiresAtItsMomentAndNotBefore();
     void momentThatPassedExpiresAtOnce();
+    void tellsOfAClockThatWasSetBeforeItIsArmed();
     void kindAndReasonAgree();
 };
 
@@ -55,6 +75,19 @@ void tst_TimerFdWakeTimer::momentThatPassedExpiresAtOnce()
     const QSignalSpy expired(&timer, &WakeTimer::expired);
     timer.arm(-5);
     QTRY_COMPARE(expired.size(), 1);
+}
+
+void tst_TimerFdWakeTimer::tellsOfAClockThatWasSetBeforeItIsArmed()
+{
+    TimerFdWakeTimer timer(setTime);
+    const QSignalSpy clockSet(&timer, &WakeTimer::clockSet);
+    const QSignalSpy expired(&timer, &WakeTimer::expired);
+    timer.arm(QDateTime::currentMSecsSinceEpoch() + 3600000);
+    clockWasSet = true;
+    timer.arm(QDateTime::currentMSecsSinceEpoch() + 100);
+    QVERIFY(clockSet.isEmpty());
+    QTRY_COMPARE(expired.size(), 1);
+    QCOMPARE(clockSet.size(), 1);
 }
 
 void tst_TimerFdWakeTimer::kindAndReasonAgree()
