@@ -82,6 +82,7 @@ private slots:
     void refusalsAreNamed();
     void cookiesGrowOverRestartAndDeletion();
     void acknowledgedEventOutlivesAKill();
+    void acknowledgedEventRingsAfterAKill();
     void healthKnowsWhatTheTimerIsArmedFor();
     void dueEventRingsAndIsAnswered();
     void ringerThatGoesIsCalledAgain();
@@ -253,6 +254,19 @@ void tst_Daemon::acknowledgedEventOutlivesAKill()
     QCOMPARE(stateOf(cookie), "WAITING");
     QCOMPARE(ask<QVariantMap>("query_attributes", {cookie}).value("TITLE"), "Wake up");
     QCOMPARE(ask<QList<Wire::Trigger>>("next_triggers", {1u}).value(0).cookie, cookie);
+}
+
+void tst_Daemon::acknowledgedEventRingsAfterAKill()
+{
+    const NotingRinger ringer(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "ringer"));
+    Wire::Event event;
+    event.ticker = QDateTime::currentSecsSinceEpoch() + 3;
+    const uint cookie = add(event);
+    m_daemon.kill();
+    QVERIFY(ringer.calls.isEmpty());
+    QVERIFY(m_daemon.start());
+    QTRY_COMPARE_WITH_TIMEOUT(ringer.calls, QStringList{QStringLiteral("ring %1").arg(cookie)}, 10000);
+    QVERIFY(QDateTime::currentSecsSinceEpoch() >= event.ticker);
 }
 
 void tst_Daemon::healthKnowsWhatTheTimerIsArmedFor()
