@@ -6,8 +6,10 @@
 #include "platform/context/plainvalue_p.h"
 #include "platform/context/propertyaddress_p.h"
 
+#include <optional>
 #include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
+#include <utility>
 
 /** The connection to the provider between subscribe() and unsubscribe(). */
 class ContextProperty::Subscription
@@ -25,6 +27,7 @@ private:
     ContextPropertyProxy m_proxy;
     QDBusServiceWatcher m_watcher;
     std::unique_ptr<QDBusPendingCallWatcher> m_pendingRead;
+    std::optional<QVariant> m_sentMeanwhile; ///< the last change since the pending read began
 };
 
 ContextProperty::Subscription::Subscription(ContextProperty *property)
@@ -42,6 +45,7 @@ ContextProperty::Subscription::Subscription(ContextProperty *property)
 
 void ContextProperty::Subscription::read()
 {
+    m_sentMeanwhile.reset();
     m_pendingRead = std::make_unique<QDBusPendingCallWatcher>(m_proxy.get());
     QObject::connect(m_pendingRead.get(), &QDBusPendingCallWatcher::finished, &m_proxy,
                      [this](QDBusPendingCallWatcher *call) { readFinished(*call); });
@@ -51,15 +55,21 @@ void ContextProperty::Subscription::readFinished(const QDBusPendingReply<QDBusVa
 {
     // The watcher is the sender of this very signal.
     m_pendingRead.release()->deleteLater();
-    // An error means that nobody provides the value now; the watched name tells when somebody does.
+    const auto sentMeanwhile = std::exchange(m_sentMeanwhile, std::nullopt);
+    // An error means that nobody provides the value now, or nobody had the time to answer; the watched name tells
+    // when somebody else does, and a change that came before the error is as good as an answer.
     if (!reply.isError())
         m_property->accept(reply.value().variant());
+    else if (sentMeanwhile)
+        m_property->accept(*sentMeanwhile);
 }
 
 void ContextProperty::Subscription::changed(const QDBusVariant &value)
 {
-    // What is sent before an answer on its way is contained in that answer.
-    if (!m_pendingRead)
+    // What is sent before an answer on its way is contained in that answer, if there will be one.
+    if (m_pendingRead)
+        m_sentMeanwhile = value.variant();
+    else
         m_property->accept(value.variant());
 }
 

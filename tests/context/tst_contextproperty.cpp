@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <QDBusMessage>
+#include <QDBusVariant>
 #include <QDBusVirtualObject>
 #include <QFile>
 #include <QSignalSpy>
@@ -22,6 +23,22 @@ class SilentObject : public QDBusVirtualObject
 public:
     QString introspect(const QString &) const override { return {}; }
     bool handleMessage(const QDBusMessage &, const QDBusConnection &) override { return true; }
+};
+
+/** A provider that is too busy to answer, but still tells of changes. */
+class RefusingObject : public QDBusVirtualObject
+{
+public:
+    QString introspect(const QString &) const override { return {}; }
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override
+    {
+        for (const int value : {1, 2}) {
+            QDBusMessage signal = QDBusMessage::createSignal(message.path(), message.interface(), "changed");
+            signal.setArguments({QVariant::fromValue(QDBusVariant(value))});
+            connection.send(signal);
+        }
+        return connection.send(message.createErrorReply(QDBusError::NoReply, "busy"));
+    }
 };
 
 } // namespace
@@ -45,6 +62,7 @@ private slots:
     void mayUnsubscribeWhileItIsTold();
     void subscribesOnlyOnce();
     void doesNotWaitForASilentProvider();
+    void keepsAChangeThatComesBeforeARefusal();
     void startsTheProviderAndOutlivesItsDeath();
 
 private:
@@ -267,6 +285,22 @@ void ContextPropertyTest::doesNotWaitForASilentProvider()
     QVERIFY(spy.isEmpty());
     provider().unregisterService("com.astel.context.Test.Silent");
     provider().unregisterObject("/com/astel/context/Test/Silent");
+}
+
+void ContextPropertyTest::keepsAChangeThatComesBeforeARefusal()
+{
+    RefusingObject refusing;
+    QVERIFY(provider().registerVirtualObject("/com/astel/context/Test/Refusing", &refusing));
+    QVERIFY(provider().registerService("com.astel.context.Test.Refusing"));
+    ContextProperty property("Test.Refusing");
+    QSignalSpy spy(&property, &ContextProperty::valueChanged);
+    property.subscribe();
+    QVERIFY(spy.wait());
+    settle();
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(property.value(), QVariant(2));
+    provider().unregisterService("com.astel.context.Test.Refusing");
+    provider().unregisterObject("/com/astel/context/Test/Refusing");
 }
 
 void ContextPropertyTest::startsTheProviderAndOutlivesItsDeath()
