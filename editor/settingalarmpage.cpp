@@ -50,6 +50,7 @@ bool SettingAlarmPage::isNewAlarm() const
 void SettingAlarmPage::loadAlarm(quint32 cookie, const QTime &time, const QString &title, const QString &tone, bool,
                                  unsigned int snooze)
 {
+    stopWaiting();
     hideInformationBanner();
     m_snooze = snooze;
     m_cookie = cookie;
@@ -84,15 +85,26 @@ void SettingAlarmPage::resetContent()
     dismiss();
 }
 
+void SettingAlarmPage::aboutToLeave()
+{
+    stopWaiting();
+}
+
+void SettingAlarmPage::stopWaiting()
+{
+    disconnect(Utility::instance(), &Utility::valueChanged, this, &SettingAlarmPage::onValueChanged);
+}
+
 void SettingAlarmPage::saveAlarm()
 {
     connect(Utility::instance(), &Utility::valueChanged, this, &SettingAlarmPage::onValueChanged, Qt::UniqueConnection);
     QmAlarmEvent record = recordFromFields();
     storeRecord(record);
-    rememberTime(record.alarmTime());
     if (isNewAlarm()) {
         dismiss();
         showInformationBanner(qtTrId("qtn_cloc_alarm_save_error"));
+    } else {
+        rememberTime(record.alarmTime());
     }
     record = QmAlarmEvent(m_cookie);
     if (!record.isEnabled())
@@ -133,10 +145,9 @@ void SettingAlarmPage::rememberTime(const QTime &time)
 void SettingAlarmPage::onValueChanged()
 {
     qDebug() << "void SettingAlarmPage::onValueChanged()";
-    Utility *utility = Utility::instance();
-    disconnect(utility, &Utility::valueChanged, this, &SettingAlarmPage::onValueChanged);
+    stopWaiting();
     time_t trigger = 0;
-    const bool isFound = utility->triggerSecondsFromContext(m_cookie, trigger);
+    const bool isFound = Utility::instance()->triggerSecondsFromContext(m_cookie, trigger);
     dismiss();
     if (!isFound)
         return;

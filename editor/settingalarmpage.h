@@ -57,6 +57,9 @@ public slots:
     void onValueChanged();
     void clearFocus();
 
+protected:
+    void aboutToLeave() override;
+
 private:
     void buildTimePicker();
     void buildTitleRow();
@@ -71,6 +74,8 @@ private:
     Clock::QmAlarmEvent recordFromFields() const;
     void rememberTime(const QTime &time);
     void storeRecord(Clock::QmAlarmEvent &record);
+    /** Nothing but the wait that follows a save listens to the triggers. */
+    void stopWaiting();
     void refreshAfterDeletion(bool wasEnabled);
 
     TimePicker *m_timePicker = nullptr;

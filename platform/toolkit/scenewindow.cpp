@@ -78,6 +78,7 @@ void SceneWindow::leave(bool isDismissed)
     if (!guard || !isOnDisplay())
         return;
     m_isDismissed = isDismissed;
+    aboutToLeave();
     startTransition(State::Disappearing);
 }
 
@@ -184,6 +185,13 @@ QRectF SceneWindow::placement(const QSizeF &windowSize) const
 }
 
 void SceneWindow::aboutToAppear() { }
+
+void SceneWindow::aboutToLeave() { }
+
+void SceneWindow::stepBack()
+{
+    dismiss();
+}
 
 Window *SceneWindow::targetWindow() const
 {

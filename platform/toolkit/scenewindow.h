@@ -58,6 +58,10 @@ protected:
     virtual bool takesInput() const { return true; }
     virtual QRectF placement(const QSizeF &windowSize) const;
     virtual void aboutToAppear();
+    /** It is told to go, by whomever; before anything of that is seen. */
+    virtual void aboutToLeave();
+    /** What Escape and the window's close button do to it while it is on top. */
+    virtual void stepBack();
     /** The window it appeared in last, or is about to appear in. */
     Window *targetWindow() const;
     /** Paints one moment of the transition: 0 is gone, 1 is in its place. */

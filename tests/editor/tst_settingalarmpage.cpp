@@ -5,6 +5,7 @@
 #include "alarms/qmalarm.h"
 #include "alarms/utility.h"
 #include "platform/clockwidgets/timepicker.h"
+#include "platform/toolkit/applicationpage.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/banner.h"
 #include "platform/toolkit/label.h"
@@ -20,6 +21,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <functional>
 
 using Clock::QmAlarm;
 using Clock::QmAlarmEvent;
@@ -49,6 +52,10 @@ private slots:
     void savingWithoutATitleTakesTheStandardOne();
     void savingAnExistingAlarmKeepsWhatIsNotShown();
     void aFailedSaveClosesWithAnError();
+    void aFailedSaveIsNotRemembered();
+    void onlyAWaitingSheetFollowsTheTriggers_data();
+    void onlyAWaitingSheetFollowsTheTriggers();
+    void escapeCancels();
     void cancellingStoresNothingAndRefreshesTheTriggers();
     void deletingTakesTheAlarmOutOfTheDaemon();
     void deletingASwitchedOffAlarmRefreshesTheTriggers();
@@ -68,6 +75,7 @@ private:
     QTemporaryDir m_folder;
     QString m_tone;
     std::unique_ptr<Touch::ApplicationWindow> m_window;
+    std::unique_ptr<Touch::ApplicationPage> m_mainPage;
     std::unique_ptr<SettingAlarmPage> m_page;
     TimePicker *m_picker = nullptr;
     Touch::TextEdit *m_title = nullptr;
@@ -86,6 +94,8 @@ void TestSettingAlarmPage::initTestCase()
     QFile tone(m_tone);
     QVERIFY(tone.open(QIODevice::WriteOnly));
     m_window = std::make_unique<Touch::ApplicationWindow>();
+    m_mainPage = std::make_unique<Touch::ApplicationPage>();
+    m_mainPage->appear(m_window.get());
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
 }
@@ -309,6 +319,60 @@ void TestSettingAlarmPage::aFailedSaveClosesWithAnError()
     QVERIFY(!m_page->isOnDisplay());
     QCOMPARE(shownBanner(), "qtn_cloc_alarm_save_error");
     QVERIFY(m_daemon.start());
+    m_page->appear(m_window.get());
+    emit Utility::instance()->valueChanged();
+    QVERIFY2(m_page->isOnDisplay(), "it no longer waits for a trigger");
+}
+
+void TestSettingAlarmPage::aFailedSaveIsNotRemembered()
+{
+    load(QmAlarmEvent::NotStored);
+    m_picker->setHours(6);
+    m_daemon.kill();
+    m_page->saveAlarm();
+    QVERIFY(!QSettings("Korvo", "Clock").contains("Clock/DefaultAlarmTime"));
+    QVERIFY(m_daemon.start());
+}
+
+void TestSettingAlarmPage::onlyAWaitingSheetFollowsTheTriggers_data()
+{
+    QTest::addColumn<std::function<void(SettingAlarmPage *)>>("end");
+    using End = std::function<void(SettingAlarmPage *)>;
+    QTest::newRow("dismissed") << End([](SettingAlarmPage *page) { page->dismiss(); });
+    QTest::newRow("told to go") << End([](SettingAlarmPage *page) { page->disappear(); });
+    QTest::newRow("reset") << End([](SettingAlarmPage *page) { page->resetContent(); });
+    QTest::newRow("cancelled") << End([](SettingAlarmPage *page) { page->cancelAlarm(); });
+    QTest::newRow("Escape") << End([](SettingAlarmPage *page) { page->hostWindow()->stepBack(); });
+}
+
+void TestSettingAlarmPage::onlyAWaitingSheetFollowsTheTriggers()
+{
+    QFETCH(std::function<void(SettingAlarmPage *)>, end);
+    load(QmAlarmEvent::NotStored);
+    m_page->saveAlarm();
+    QVERIFY(m_page->isOnDisplay());
+    const quint32 saved = m_page->getAlarmCookie();
+    const Support::LogCapture log;
+    end(m_page.get());
+    QVERIFY(!m_page->isOnDisplay());
+    QVERIFY(Support::waitForTrigger(saved));
+    m_page->appear(m_window.get());
+    load(saved);
+    emit Utility::instance()->valueChanged();
+    QVERIFY2(m_page->isOnDisplay(), "the next alarm stays open");
+    QCOMPARE(log.lines().filter("SettingAlarmPage::onValueChanged").size(), 0);
+    QCOMPARE(log.lines().filter("timeLeftForAlarmToTrigger").size(), 0);
+}
+
+void TestSettingAlarmPage::escapeCancels()
+{
+    load(QmAlarmEvent::NotStored);
+    m_title->setText("Tea");
+    QSignalSpy refreshed(Utility::instance(), &Utility::valueChanged);
+    QVERIFY(m_window->stepBack());
+    QVERIFY(!m_page->isOnDisplay());
+    QCOMPARE(refreshed.size(), 1);
+    QCOMPARE(storedCookies(), QList<quint32>());
 }
 
 void TestSettingAlarmPage::cancellingStoresNothingAndRefreshesTheTriggers()
