@@ -52,7 +52,12 @@ bool Application::event(QEvent *event)
 {
     if (event->type() == QEvent::ApplicationPaletteChange)
         Theme::instance().followDesktop();
-    return QApplication::event(event);
+    if (event->type() != QEvent::Quit)
+        return QApplication::event(event);
+    m_isQuitting = true;
+    const bool isHandled = QApplication::event(event);
+    m_isQuitting = false;
+    return isHandled;
 }
 
 } // namespace Touch

@@ -25,6 +25,9 @@ public:
     QString identifier() const { return m_identifier; }
     ApplicationService *service() const { return m_service.get(); }
 
+    /** It closes its windows in order to end. */
+    bool isQuitting() const { return m_isQuitting; }
+
     /** The window the user works in, or null. */
     static ApplicationWindow *activeApplicationWindow();
 
@@ -36,6 +39,7 @@ private:
 
     QString m_identifier;
     std::unique_ptr<ApplicationService> m_service;
+    bool m_isQuitting = false;
 };
 
 } // namespace Touch

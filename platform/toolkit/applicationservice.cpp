@@ -68,7 +68,7 @@ void ApplicationService::launch(const QStringList &)
 void ApplicationService::close()
 {
     if (Window *window = Window::active())
-        window->close();
+        window->closeAtOnce();
 }
 
 void ApplicationService::exit()

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/sheet.h"
 
+#include "platform/toolkit/basicsheetheader.h"
+
+#include <QAction>
 #include <QGraphicsSceneResizeEvent>
 
 namespace Touch {
@@ -22,6 +25,15 @@ void Sheet::setHeaderWidget(QGraphicsWidget *header)
     if (header)
         header->setParentItem(this);
     arrange();
+}
+
+void Sheet::stepBack()
+{
+    const auto *header = qobject_cast<BasicSheetHeader *>(m_headerWidget);
+    if (header && header->negativeAction())
+        header->negativeAction()->trigger();
+    else
+        SceneWindow::stepBack();
 }
 
 void Sheet::setTransition(qreal progress)

@@ -28,6 +28,8 @@ public:
 
 protected:
     int layer() const override { return 1; }
+    /** As its header's negative action, if there is one. */
+    void stepBack() override;
     void setTransition(qreal progress) override;
     bool event(QEvent *event) override;
     void resizeEvent(QGraphicsSceneResizeEvent *event) override;

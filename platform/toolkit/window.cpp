@@ -3,18 +3,22 @@
 #include "platform/toolkit/window.h"
 
 #include "platform/toolkit/accessiblewindow_p.h"
+#include "platform/toolkit/application.h"
 #include "platform/toolkit/scenewindow.h"
 #include "platform/toolkit/theme.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGraphicsLayout>
+#include <QStyleHints>
 
 namespace Touch {
 
 namespace {
 
 constexpr QSize defaultSize(480, 854);
+/** How far apart the two taps of a double tap may be. */
+constexpr int fingerWidth = 40;
 
 QList<Window *> &allWindows()
 {
@@ -132,8 +136,15 @@ bool Window::stepBack()
     SceneWindow *top = topSceneWindow();
     if (!top || top == m_stack.constFirst())
         return false;
-    top->dismiss();
+    top->stepBack();
     return true;
+}
+
+void Window::closeAtOnce()
+{
+    m_closesAtOnce = true;
+    close();
+    m_closesAtOnce = false;
 }
 
 QSize Window::sizeHint() const
@@ -211,7 +222,9 @@ void Window::refreshDisplay()
 
 void Window::closeEvent(QCloseEvent *event)
 {
-    event->setAccepted(!stepBack());
+    const auto *application = qobject_cast<const Application *>(QCoreApplication::instance());
+    const bool isQuitting = application && application->isQuitting();
+    event->setAccepted(m_closesAtOnce || isQuitting || !stepBack());
 }
 
 // What the user does goes to where the window will be when its transition is over.
@@ -225,16 +238,42 @@ void Window::keyPressEvent(QKeyEvent *event)
     }
 }
 
+SceneWindow *Window::sceneWindowAt(const QPoint &place) const
+{
+    for (QGraphicsItem *item = itemAt(place); item; item = item->parentItem()) {
+        if (auto *sceneWindow = qobject_cast<SceneWindow *>(item->toGraphicsObject()))
+            return sceneWindow;
+    }
+    return nullptr;
+}
+
+bool Window::isStrayTap(const QMouseEvent *event)
+{
+    const QPoint place = event->position().toPoint();
+    const auto interval = quint64(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+    const bool isSecondTap = m_pressTime && event->timestamp() - *m_pressTime <= interval
+        && (place - m_pressPlace).manhattanLength() <= fingerWidth;
+    m_pressTime = event->timestamp();
+    m_pressPlace = place;
+    SceneWindow *sceneWindow = sceneWindowAt(place);
+    if (isSecondTap && sceneWindow != m_pressed)
+        return true;
+    m_pressed = sceneWindow;
+    return false;
+}
+
 void Window::mousePressEvent(QMouseEvent *event)
 {
     finishTransitions();
-    QGraphicsView::mousePressEvent(event);
+    if (!isStrayTap(event))
+        QGraphicsView::mousePressEvent(event);
 }
 
 void Window::mouseDoubleClickEvent(QMouseEvent *event)
 {
     finishTransitions();
-    QGraphicsView::mouseDoubleClickEvent(event);
+    if (!isStrayTap(event))
+        QGraphicsView::mouseDoubleClickEvent(event);
 }
 
 void Window::wheelEvent(QWheelEvent *event)

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <optional>
 #include <QGraphicsView>
+#include <QPointer>
 
 namespace Touch {
 
@@ -11,7 +13,8 @@ class SceneWindow;
 /**
  * A window of the desktop that shows scene windows: pages, and sheets and banners above them. It does not own
  * those that are kept when done; the others die with it at the latest. Closing and Escape go one step back:
- * the topmost sheet is dismissed, a window that shows only its page is closed. GUI thread only.
+ * the topmost sheet is left, a window that shows only its page is closed. The second tap of a double tap is
+ * not for what the first one brought under the finger. GUI thread only.
  */
 class Window : public QGraphicsView
 {
@@ -44,8 +47,10 @@ public:
     /** From bottom to top. */
     QList<SceneWindow *> sceneWindows() const { return m_stack; }
 
-    /** Dismisses the topmost scene window; false if there is nothing but a page. */
+    /** Leaves the topmost scene window as its cancel button would; false if there is nothing but a page. */
     bool stepBack();
+    /** Closes it, whatever lies above the page. */
+    void closeAtOnce();
 
     QSize sizeHint() const override;
 
@@ -73,6 +78,8 @@ private:
     void forget(SceneWindow *sceneWindow);
     void updateCovered();
     void finishTransitions();
+    SceneWindow *sceneWindowAt(const QPoint &place) const;
+    bool isStrayTap(const QMouseEvent *event);
     void applyOrientation(Qt::Orientation orientation);
     void applyStyle();
     void refreshDisplay();
@@ -80,9 +87,15 @@ private:
     QString m_styleName;
     bool m_isInverted = false;
     bool m_isOrientationLocked = false;
+    bool m_closesAtOnce = false;
     Qt::Orientation m_orientation = Qt::Vertical;
     QList<SceneWindow *> m_stack; ///< appearing or shown, bottom to top
     QList<SceneWindow *> m_known; ///< all that are in the scene
+
+    // The last press
+    std::optional<quint64> m_pressTime; ///< in milliseconds
+    QPoint m_pressPlace;
+    QPointer<SceneWindow> m_pressed;
 };
 
 } // namespace Touch

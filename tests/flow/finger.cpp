@@ -72,6 +72,11 @@ void tap(const QPoint &point)
     xdotool(moveTo(point) + QStringList{"click", "1"});
 }
 
+void doubleTap(const QPoint &point)
+{
+    xdotool(moveTo(point) + QStringList{"click", "--repeat", "2", "--delay", "80", "1"});
+}
+
 void drag(const QPoint &from, const QPoint &to)
 {
     constexpr int steps = 8;
@@ -84,6 +89,11 @@ void drag(const QPoint &from, const QPoint &to)
 void type(const QString &text)
 {
     xdotool({"type", "--delay", "5", text});
+}
+
+void press(const QString &key)
+{
+    xdotool({"key", key});
 }
 
 QPoint pointOf(const QGraphicsObject *item, double across, double down)

@@ -12,8 +12,10 @@ namespace Flow {
 
 // Real input, sent by the X server to whatever lies there.
 void tap(const QPoint &position);
+void doubleTap(const QPoint &position);
 void drag(const QPoint &from, const QPoint &to);
 void type(const QString &text);
+void press(const QString &key);
 
 /** A point of an item on the screen, given as parts of its width and height from the top left corner. */
 QPoint pointOf(const QGraphicsObject *item, double across = 0.5, double down = 0.5);

@@ -96,6 +96,7 @@ private slots:
     void savingShowsTheTimeLeftAndTheRow();
     void tappingTheRowOpensItsValues();
     void cancellingClosesTheEditor();
+    void aDoubleTapOnARowChangesNoTime();
     void anAlarmAddedElsewhereAppearsByItself();
     void switchingOnShowsTheTimeLeft();
     void deletingInTheEditorTakesTheRowAway();
@@ -180,6 +181,16 @@ void TestClockFlow::cancellingClosesTheEditor()
     Flow::tap(pointOf(itemNamed("negativeButton")));
     QTRY_VERIFY(!picker());
     QCOMPARE(rows().size(), 1);
+}
+
+void TestClockFlow::aDoubleTapOnARowChangesNoTime()
+{
+    QTRY_VERIFY(!isMoving());
+    Flow::doubleTap(pointOf(rows().first()));
+    QTRY_VERIFY(picker() && !isMoving());
+    QCOMPARE(QTime(picker()->hours(), picker()->minutes()), m_chosen);
+    Flow::press("Escape");
+    QTRY_VERIFY(!picker());
 }
 
 void TestClockFlow::anAlarmAddedElsewhereAppearsByItself()

@@ -4,6 +4,7 @@
 #include "platform/toolkit/applicationservice.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/componentcache.h"
+#include "platform/toolkit/sheet.h"
 
 #include <cstdio>
 
@@ -25,7 +26,12 @@ public:
         ApplicationService::launch();
     }
 
-    void launch(const QStringList &arguments) override { say(qPrintable(arguments.join(QLatin1Char(' ')))); }
+    void launch(const QStringList &arguments) override
+    {
+        say(qPrintable(arguments.join(QLatin1Char(' '))));
+        if (arguments.contains(QLatin1String("quit")))
+            QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    }
 
     static void say(const char *text)
     {
@@ -41,6 +47,8 @@ int main(int argc, char **argv)
     auto *application = ComponentCache::mApplication(argc, argv, QStringLiteral("probe"), new Service);
     ApplicationWindow *window = ComponentCache::mApplicationWindow();
     window->show();
+    if (application->arguments().contains(QLatin1String("--sheet")))
+        (new Sheet)->appear(window, SceneWindow::DestroyWhenDone);
     Service::say("running");
     const int status = application->exec();
     delete window;

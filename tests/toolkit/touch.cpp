@@ -35,6 +35,15 @@ void Finger::release(Window &window, const Widget *widget, const QPointF &at)
     QTest::mouseRelease(window.viewport(), Qt::LeftButton, {}, inViewport(window, widget, at));
 }
 
+void Finger::send(Window &window, QEvent::Type type, const QPoint &place, quint64 time)
+{
+    const bool isUp = type == QEvent::MouseButtonRelease;
+    QMouseEvent event(type, place, window.viewport()->mapToGlobal(place), Qt::LeftButton,
+                      isUp ? Qt::NoButton : Qt::LeftButton, {});
+    event.setTimestamp(time);
+    QCoreApplication::sendEvent(window.viewport(), &event);
+}
+
 void Finger::tap(Window &window, const Widget *widget)
 {
     press(window, widget, widget->rect().center());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <QEvent>
 #include <QGraphicsItem>
 #include <QGraphicsObject>
 #include <QPointF>
@@ -18,6 +19,8 @@ void press(Touch::Window &window, const Touch::Widget *widget, const QPointF &at
 void moveTo(Touch::Window &window, const Touch::Widget *widget, const QPointF &at);
 void release(Touch::Window &window, const Touch::Widget *widget, const QPointF &at);
 void tap(Touch::Window &window, const Touch::Widget *widget);
+/** One event of the left button at a point of the window, at a time in milliseconds. */
+void send(Touch::Window &window, QEvent::Type type, const QPoint &place, quint64 time);
 /** Presses at a point, moves on in steps, releases at the other one. */
 void drag(Touch::Window &window, const Touch::Widget *widget, const QPointF &from, const QPointF &to);
 

@@ -23,9 +23,11 @@ private slots:
     void takesLaunchesWithArguments();
     void endsOnRequest();
     void endsWhenItsWindowIsClosed();
+    void endsWithASheetOpen_data();
+    void endsWithASheetOpen();
 
 private:
-    static bool start(QProcess &process);
+    static bool start(QProcess &process, const QStringList &arguments = {});
     static QDBusInterface remote();
 
     Support::PrivateBus m_bus;
@@ -42,10 +44,10 @@ void TestApplicationService::initTestCase()
     QVERIFY(m_bus.isRunning());
 }
 
-bool TestApplicationService::start(QProcess &process)
+bool TestApplicationService::start(QProcess &process, const QStringList &arguments)
 {
     process.setReadChannel(QProcess::StandardOutput);
-    process.start(QStringLiteral(PROBE), QStringList());
+    process.start(QStringLiteral(PROBE), arguments);
     return process.waitForStarted() && process.waitForReadyRead() && process.readLine() == "running\n";
 }
 
@@ -124,6 +126,30 @@ void TestApplicationService::endsWhenItsWindowIsClosed()
     QProcess process;
     QVERIFY(start(process));
     remote().call(QStringLiteral("close"));
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 0);
+}
+
+void TestApplicationService::endsWithASheetOpen_data()
+{
+    QTest::addColumn<QString>("request");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("close") << "close" << QStringList();
+    QTest::newRow("exit") << "exit" << QStringList();
+    QTest::newRow("quit") << "launchWithArguments" << QStringList("quit");
+}
+
+void TestApplicationService::endsWithASheetOpen()
+{
+    QFETCH(QString, request);
+    QFETCH(QStringList, arguments);
+    QProcess process;
+    QVERIFY(start(process, {QStringLiteral("--sheet")}));
+    QDBusInterface probe = remote();
+    if (arguments.isEmpty())
+        probe.call(request);
+    else
+        probe.call(request, arguments);
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitCode(), 0);
 }

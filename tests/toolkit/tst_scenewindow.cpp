@@ -12,6 +12,7 @@
 #include <QGraphicsScene>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QStyleHints>
 #include <QTest>
 
 using namespace Touch;
@@ -75,6 +76,11 @@ private slots:
     void takesInputDuringItsTransition();
     void takesNoInputOnceItGoes();
     void goesOneStepBackOnEscapeAndClose();
+    void leavesASheetAsItsNegativeAction();
+    void closesAtOnceWhenTold();
+    void givesTheSecondTapToNothingNew_data();
+    void givesTheSecondTapToNothingNew();
+    void givesTheSecondTapToWhatTookTheFirst();
     void givesTheFocusBack();
     void stopsWhatTicksWhileItIsCovered();
     void remembersTheDisplayModesOfComponents();
@@ -286,6 +292,91 @@ void TestSceneWindow::goesOneStepBackOnEscapeAndClose()
     QVERIFY(m_window->isVisible());
     QTest::keyClick(m_window, Qt::Key_Escape);
     QVERIFY(!m_window->isVisible());
+}
+
+void TestSceneWindow::leavesASheetAsItsNegativeAction()
+{
+    Sheet sheet;
+    auto *header = new BasicSheetHeader;
+    QAction cancel(QStringLiteral("Cancel"), nullptr);
+    header->setNegativeAction(&cancel);
+    sheet.setHeaderWidget(header);
+    const QSignalSpy cancelled(&cancel, &QAction::triggered);
+    sheet.appear(m_window);
+    QTest::keyClick(m_window, Qt::Key_Escape);
+    QCOMPARE(cancelled.count(), 1);
+    QVERIFY2(sheet.isOnDisplay(), "whether it closes is for the action");
+    m_window->close();
+    QCOMPARE(cancelled.count(), 2);
+    QVERIFY(m_window->isVisible());
+}
+
+void TestSceneWindow::closesAtOnceWhenTold()
+{
+    Sheet sheet;
+    sheet.appear(m_window);
+    m_window->closeAtOnce();
+    QVERIFY(!m_window->isVisible());
+    m_window->show();
+    m_window->close();
+    QVERIFY2(m_window->isVisible(), "only that once");
+}
+
+void TestSceneWindow::givesTheSecondTapToNothingNew_data()
+{
+    QTest::addColumn<QEvent::Type>("second");
+    QTest::addColumn<int>("delay");
+    QTest::addColumn<QPoint>("shift");
+    QTest::addColumn<bool>("isTaken");
+    const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
+    QTest::newRow("double click") << QEvent::MouseButtonDblClick << interval / 2 << QPoint() << false;
+    QTest::newRow("two presses") << QEvent::MouseButtonPress << interval / 2 << QPoint(12, 12) << false;
+    QTest::newRow("later") << QEvent::MouseButtonPress << interval * 2 << QPoint() << true;
+    QTest::newRow("elsewhere") << QEvent::MouseButtonPress << interval / 2 << QPoint(0, 200) << true;
+}
+
+void TestSceneWindow::givesTheSecondTapToNothingNew()
+{
+    QFETCH(QEvent::Type, second);
+    QFETCH(int, delay);
+    QFETCH(QPoint, shift);
+    QFETCH(bool, isTaken);
+    Sheet sheet;
+    auto *above = new Button(QStringLiteral("Save"), sheet.centralWidget());
+    above->setGeometry(QRectF(0, 0, 480, 800));
+    connect(m_page->button, &Button::clicked, &sheet, [this, &sheet] { sheet.appear(m_window); });
+    connect(above, &Button::clicked, &sheet, &Sheet::dismiss);
+    const QSignalSpy taken(above, &Button::clicked);
+    const QPoint place(200, 300);
+    quint64 time = 5000;
+    Finger::send(*m_window, QEvent::MouseButtonPress, place, time);
+    Finger::send(*m_window, QEvent::MouseButtonRelease, place, time + 20);
+    QVERIFY(sheet.isOnDisplay());
+    time += quint64(delay);
+    Finger::send(*m_window, second, place + shift, time);
+    Finger::send(*m_window, QEvent::MouseButtonRelease, place + shift, time + 20);
+    QCOMPARE(taken.count(), isTaken ? 1 : 0);
+    if (isTaken)
+        return;
+    // Once the double tap is over, the sheet's button works; the same goes for what closing it brings up.
+    time += 10000;
+    Finger::send(*m_window, QEvent::MouseButtonPress, place, time);
+    Finger::send(*m_window, QEvent::MouseButtonRelease, place, time + 20);
+    QCOMPARE(taken.count(), 1);
+    Finger::send(*m_window, second, place + shift, time + quint64(delay));
+    Finger::send(*m_window, QEvent::MouseButtonRelease, place + shift, time + quint64(delay) + 20);
+    QVERIFY2(!sheet.isOnDisplay(), "the page's button did not open it again");
+}
+
+void TestSceneWindow::givesTheSecondTapToWhatTookTheFirst()
+{
+    const QSignalSpy clicked(m_page->button, &Button::clicked);
+    const QPoint place(200, 300);
+    Finger::send(*m_window, QEvent::MouseButtonPress, place, 5000);
+    Finger::send(*m_window, QEvent::MouseButtonRelease, place, 5020);
+    Finger::send(*m_window, QEvent::MouseButtonDblClick, place, 5100);
+    Finger::send(*m_window, QEvent::MouseButtonRelease, place, 5120);
+    QCOMPARE(clicked.count(), 2);
 }
 
 void TestSceneWindow::givesTheFocusBack()
