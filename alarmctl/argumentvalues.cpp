@@ -120,7 +120,7 @@ Result<qint64> parseMoment(const QString &text)
         if (moment.isValid())
             return moment.toSecsSinceEpoch();
     }
-    if (const Result<qint64> epoch = parseEpoch(text))
+    if (Result<qint64> epoch = parseEpoch(text))
         return epoch;
     return wrongUsage(QStringLiteral("\"%1\" is neither a date nor a moment in seconds since the epoch").arg(text));
 }

@@ -52,7 +52,7 @@ QJsonArray jsonOf(const QList<RingRecord> &records)
 
 Result<> runJournal(const CommandLine &line)
 {
-    if (const Result<> plain = line.withoutPositionals(); !plain)
+    if (Result<> plain = line.withoutPositionals(); !plain)
         return plain;
     const Result<QList<RingRecord>> records = recordsOf(line);
     if (!records)

@@ -27,7 +27,7 @@ void printTriggers(const QVariantMap &triggers, bool json)
 
 Result<> runList(const CommandLine &line)
 {
-    if (const Result<> plain = line.withoutPositionals(); !plain)
+    if (Result<> plain = line.withoutPositionals(); !plain)
         return plain;
     const Result<QList<Clock::QmAlarmEvent>> alarms = loadAlarms();
     if (!alarms)
@@ -38,7 +38,7 @@ Result<> runList(const CommandLine &line)
 
 Result<> runNext(const CommandLine &line)
 {
-    if (const Result<> plain = line.withoutPositionals(); !plain)
+    if (Result<> plain = line.withoutPositionals(); !plain)
         return plain;
     const Result<quint32> count = parseCount(line.has("count") ? line.value("count") : "1");
     if (!count)
@@ -59,9 +59,9 @@ Result<> runNext(const CommandLine &line)
 
 Result<> runWatch(const CommandLine &line)
 {
-    if (const Result<> plain = line.withoutPositionals(); !plain)
+    if (Result<> plain = line.withoutPositionals(); !plain)
         return plain;
-    if (const Result<> reached = reachDaemon(); !reached)
+    if (Result<> reached = reachDaemon(); !reached)
         return reached;
     ContextProperty triggers(Settings::TriggerProperty);
     const bool json = line.has("json");

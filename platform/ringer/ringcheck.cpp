@@ -57,6 +57,7 @@ RingCheck::RingCheck(const PluginLoader *plugins, const ToneOrder &toneOrder, QO
     , m_toneOrder(toneOrder)
 {
     m_thread.setMaxThreadCount(1);
+    connect(this, &RingCheck::gathered, this, &RingCheck::finish, Qt::QueuedConnection);
 }
 
 RingCheck::~RingCheck()
@@ -65,17 +66,23 @@ RingCheck::~RingCheck()
     m_thread.waitForDone();
 }
 
-void RingCheck::start(const QString &tone, const QString &plugin, const Finished &finished)
+bool RingCheck::start(const QString &tone, const QString &plugin, const Finished &finished)
 {
-    const auto facts = screenFacts(plugin);
-    const auto tones = m_toneOrder.tones(tone);
-    m_thread.start([this, facts, tones, finished] {
+    if (m_underWay.size() == MaximalChecks)
+        return false;
+    m_underWay.enqueue(finished);
+    m_thread.start([this, facts = screenFacts(plugin), tones = m_toneOrder.tones(tone)] {
         auto all = facts;
         all.insert(soundFacts());
         all.insert(toneFacts(tones));
-        QMetaObject::invokeMethod(
-            this, [all, finished] { finished(all); }, Qt::QueuedConnection);
+        Q_EMIT gathered(all);
     });
+    return true;
+}
+
+void RingCheck::finish(const QVariantMap &facts)
+{
+    m_underWay.dequeue()(facts);
 }
 
 QVariantMap RingCheck::screenFacts(const QString &plugin) const

@@ -60,9 +60,11 @@ void RingerService::stop(uint cookie)
 QVariantMap RingerService::check(const QString &tone, const QString &plugin)
 {
     setDelayedReply(true);
-    m_check->start(tone, plugin, [bus = connection(), call = message()](const QVariantMap &facts) {
+    const auto reply = [bus = connection(), call = message()](const QVariantMap &facts) {
         bus.send(call.createReply(QVariant(facts)));
-    });
+    };
+    if (!m_check->start(tone, plugin, reply))
+        sendErrorReply(QDBusError::LimitsExceeded, QStringLiteral("too many checks are under way"));
     return {};
 }
 

@@ -67,7 +67,7 @@ QString errorText(GstMessage *message)
 {
     GError *error = nullptr;
     gst_message_parse_error(message, &error, nullptr);
-    const auto text = QString::fromUtf8(error->message);
+    auto text = QString::fromUtf8(error->message);
     g_error_free(error);
     return text;
 }
@@ -120,7 +120,7 @@ QString probeTone(const QString &tone)
         gst_clear_object(&source);
         return found ? QString() : lacking;
     }
-    if (const auto reason = reasonAgainstFile(tone); !reason.isEmpty())
+    if (auto reason = reasonAgainstFile(tone); !reason.isEmpty())
         return reason;
     const auto pipeline = createPipeline(tone);
     return pipeline ? decode(pipeline) : lacking;

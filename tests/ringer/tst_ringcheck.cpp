@@ -80,9 +80,9 @@ QVariantMap TestRingCheck::check(const QString &tone, const QString &plugin)
 {
     RingCheck check(&m_plugins, Ringer::ToneOrder(m_folder.path()));
     std::optional<QVariantMap> answer;
-    check.start(tone, plugin, [&answer](const QVariantMap &facts) { answer = facts; });
+    const auto isStarted = check.start(tone, plugin, [&answer](const QVariantMap &facts) { answer = facts; });
     // It is asynchronous: nothing is known before the event loop has run.
-    if (answer || !QTest::qWaitFor([&answer] { return answer.has_value(); }, 15'000))
+    if (!isStarted || answer || !QTest::qWaitFor([&answer] { return answer.has_value(); }, 15'000))
         return {};
     return *answer;
 }
@@ -234,10 +234,21 @@ void TestRingCheck::manyChecksAreAnsweredOneByOne()
 {
     RingCheck check(&m_plugins, Ringer::ToneOrder(m_folder.path()));
     QStringList answers;
+    const auto start = [&](const char *name) {
+        return check.start(file(name), "librecording",
+                           [&answers](const QVariantMap &facts) { answers += facts["tone"].toString(); });
+    };
     for (const auto *name : {"sine.wav", "long.wav", "silent.wav"})
-        check.start(file(name), "librecording",
-                    [&answers](const QVariantMap &facts) { answers += facts["tone"].toString(); });
+        QVERIFY(start(name));
     QTRY_COMPARE_WITH_TIMEOUT(answers, QStringList({file("sine.wav"), file("long.wav"), BuiltInTone}), 15'000);
+
+    answers.clear();
+    for (auto number = 0; number < RingCheck::MaximalChecks; ++number)
+        QVERIFY(start("sine.wav"));
+    QVERIFY(!start("sine.wav"));
+    QTRY_COMPARE_WITH_TIMEOUT(answers.size(), qsizetype(RingCheck::MaximalChecks), 15'000);
+    QVERIFY(start("sine.wav"));
+    QTRY_COMPARE(answers.size(), qsizetype(RingCheck::MaximalChecks) + 1);
 }
 
 void TestRingCheck::aCheckThatIsNoLongerWantedIsForgotten()
@@ -245,7 +256,8 @@ void TestRingCheck::aCheckThatIsNoLongerWantedIsForgotten()
     auto isAnswered = false;
     {
         RingCheck check(&m_plugins);
-        check.start(file("sine.wav"), "librecording", [&isAnswered](const QVariantMap &) { isAnswered = true; });
+        QVERIFY(
+            check.start(file("sine.wav"), "librecording", [&isAnswered](const QVariantMap &) { isAnswered = true; }));
     }
     QCoreApplication::processEvents();
     QVERIFY(!isAnswered);
