@@ -5,6 +5,8 @@
 #include "platform/timedclient/event.h"
 #include "timedproxy.h"
 
+#include <ctime>
+
 namespace Astel::Timed {
 
 namespace {
@@ -94,7 +96,14 @@ bool Interface::settings_changed_connect(QObject *receiver, const char *slot)
 {
     if (!QDBusConnection::sessionBus().isConnected() || !hasSlot(receiver, slot))
         return false;
+    // Slots are called in the order in which they were connected, so the zone is read before anybody uses it.
+    connect(m_proxy.get(), &TimedProxy::settings_changed, this, &Interface::readTimeZone, Qt::UniqueConnection);
     return connect(m_proxy.get(), SIGNAL(settings_changed(Astel::Timed::WallClock::Info, bool)), receiver, slot);
+}
+
+void Interface::readTimeZone()
+{
+    tzset();
 }
 
 } // namespace Astel::Timed

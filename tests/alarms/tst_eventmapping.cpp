@@ -52,10 +52,13 @@ private slots:
     void mapsAnEnabledOneTimeAlarm();
     void mapsADisabledOneTimeAlarm();
     void takesTheRecurrenceFromTheTriggerTime();
+    void takesTheWeeklyRecurrenceFromTheTriggerTime();
     void mapsAnEnabledRepeatingAlarm();
     void mapsADisabledRepeatingAlarm();
     void movesTheTriggerToTheNextRepeatDay_data();
     void movesTheTriggerToTheNextRepeatDay();
+    void movesTheTriggerOnFromTodayWhateverItsDate();
+    void comparesAndMovesTheTriggerTime();
     void leavesATriggerOfTodayWhateverItsDate();
     void writesRepeatDaysInTheirOrder();
     void setsTheFixedProperties();
@@ -74,6 +77,7 @@ private:
 
 void EventMappingTest::initTestCase()
 {
+    QCOMPARE(QDateTime(Wednesday, Eight).offsetFromUtc(), 20700);
     QVERIFY(m_bus.isRunning());
     QVERIFY(m_daemon.start());
 }
@@ -133,6 +137,18 @@ void EventMappingTest::takesTheRecurrenceFromTheTriggerTime()
 {
     const StoppedClock clock(QDateTime(Wednesday, Eight));
     QmAlarmEvent alarm = sampleAlarm();
+    alarm.setTriggerTime(QDateTime(Wednesday, QTime(21, 45)));
+    const Wire::Event wire = wireOf(alarm);
+    QCOMPARE(wire.recurrences.first().hours, 1u << 21);
+    QCOMPARE(wire.recurrences.first().minutes, Q_UINT64_C(1) << 45);
+    QCOMPARE(wire.attributes.value("alarmtime"), "07:00");
+}
+
+void EventMappingTest::takesTheWeeklyRecurrenceFromTheTriggerTime()
+{
+    const StoppedClock clock(QDateTime(Wednesday, Eight));
+    QmAlarmEvent alarm = sampleAlarm();
+    alarm.setRepeatDays({4});
     alarm.setTriggerTime(QDateTime(Wednesday, QTime(21, 45)));
     const Wire::Event wire = wireOf(alarm);
     QCOMPARE(wire.recurrences.first().hours, 1u << 21);
@@ -201,6 +217,33 @@ void EventMappingTest::movesTheTriggerToTheNextRepeatDay()
     const Wire::Event wire = wireOf(alarm);
     QCOMPARE(alarm.triggerTime(), QDateTime(Wednesday.addDays(daysAhead), Seven));
     QCOMPARE(wire.attributes.value("trigger"), secondsOf(Wednesday.addDays(daysAhead), Seven));
+}
+
+void EventMappingTest::movesTheTriggerOnFromTodayWhateverItsDate()
+{
+    const StoppedClock clock(QDateTime(Wednesday, Eight));
+    QmAlarmEvent alarm = sampleAlarm();
+    alarm.setRepeatDays({1, 2, 3, 4, 5});
+    for (const int days : {-100, 100}) {
+        alarm.setTriggerTime(QDateTime(Wednesday.addDays(days), Seven));
+        const Wire::Event wire = wireOf(alarm);
+        QCOMPARE(alarm.triggerTime(), QDateTime(Wednesday.addDays(1), Seven));
+        QCOMPARE(wire.attributes.value("trigger"), secondsOf(Wednesday.addDays(1), Seven));
+    }
+}
+
+void EventMappingTest::comparesAndMovesTheTriggerTime()
+{
+    const StoppedClock clock(QDateTime(Wednesday, Eight));
+    const QDateTime evening(Wednesday, QTime(21, 45));
+    QmAlarmEvent alarm = sampleAlarm(Seven);
+    alarm.setTriggerTime(evening);
+    alarm.setRepeatDays({3});
+    wireOf(alarm);
+    QCOMPARE(alarm.triggerTime(), evening);
+    alarm.setRepeatDays({4});
+    wireOf(alarm);
+    QCOMPARE(alarm.triggerTime(), evening.addDays(1));
 }
 
 void EventMappingTest::leavesATriggerOfTodayWhateverItsDate()

@@ -42,6 +42,7 @@ private slots:
     void keepsTheUnitOfTheNextTrigger();
     void readsRepeatDays_data();
     void readsRepeatDays();
+    void keepsTheRepeatDaysThatNobodyNames();
     void readsMissingAttributesAsNothing();
     void readsNumbersInTheirWidth();
     void keepsTheDefaultsWhereTheCallFails();
@@ -57,6 +58,7 @@ private:
 
 void EventReadingTest::initTestCase()
 {
+    QCOMPARE(QDateTime::fromSecsSinceEpoch(0).offsetFromUtc(), 19800);
     QVERIFY(m_bus.isRunning());
     m_daemon = std::make_unique<FakeDaemon>();
     QVERIFY(m_daemon->isOnTheBus());
@@ -79,6 +81,7 @@ void EventReadingTest::readsEveryAttribute()
     QCOMPARE(alarm.alarmTime(), QTime(7, 5));
     QCOMPARE(alarm.triggerTime(), QDateTime::fromSecsSinceEpoch(1298444700));
     QCOMPARE(alarm.triggerTime().timeSpec(), Qt::LocalTime);
+    QCOMPARE(alarm.triggerTime().time(), QTime(12, 50));
     QCOMPARE(alarm.snooze(), quint8(20));
     QVERIFY(alarm.isEnabled());
     QVERIFY(!alarm.isRecurring());
@@ -160,6 +163,16 @@ void EventReadingTest::readsRepeatDays()
     attributes.insert("recurrence", text);
     m_daemon->setAttributes(Listed, attributes);
     QCOMPARE(QmAlarmEvent(Listed).repeatDays(), days);
+}
+
+void EventReadingTest::keepsTheRepeatDaysThatNobodyNames()
+{
+    m_daemon->setAttributes(Listed, sampleAttributes());
+    QmAlarmEvent alarm;
+    alarm.setRepeatDays({5, 1});
+    alarm.fromAstelTimedEvent(Listed);
+    QCOMPARE(alarm.title(), QString::fromUtf8("Früh"));
+    QCOMPARE(alarm.repeatDays(), QList<int>({5, 1}));
 }
 
 void EventReadingTest::readsMissingAttributesAsNothing()

@@ -63,6 +63,7 @@ private slots:
     void sortsAlarmsForTheList();
     void logsTheSorting();
     void failsWithoutADaemon();
+    void sortingWithoutADaemonLeavesTheList();
 
 private:
     Support::PrivateBus m_bus;
@@ -190,9 +191,10 @@ void QmAlarmTest::sortsAlarmsForTheList()
     const quint32 offSix = add(QTime(6, 0), false);
     const quint32 onSoon = add(soon);
     const quint32 offFive = add(QTime(5, 0), false);
+    const QmAlarmEvent unstored = sampleAlarm(QTime(7, 5));
     const QList<quint32> expected{onSoon, onLater, offFive, offSix};
-    const auto sorted = [] {
-        QList<QmAlarmEvent> alarms;
+    const auto sorted = [&unstored] {
+        QList<QmAlarmEvent> alarms{unstored};
         QList<quint32> cookies;
         if (!QmAlarm().queryAndSortAlarmCookies(alarms)) {
             for (const QmAlarmEvent &alarm : std::as_const(alarms))
@@ -228,14 +230,28 @@ void QmAlarmTest::failsWithoutADaemon()
     bool failed = false;
     QVERIFY(QmAlarm().query(failed).isEmpty());
     QVERIFY(failed);
-    QList<QmAlarmEvent> alarms{alarm};
-    QVERIFY(QmAlarm().queryAndSortAlarmCookies(alarms));
-    QCOMPARE(alarms.size(), 1);
     const QStringList lines = log.lines(QtDebugMsg);
+    QCOMPARE(lines.count("QmAlarm::add exited"), 1);
+    QCOMPARE(lines.last(), "QmAlarm::query exited");
     for (const char *what : {"add event", "replace event", "delete event", "query"}) {
         const QRegularExpression line(QString("^Failed to %1\\. Reason : \".+\"$").arg(QLatin1String(what)));
         QVERIFY2(!lines.filter(line).isEmpty(), what);
     }
+    QVERIFY(m_daemon.start());
+}
+
+void QmAlarmTest::sortingWithoutADaemonLeavesTheList()
+{
+    m_daemon.kill();
+    QmAlarmEvent alarm = sampleAlarm(QTime(7, 5));
+    alarm.setCookie(7);
+    QList<QmAlarmEvent> alarms{alarm};
+    const Support::LogCapture log;
+    QVERIFY(QmAlarm().queryAndSortAlarmCookies(alarms));
+    QCOMPARE(alarms.size(), 1);
+    QCOMPARE(alarms.first().cookie(), 7u);
+    QCOMPARE(alarms.first().title(), "Work");
+    QCOMPARE(log.lines(QtDebugMsg).last(), "QmAlarm::query exited");
     QVERIFY(m_daemon.start());
 }
 

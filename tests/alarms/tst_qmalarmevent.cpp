@@ -83,7 +83,12 @@ void QmAlarmEventTest::copiesEveryField()
     alarm.setCookie(7);
     alarm.setAlarmTime(SevenThirty);
     alarm.setTitle("Work");
+    alarm.setTone("/tone.aac");
+    alarm.setApplication("clock");
+    alarm.setEnabled(false);
     alarm.setRepeatDays({1});
+    alarm.setSnooze(20);
+    alarm.setNextTrigger(9);
     QmAlarmEvent copy = alarm;
     alarm.setTitle("Other");
     alarm.setRepeatDays({});
@@ -91,7 +96,12 @@ void QmAlarmEventTest::copiesEveryField()
     QCOMPARE(copy.alarmTime(), SevenThirty);
     QCOMPARE(copy.triggerTime(), alarm.triggerTime());
     QCOMPARE(copy.title(), "Work");
+    QCOMPARE(copy.tone(), "/tone.aac");
+    QCOMPARE(copy.application(), "clock");
+    QVERIFY(!copy.isEnabled());
     QCOMPARE(copy.repeatDays(), QList<int>({1}));
+    QCOMPARE(copy.snooze(), quint8(20));
+    QCOMPARE(copy.nextTrigger(), Q_UINT64_C(9));
 }
 
 void QmAlarmEventTest::anchorsTheTriggerTimeToToday()

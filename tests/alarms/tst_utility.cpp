@@ -61,6 +61,7 @@ private slots:
     void followsSubscriptionsOfItsOwn();
     void tellsTheTimeLeft_data();
     void tellsTheTimeLeft();
+    void tellsTheTimeLeftWhereSummerTimeBegins();
     void logsTheTimeLeftCall();
 
 private:
@@ -73,6 +74,7 @@ private:
 
 void UtilityTest::initTestCase()
 {
+    QCOMPARE(QDateTime::fromSecsSinceEpoch(Now).offsetFromUtc(), 3600);
     QVERIFY(m_bus.isRunning());
     QVERIFY(QCoreApplication::installTranslator(&m_texts));
     QCOMPARE(Utility::instance(), Utility::instance());
@@ -222,6 +224,16 @@ void UtilityTest::tellsTheTimeLeft()
     QFETCH(const qint64, seconds);
     QFETCH(const QString, text);
     QCOMPARE(timeLeft(seconds), text);
+}
+
+void UtilityTest::tellsTheTimeLeftWhereSummerTimeBegins()
+{
+    // A day without the time half past two.
+    const QDateTime now(QDate(2026, 3, 29), QTime(0, 0));
+    const StoppedClock clock(now);
+    QString text;
+    Utility::timeLeftForAlarmToTrigger(time_t(now.toSecsSinceEpoch() + 9000), text);
+    QCOMPARE(text, "in 02:30");
 }
 
 void UtilityTest::logsTheTimeLeftCall()

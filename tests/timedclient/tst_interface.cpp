@@ -5,10 +5,12 @@
 #include "platform/timedclient/event.h"
 #include "tests/support/privatebus.h"
 
+#include <ctime>
 #include <functional>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
+#include <QScopeGuard>
 #include <QTest>
 
 using Astel::Timed::Event;
@@ -35,6 +37,15 @@ public:
     QString error;
 };
 
+/** Seconds east of UTC by the zone that this process has read; asking reads no other one. */
+long offsetOfTheZoneInUse()
+{
+    const std::time_t moment = 0;
+    std::tm local = {};
+    localtime_r(&moment, &local);
+    return local.tm_gmtoff;
+}
+
 class Receiver : public QObject
 {
     Q_OBJECT
@@ -42,13 +53,18 @@ class Receiver : public QObject
 public:
     QList<std::pair<WallClock::Info, bool>> received;
     int calls = 0;
+    long offset = 0;
 
 public slots:
     void timeChanged(const Astel::Timed::WallClock::Info &info, bool timeChanged)
     {
         received.append({info, timeChanged});
     }
-    void changed() { ++calls; }
+    void changed()
+    {
+        ++calls;
+        offset = offsetOfTheZoneInUse();
+    }
     void somethingElse(int) { }
 };
 
@@ -90,6 +106,7 @@ private slots:
     void returnsBeforeTheAnswer();
     void connectsTheSettingsSignal();
     void connectsASlotOfFewerArguments();
+    void readsTheZoneBeforeItTellsOfAnother();
     void refusesASlotThatIsNotThere_data();
     void refusesASlotThatIsNotThere();
 
@@ -272,6 +289,25 @@ void InterfaceTest::connectsASlotOfFewerArguments()
     signal.setArguments({QVariant::fromValue(WallClock::Info{"UTC", 0, false}), false});
     QVERIFY(daemon().send(signal));
     QTRY_COMPARE(receiver.calls, 1);
+}
+
+void InterfaceTest::readsTheZoneBeforeItTellsOfAnother()
+{
+    Interface timed;
+    Receiver receiver;
+    QVERIFY(timed.settings_changed_connect(&receiver, SLOT(changed())));
+    QCOMPARE(offsetOfTheZoneInUse(), 0L);
+    const QByteArray before = qgetenv("TZ");
+    qputenv("TZ", "UTC-5:45");
+    const auto restore = qScopeGuard([&before] {
+        qputenv("TZ", before);
+        tzset();
+    });
+    QDBusMessage signal = QDBusMessage::createSignal(Wire::Path, Wire::Interface, "settings_changed");
+    signal.setArguments({QVariant::fromValue(WallClock::Info{"Asia/Kathmandu", 20700, false}), false});
+    QVERIFY(daemon().send(signal));
+    QTRY_COMPARE(receiver.calls, 1);
+    QCOMPARE(receiver.offset, 20700L);
 }
 
 void InterfaceTest::refusesASlotThatIsNotThere_data()
