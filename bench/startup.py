@@ -4,7 +4,7 @@
 """startup.py [--build BUILD-FOLDER] [--runs N] [--alarms N]: what the clock costs, whole process by whole process.
 
 Prints the time from the start of the application to its mapped window (from the X server's MapNotify), its
-proportional set size two seconds of its own event loop later, and the daemon's proportional set size with that many
+proportional set size once it is idle, and the daemon's proportional set size with that many
 alarms. Runs on a display, a bus and in a home of its own. Needs Xvfb, xev, dbus-daemon and python3-dbus.
 """
 
@@ -12,10 +12,13 @@ import argparse
 import contextlib
 import os
 import pathlib
+import select
 import statistics
 import subprocess
 import tempfile
 import time
+
+import dbus
 
 
 def environment(build, home):
@@ -52,18 +55,36 @@ def wait_until(condition, seconds=10):
         time.sleep(0.01)
 
 
-def time_to_mapped_window(env):
-    """Seconds from the start of the process to the first MapNotify, and the process's set size once it is idle."""
-    with process(["xev", "-root", "-event", "substructure"], env=env, stdout=subprocess.PIPE, bufsize=0) as events:
-        os.set_blocking(events.stdout.fileno(), True)
-        events.stdout.readline()
-        started = time.monotonic()
-        with process(["clock"], env=env, stderr=subprocess.DEVNULL) as clock:
-            while b"MapNotify" not in events.stdout.readline():
-                pass
-            elapsed = time.monotonic() - started
-            wait_until(lambda: is_idle(clock.pid))
-            return elapsed, proportional_set_size(clock.pid)
+class MappedWindows:
+    """The windows that the X server maps, as it tells of them."""
+
+    def __init__(self, env, stack):
+        # Line by line, or the moment would be that of a full buffer.
+        self.events = stack.enter_context(process(["stdbuf", "-oL", "xev", "-root", "-event", "substructure"],
+                                                  env=env, stdout=subprocess.PIPE, bufsize=0)).stdout
+
+    def forget(self):
+        while select.select([self.events], [], [], 0.5)[0]:
+            os.read(self.events.fileno(), 65536)
+
+    def wait(self, seconds=10):
+        seen = b""
+        end = time.monotonic() + seconds
+        while b"MapNotify" not in seen:
+            if not select.select([self.events], [], [], max(0.0, end - time.monotonic()))[0]:
+                raise TimeoutError("no window was mapped")
+            seen += os.read(self.events.fileno(), 65536)
+
+
+def time_to_mapped_window(env, windows):
+    """Seconds from the start of the process to its first window, and the process's set size once it is idle."""
+    windows.forget()
+    started = time.monotonic()
+    with process(["clock"], env=env, stderr=subprocess.DEVNULL) as clock:
+        windows.wait()
+        elapsed = time.monotonic() - started
+        wait_until(lambda: is_idle(clock.pid))
+        return elapsed, proportional_set_size(clock.pid)
 
 
 def is_idle(pid):
@@ -76,10 +97,8 @@ def is_idle(pid):
     return ticks() - before <= 1
 
 
-def add_alarms(address, count):
-    import dbus
-    timed = dbus.Interface(dbus.bus.BusConnection(address).get_object("com.astel.timed", "/com/astel/timed"),
-                           "com.astel.timed")
+def add_alarms(bus, count):
+    timed = dbus.Interface(bus.get_object("com.astel.timed", "/com/astel/timed"), "com.astel.timed")
     for number in range(count):
         recurrence = (dbus.UInt32(1 << number % 24), dbus.UInt64(1 << number % 60), dbus.UInt32(127),
                       dbus.UInt32(0xFFFFFFFE), dbus.UInt32(0x1FFE), True)
@@ -107,18 +126,21 @@ def main():
         stack.enter_context(process(["Xvfb", "-displayfd", str(write), "-screen", "0", "480x854x24"], pass_fds=[write],
                                     stderr=subprocess.DEVNULL))
         env["DISPLAY"] = ":" + os.read(read, 16).decode().strip()
-        bus = stack.enter_context(process(["dbus-daemon", "--session", "--nofork", "--print-address"], env=env,
-                                          stdout=subprocess.PIPE, text=True))
-        env["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
-        timed = stack.enter_context(process(["timed"], env=env))
-        add_alarms(env["DBUS_SESSION_BUS_ADDRESS"], 3)
-        time_to_mapped_window(env)
-        starts = [time_to_mapped_window(env) for _ in range(arguments.runs)]
+        bus_daemon = stack.enter_context(process(["dbus-daemon", "--session", "--nofork", "--print-address"], env=env,
+                                                 stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True))
+        env["DBUS_SESSION_BUS_ADDRESS"] = bus_daemon.stdout.readline().strip()
+        bus = dbus.bus.BusConnection(env["DBUS_SESSION_BUS_ADDRESS"])
+        # The first call starts the daemon.
+        add_alarms(bus, 3)
+        timed = bus.get_object("org.freedesktop.DBus", "/").GetConnectionUnixProcessID("com.astel.timed")
+        windows = MappedWindows(env, stack)
+        time_to_mapped_window(env, windows)
+        starts = [time_to_mapped_window(env, windows) for _ in range(arguments.runs)]
         report("clock: start to mapped window", [1000 * start for start, _ in starts], "ms")
         report("clock: proportional set size", [size for _, size in starts], "MB")
-        add_alarms(env["DBUS_SESSION_BUS_ADDRESS"], arguments.alarms - 3)
-        wait_until(lambda: is_idle(timed.pid))
-        report(f"timed: proportional set size, {arguments.alarms} alarms", [proportional_set_size(timed.pid)], "MB")
+        add_alarms(bus, arguments.alarms - 3)
+        wait_until(lambda: is_idle(timed))
+        report(f"timed: proportional set size, {arguments.alarms} alarms", [proportional_set_size(timed)], "MB")
 
 
 if __name__ == "__main__":

@@ -47,14 +47,16 @@ void drawLine(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, co
 
 void loadClockTheme()
 {
-    static const bool loaded = [] {
-        QString error;
-        const bool ok = Touch::Theme::instance().load(QStringLiteral(":/theme/clockwidgets.json"), &error);
-        // The file is built in; a test reads it.
-        Q_ASSERT_X(ok, "loadClockTheme", qPrintable(error));
-        return ok;
-    }();
-    Q_UNUSED(loaded)
+    static bool loading = false;
+    if (loading)
+        return;
+    // Loading announces a changed theme, on which a list may make its first row and come here again.
+    loading = true;
+    QString error;
+    const bool ok = Touch::Theme::instance().load(QStringLiteral(":/theme/clockwidgets.json"), &error);
+    // The file is built in; a test reads it.
+    Q_ASSERT_X(ok, "loadClockTheme", qPrintable(error));
+    Q_UNUSED(ok)
 }
 
 std::shared_ptr<const Style> partStyle(const Touch::Widget &widget, const QString &styleName)
