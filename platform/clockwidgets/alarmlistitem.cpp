@@ -184,6 +184,11 @@ void AlarmListItem::paintTexts(QPainter &painter, const QRectF &rect) const
         return;
     }
     const auto repeat = partStyle(*this, QStringLiteral("AlarmItemRepeat"));
+    // Without a title nothing hangs below an empty line.
+    if (m_subTitle.isEmpty()) {
+        drawPart(painter, rect, Qt::AlignLeft | Qt::AlignVCenter, *repeat, m_subText);
+        return;
+    }
     const qreal titleHeight = QFontMetricsF(title->font()).height();
     const qreal repeatHeight = QFontMetricsF(repeat->font()).height();
     const qreal gap = 2;
