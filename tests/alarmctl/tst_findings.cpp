@@ -13,7 +13,7 @@ Q_DECLARE_METATYPE(Change)
 namespace {
 
 constexpr qint64 Now = Q_INT64_C(1774747800'000);
-constexpr qint64 Due = Now + 8 * 3600'000 + 12 * 60'000;
+constexpr qint64 Due = Now + 29'520'000;
 
 quint64 nanoseconds(qint64 milliseconds)
 {
