@@ -22,7 +22,8 @@ namespace Astel::Timed {
 
 namespace {
 
-constexpr uint MaximalTriggers = 1000;
+// Each may take a search through decades.
+constexpr uint MaximalTriggers = 100;
 constexpr qint64 MillisecondsOfSecond = 1000;
 
 } // namespace

@@ -22,11 +22,11 @@ QJsonObject encodeAttributes(const Wire::Attributes &attributes)
     return result;
 }
 
-Wire::Attributes decodeAttributes(const QJsonObject &object)
+Wire::Attributes decodeAttributes(const QJsonObject &object, TextPool &pool)
 {
     Wire::Attributes result;
     for (auto it = object.begin(); it != object.end(); ++it)
-        result.insert(it.key(), it.value().toString());
+        result.insert(result.end(), pool.shared(it.key()), pool.shared(it.value().toString()));
     return result;
 }
 
@@ -64,9 +64,9 @@ QString encodeEvent(const Wire::Event &event)
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
-std::optional<Wire::Event> decodeEvent(const QString &text)
+std::optional<Wire::Event> decodeEvent(const QByteArray &text, TextPool &pool)
 {
-    const QJsonObject object = QJsonDocument::fromJson(text.toUtf8()).object();
+    const QJsonObject object = QJsonDocument::fromJson(text).object();
     if (!object["ticker"].isDouble() || !object["attributes"].isObject())
         return std::nullopt;
     Wire::Event event;
@@ -74,7 +74,7 @@ std::optional<Wire::Event> decodeEvent(const QString &text)
     event.flags = quint32(object["flags"].toInteger());
     event.timeoutSnooze = qint32(object["timeoutSnooze"].toInteger());
     event.maximalTimeoutSnoozeCounter = quint32(object["maximalTimeoutSnoozeCounter"].toInteger());
-    event.attributes = decodeAttributes(object["attributes"].toObject());
+    event.attributes = decodeAttributes(object["attributes"].toObject(), pool);
     const QJsonArray recurrences = object["recurrences"].toArray();
     for (const auto &value : recurrences) {
         if (value.toArray().size() != RecurrenceFields)
@@ -83,7 +83,7 @@ std::optional<Wire::Event> decodeEvent(const QString &text)
     }
     const QJsonArray buttons = object["buttons"].toArray();
     for (const auto &value : buttons)
-        event.buttons.append({qint32(value[0].toInteger()), decodeAttributes(value[1].toObject())});
+        event.buttons.append({qint32(value[0].toInteger()), decodeAttributes(value[1].toObject(), pool)});
     return event;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <QSet>
 #include <QString>
 
 namespace Astel::Timed {
@@ -13,7 +14,18 @@ struct Event;
 
 /** An event as a JSON text, as it is stored. */
 QString encodeEvent(const Wire::Event &event);
-/** Nothing where the text is not one of encodeEvent(). */
-std::optional<Wire::Event> decodeEvent(const QString &text);
+
+/** Keeps one copy of what many events hold: the names of their attributes, and most values. */
+class TextPool
+{
+public:
+    QString shared(const QString &text) { return *m_texts.insert(text); }
+
+private:
+    QSet<QString> m_texts;
+};
+
+/** From UTF-8; nothing where the text is not one of encodeEvent(). */
+std::optional<Wire::Event> decodeEvent(const QByteArray &text, TextPool &pool);
 
 } // namespace Astel::Timed

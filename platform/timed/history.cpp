@@ -42,7 +42,8 @@ History::History(const QSqlDatabase &database)
     , m_journal(prepared(database,
                          "SELECT * FROM (SELECT moment, cookie, what, detail, rowid FROM journal WHERE moment >= ?"
                          " ORDER BY moment DESC, rowid DESC LIMIT ?) ORDER BY moment, rowid"))
-    , m_missed(prepared(database, "SELECT cookie, due, noticed, reason, told, event FROM missed ORDER BY due, cookie"))
+    , m_missed(prepared(
+          database, "SELECT cookie, due, noticed, reason, told, CAST(event AS BLOB) FROM missed ORDER BY due, cookie"))
     , m_last(prepared(database, "SELECT max(moment) FROM journal"))
     , m_dropEntries(prepared(database, "DELETE FROM journal WHERE moment < ?"))
     , m_dropMisses(prepared(database, "DELETE FROM missed WHERE told AND noticed < ?"))
@@ -98,10 +99,11 @@ QList<Wire::JournalEntry> History::journal(qint64 since) const
 QList<Miss> History::missed() const
 {
     QList<Miss> result;
+    TextPool pool;
     m_missed.exec();
     while (m_missed.next()) {
         const auto reason = missReasonFromName(m_missed.value(3).toString());
-        const auto event = decodeEvent(m_missed.value(5).toString());
+        const auto event = decodeEvent(m_missed.value(5).toByteArray(), pool);
         const quint32 cookie = m_missed.value(0).toUInt();
         if (reason && event)
             result.append({cookie, m_missed.value(1).toLongLong(), m_missed.value(2).toLongLong(), *reason,

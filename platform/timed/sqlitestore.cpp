@@ -28,10 +28,10 @@ std::optional<qint64> orNothing(const QVariant &value)
     return value.isNull() ? std::nullopt : std::optional(value.toLongLong());
 }
 
-std::optional<AlarmEvent> readEvent(const QSqlQuery &row)
+std::optional<AlarmEvent> readEvent(const QSqlQuery &row, TextPool &pool)
 {
     const auto state = stateFromName(row.value(1).toString());
-    const auto wire = decodeEvent(row.value(6).toString());
+    const auto wire = decodeEvent(row.value(6).toByteArray(), pool);
     if (!state || !wire)
         return std::nullopt;
     return AlarmEvent(
@@ -145,9 +145,12 @@ QList<AlarmEvent> SqliteStore::events() const
     QList<AlarmEvent> result;
     QSqlQuery query(m_database->connection());
     query.setForwardOnly(true);
-    query.exec("SELECT cookie, state, moment, since, last_due, timeout_snoozes, event FROM events ORDER BY cookie");
+    TextPool pool;
+    // As bytes, for SQLite hands out text only by way of UTF-16.
+    query.exec("SELECT cookie, state, moment, since, last_due, timeout_snoozes, CAST(event AS BLOB) FROM events"
+               " ORDER BY cookie");
     while (query.next()) {
-        if (const auto event = readEvent(query))
+        if (const auto event = readEvent(query, pool))
             result.append(*event);
         else
             qCWarning(lcTimed, "ignoring event %u, which cannot be read", query.value(0).toUInt());
