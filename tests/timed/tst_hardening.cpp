@@ -222,6 +222,10 @@ void tst_Hardening::rareMomentsKeepNobodyWaiting()
     rare.recurrences[0].daysOfMonth = 1u << 29;
     rare.recurrences[0].months = 1u << 2;
     rare.recurrences.fill(rare.recurrences[0], 16);
+    rare.recurrences[1] = daily(7, 0).recurrences[0];
+    rare.recurrences[1].minutes = 0;
+    rare.recurrences[2] = daily(7, 0).recurrences[0];
+    rare.recurrences[2].hours = 0;
     for (int i = 0; i < 20; ++i)
         QVERIFY(add(rare) > 0);
     const double before = workDone();

@@ -87,7 +87,8 @@ sys_days startOfNextMonth(const year_month_day &date)
 
 std::optional<qint64> nextMoment(const Rule &rule, const Zone &zone, qint64 after)
 {
-    if (after > Latest)
+    // Without this a rule that no time of the day matches is looked for through all the days there are.
+    if (after > Latest || rule.hours == 0 || rule.minutes == 0)
         return std::nullopt;
     after = std::max(after, Earliest);
     // A time of the day before may be filled in behind a gap, up to the whole day that a zone skipped.
