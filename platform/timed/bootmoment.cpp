@@ -45,22 +45,21 @@ BootMoment::BootMoment(const EventBook &book, const Schedule &schedule, const Cl
     , m_folder(folder)
 {
     // Many changes at once are written once, and nobody waits for it.
-    connect(&schedule, &Schedule::changed, this, [this] {
-        if (!m_pending)
-            QMetaObject::invokeMethod(this, &BootMoment::update, Qt::QueuedConnection);
-        m_pending = true;
-    });
+    m_soon.setSingleShot(true);
+    m_soon.setInterval(0);
+    connect(&m_soon, &QTimer::timeout, this, &BootMoment::update);
+    connect(&schedule, &Schedule::changed, &m_soon, qOverload<>(&QTimer::start));
 }
 
 BootMoment::~BootMoment()
 {
-    if (m_pending)
+    if (m_soon.isActive())
         update();
 }
 
 void BootMoment::update()
 {
-    m_pending = false;
+    m_soon.stop();
     const auto moment = next();
     if (m_known && moment == m_written)
         return;

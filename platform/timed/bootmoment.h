@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <QObject>
+#include <QTimer>
 #include <QVariantMap>
 
 namespace Astel::Timed {
@@ -37,7 +38,7 @@ private:
     const EventBook &m_book;
     const Clock &m_clock;
     const QString m_folder;
-    bool m_pending = false;
+    QTimer m_soon;
     bool m_known = false;
     std::optional<qint64> m_written;
     QString m_problem;

@@ -9,7 +9,7 @@ using namespace Astel::Timed;
 namespace {
 
 const qint64 Seven = utc("2026-11-20T06:00:00"); // in Berlin
-constexpr qint64 FiftySixYears = 56 * 365 * Day;
+constexpr qint64 FiftySixYears = 20440 * Day;
 
 Wire::Event daily7(quint32 days)
 {
