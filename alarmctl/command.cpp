@@ -29,16 +29,10 @@ const auto JournalDetails = QStringLiteral(
     "was missed. JSON has an object for each of these, oldest first, with its moment in milliseconds since the "
     "epoch.\n");
 
-QList<Command> makeCommands()
+QList<Command> alarmCommands()
 {
     const Option off{"off", "", "switched off"};
     const QList<Option> edits{{"time", "HH:MM", "when it rings"}, {"on", "", "switched on"}, off, Json};
-    const QList<Option> rule{{"days", "DAYS", "mon,tue and so on, daily, or weekdays; daily unless given"},
-                             {"zone", "ZONE", "the time zone, as in Europe/Berlin"},
-                             {"after", "EPOCH", "only moments later than this, in seconds since the epoch"},
-                             Count,
-                             {"no-fill", "", "leave out days whose summer time skips the time"},
-                             Json};
     return {
         {"list",
          "",
@@ -58,6 +52,12 @@ QList<Command> makeCommands()
          alarmOptions() + edits,
          {"edit 12 --time 08:00", "edit 12 --days never --off"},
          runEdit},
+    };
+}
+
+QList<Command> switchCommands()
+{
+    return {
         {"on",
          "COOKIE...",
          "Switches alarms on and prints their cookies, which are new where something changed.",
@@ -71,6 +71,18 @@ QList<Command> makeCommands()
          {"off 12"},
          runOff},
         {"remove", "COOKIE...", "Removes alarms.", {}, {"remove 12 13"}, runRemove},
+    };
+}
+
+QList<Command> momentCommands()
+{
+    const QList<Option> rule{{"days", "DAYS", "mon,tue and so on, daily, or weekdays; daily unless given"},
+                             {"zone", "ZONE", "the time zone, as in Europe/Berlin"},
+                             {"after", "EPOCH", "only moments later than this, in seconds since the epoch"},
+                             Count,
+                             {"no-fill", "", "leave out days whose summer time skips the time"},
+                             Json};
+    return {
         {"next",
          "",
          "Shows what rings next: cookie and moment.",
@@ -90,6 +102,12 @@ QList<Command> makeCommands()
          {Json},
          {"watch", "watch --json"},
          runWatch},
+    };
+}
+
+QList<Command> reportCommands()
+{
+    return {
         {"health",
          "",
          "Tells whether the next alarm will ring, and what could be in its way.",
@@ -129,7 +147,7 @@ QString optionLine(const Option &option)
 
 const QList<Command> &allCommands()
 {
-    static const QList<Command> commands = makeCommands();
+    static const QList<Command> commands = alarmCommands() + switchCommands() + momentCommands() + reportCommands();
     return commands;
 }
 

@@ -8,7 +8,9 @@
 #include "platform/context/contextproperty.h"
 #include "platform/timedclient/interface.h"
 
+#include <optional>
 #include <QCoreApplication>
+#include <utility>
 
 namespace {
 
@@ -65,11 +67,13 @@ Result<> runWatch(const CommandLine &line)
         return reached;
     ContextProperty triggers(Settings::TriggerProperty);
     const bool json = line.has("json");
-    bool known = false;
-    // The first value is where the watching starts, not a change.
+    std::optional<QVariantMap> known;
+    // The first value is where the watching starts, and that of a daemon that is back may be the old one.
     QObject::connect(&triggers, &ContextProperty::valueChanged, &triggers, [&] {
-        if (std::exchange(known, true))
-            printTriggers(triggers.value().toMap(), json);
+        const QVariantMap now = triggers.value().toMap();
+        const auto before = std::exchange(known, now);
+        if (before && *before != now)
+            printTriggers(now, json);
     });
     triggers.subscribe();
     QCoreApplication::exec();

@@ -81,5 +81,9 @@ Result<> runWhen(const CommandLine &line)
     while (moments.size() < *count && (moment = Astel::Timed::Rules::nextMoment(*rule, *zone, *moment)))
         moments.append(*moment);
     printMoments(moments, line.has("json"));
+    if (moments.isEmpty())
+        return failure("there is no such moment");
+    if (moments.size() < *count)
+        return failure(QStringLiteral("there are only %1 such moments").arg(moments.size()));
     return Done();
 }

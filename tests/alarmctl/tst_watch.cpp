@@ -21,6 +21,7 @@ class WatchTest : public QObject
 private slots:
     void initTestCase();
     void printsALineForEachChange();
+    void printsNothingForADaemonThatIsBack();
     void tellsMomentsInWords();
 
 private:
@@ -74,6 +75,25 @@ void WatchTest::printsALineForEachChange()
         QCOMPARE(QJsonDocument::fromJson(process.readLine()).object().keys(), wanted);
     }
     QCOMPARE(alarmctl("remove " + c.toUtf8()).exitCode, 0);
+    process.kill();
+    process.waitForFinished();
+}
+
+void WatchTest::printsNothingForADaemonThatIsBack()
+{
+    QProcess process;
+    watch(process, {"--json"});
+    const QString kept = alarmctl("add 12:00").output.trimmed();
+    QTRY_COMPARE(process.peek(MaximalOutput).count('\n'), 1);
+    process.readAllStandardOutput();
+    m_daemon.kill();
+    QVERIFY(m_daemon.start());
+    // The answer to this comes after the daemon was read again, or with it.
+    const QString added = alarmctl("add 13:00").output.trimmed();
+    QTRY_VERIFY(process.peek(MaximalOutput).contains('"' + added.toUtf8() + "\":"));
+    QCOMPARE(process.peek(MaximalOutput).count('\n'), 1);
+    QVERIFY(process.peek(MaximalOutput).contains('"' + kept.toUtf8() + "\":"));
+    QCOMPARE(alarmctl("remove " + kept.toUtf8() + ' ' + added.toUtf8()).exitCode, 0);
     process.kill();
     process.waitForFinished();
 }

@@ -13,6 +13,7 @@ private slots:
     void computesMoments_data();
     void computesMoments();
     void printsAnArray();
+    void saysWhereTheMomentsEnd();
     void needsNoDaemon();
     void refusesNonsense_data();
     void refusesNonsense();
@@ -74,6 +75,18 @@ void WhenTest::printsAnArray()
     const Run run = alarmctl("when 00:00 --zone UTC --after 0 --count 2 --json");
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.json().array(), QJsonArray({86400, 172800}));
+}
+
+void WhenTest::saysWhereTheMomentsEnd()
+{
+    const Run none = alarmctl("when 00:00 --zone UTC --after 253402300799");
+    QCOMPARE(none.exitCode, 1);
+    QCOMPARE(none.output, "");
+    QCOMPARE(none.errors, "alarmctl: there is no such moment\n");
+    const Run few = alarmctl("when 00:00 --zone UTC --after 252137404799 --count 9 --json");
+    QCOMPARE(few.exitCode, 1);
+    QCOMPARE(few.json().array(), QJsonArray({Q_INT64_C(252137404800)}));
+    QCOMPARE(few.errors, "alarmctl: there are only 1 such moments\n");
 }
 
 void WhenTest::needsNoDaemon()
