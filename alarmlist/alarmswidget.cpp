@@ -9,6 +9,7 @@
 #include "alarmlist/notices/spacers.h"
 #include "alarms/qmalarm.h"
 #include "alarms/utility.h"
+#include "app/settings.h"
 #include "editor/repeatsummary.h"
 #include "editor/settingalarmpage.h"
 #include "platform/clockwidgets/alarmlistitem.h"
@@ -29,8 +30,6 @@ using Clock::QmAlarmEvent;
 using Clock::Utility;
 
 namespace {
-
-constexpr unsigned int DefaultSnooze = 10;
 
 QString numberText(qint64 number)
 {
@@ -321,6 +320,6 @@ void AlarmsWidget::alarmClicked()
 void AlarmsWidget::createNewAlarm()
 {
     m_editor = shownEditor();
-    m_editor->loadAlarm(QmAlarmEvent::NotStored, QTime::currentTime(), QString(),
-                        "/usr/share/sounds/ring-tones/Clock alert 1.aac", true, DefaultSnooze);
+    m_editor->loadAlarm(QmAlarmEvent::NotStored, QTime::currentTime(), QString(), Settings::BuiltInTone, true,
+                        Settings::DefaultSnooze);
 }

@@ -10,7 +10,7 @@ namespace Clock {
 
 QString profileTone(const QString &customProfile, const QString &vendorProfile)
 {
-    const QString builtIn = QStringLiteral("/usr/share/sounds/ring-tones/Clock alert 1.aac");
+    const QString builtIn = Settings::BuiltInTone;
     const QSettings custom(customProfile, QSettings::IniFormat);
     if (custom.contains(Settings::ProfileToneKey))
         return custom.value(Settings::ProfileToneKey, builtIn).toString();

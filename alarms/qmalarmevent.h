@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "app/settings.h"
+
 #include <QDateTime>
 #include <QList>
 #include <QString>
@@ -94,7 +96,7 @@ private:
     QString m_application;
     bool m_enabled = true;
     QList<int> m_repeatDays;
-    quint8 m_snooze = 10;
+    quint8 m_snooze = Settings::DefaultSnooze;
     quint64 m_nextTrigger = 0;
 };
 

@@ -21,6 +21,10 @@ inline constexpr QLatin1StringView DefaultAlarmTime("08:00:00");
 inline constexpr QLatin1StringView SnoozeTimeKey("Clock/SnoozeTime");   ///< minutes; 5, 10, 15, 20 or 30
 inline constexpr QLatin1StringView DefaultToneKey("Clock/DefaultTone"); ///< absolute path
 
+// What an alarm starts with where no preference says otherwise.
+inline constexpr int DefaultSnooze = 10; ///< minutes
+inline constexpr QLatin1StringView BuiltInTone("/usr/share/sounds/ring-tones/Clock alert 1.aac");
+
 // Names kept for what is not stored: the page always shows the clock face and the alarms together.
 inline constexpr QLatin1StringView ClockType("analog");
 inline constexpr QLatin1StringView ClockTypeKey("/apps/clock/clocktype");

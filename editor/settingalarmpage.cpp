@@ -26,8 +26,6 @@ using Clock::Utility;
 
 namespace {
 
-constexpr unsigned int DefaultSnooze = 10;
-
 QPointer<SettingAlarmPage> sharedPage;
 
 } // namespace
@@ -76,7 +74,7 @@ void SettingAlarmPage::loadPreferences()
     m_timePicker->setHours(time.hour());
     m_timePicker->setMinutes(time.minute());
     m_tone = m_settings.value(Settings::DefaultToneKey, m_defaultTone).toString();
-    m_snooze = m_settings.value(Settings::SnoozeTimeKey, DefaultSnooze).toUInt();
+    m_snooze = m_settings.value(Settings::SnoozeTimeKey, Settings::DefaultSnooze).toUInt();
 }
 
 void SettingAlarmPage::resetContent()

@@ -24,6 +24,9 @@ void SettingsTest::holdsEveryName_data()
     QTest::newRow("application") << QString(Settings::Application) << "Clock";
     QTest::newRow("snooze time") << QString(Settings::SnoozeTimeKey) << "Clock/SnoozeTime";
     QTest::newRow("default tone") << QString(Settings::DefaultToneKey) << "Clock/DefaultTone";
+    QTest::newRow("built-in tone") << QString(Settings::BuiltInTone)
+                                   << "/usr/share/sounds/ring-tones/Clock alert 1.aac";
+    QTest::newRow("default snooze") << QString::number(Settings::DefaultSnooze) << "10";
     QTest::newRow("custom profile") << QString(Settings::CustomProfile) << "/etc/profiled/97.custom.ini";
     QTest::newRow("vendor profile") << QString(Settings::VendorProfile) << "/etc/profiled/93.korvo.ini";
     QTest::newRow("profile tone") << QString(Settings::ProfileToneKey) << "fallback/clock.alert.tone";
