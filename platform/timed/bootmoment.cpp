@@ -17,8 +17,6 @@ namespace Astel::Timed {
 
 namespace {
 
-constexpr qint64 MillisecondsOfSecond = 1000;
-
 // Both answer what went wrong, or nothing.
 
 QString writeFile(const QString &path, qint64 moment)

@@ -24,7 +24,6 @@ namespace {
 
 // Each may take a search through decades.
 constexpr uint MaximalTriggers = 100;
-constexpr qint64 MillisecondsOfSecond = 1000;
 
 } // namespace
 

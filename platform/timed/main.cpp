@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/daemon.h"
 #include "platform/timed/logging.h"
+#include "platform/timed/moments.h"
 #include "platform/timed/signals.h"
 
 #include <QCoreApplication>
@@ -16,7 +17,6 @@ namespace {
 constexpr auto LocaltimeVariable = "TIMED_LOCALTIME";
 constexpr auto BootFolderVariable = "TIMED_BOOT_FOLDER";
 constexpr auto RingTimeVariable = "TIMED_RING_TIME";
-constexpr qint64 MillisecondsOfSecond = 1000;
 
 Settings readSettings()
 {

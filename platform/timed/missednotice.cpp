@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/missednotice.h"
 
+#include "platform/timed/moments.h"
 #include "platform/timed/rules/zone.h"
 
 #include <algorithm>
@@ -15,7 +16,6 @@ namespace {
 
 constexpr auto TitleAttribute = "TITLE";
 constexpr auto ActionPrefix = "com.astel.timed.ring-now.";
-constexpr qint64 MillisecondsOfSecond = 1000;
 // More do not fit on a notification; all of them are in the journal.
 constexpr int MaximalLines = 8;
 constexpr int MaximalActions = 3;

@@ -12,9 +12,6 @@ namespace Astel::Timed {
 
 namespace {
 
-constexpr qint64 MillisecondsOfSecond = 1000;
-constexpr quint64 NanosecondsOfMillisecond = 1000000;
-
 Rules::Rule toRule(const Wire::Recurrence &recurrence)
 {
     return {recurrence.hours,       recurrence.minutes, recurrence.daysOfWeek,
@@ -25,7 +22,7 @@ Rules::Rule toRule(const Wire::Recurrence &recurrence)
 
 quint64 toNanoseconds(qint64 milliseconds)
 {
-    return quint64(std::max(milliseconds, Q_INT64_C(0))) * NanosecondsOfMillisecond;
+    return quint64(std::max(milliseconds, Q_INT64_C(0))) * quint64(NanosecondsOfMillisecond);
 }
 
 std::optional<qint64> momentAfter(const Wire::Event &event, const Rules::Zone &zone, qint64 after)

@@ -14,6 +14,9 @@ namespace Wire {
 struct Event;
 }
 
+inline constexpr qint64 MillisecondsOfSecond = 1000;
+inline constexpr qint64 NanosecondsOfMillisecond = 1000000;
+
 /** Moments are milliseconds since the epoch in the daemon, nanoseconds on the bus; those before the epoch become 0. */
 quint64 toNanoseconds(qint64 milliseconds);
 

@@ -5,6 +5,7 @@
 #include "platform/timed/database.h"
 #include "platform/timed/eventcodec.h"
 #include "platform/timed/logging.h"
+#include "platform/timed/moments.h"
 
 #include <cstdlib>
 #include <QSqlDatabase>
@@ -16,7 +17,6 @@ namespace {
 
 constexpr qint64 Day = Q_INT64_C(86400) * 1000;
 constexpr int CommitsBetweenSnapshots = 10;
-constexpr quint64 NanosecondsOfMillisecond = 1000000;
 
 QVariant orNull(std::optional<qint64> moment)
 {
@@ -173,7 +173,7 @@ QVariantMap SqliteStore::facts() const
                       {"store_restored", m_database->wasRestored()}};
     QSqlQuery query("SELECT restored FROM counter", m_database->connection());
     if (query.next() && !query.value(0).isNull())
-        facts.insert("store_restored_moment", query.value(0).toULongLong() * NanosecondsOfMillisecond);
+        facts.insert("store_restored_moment", toNanoseconds(query.value(0).toLongLong()));
     return facts;
 }
 

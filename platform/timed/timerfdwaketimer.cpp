@@ -3,6 +3,7 @@
 #include "platform/timed/timerfdwaketimer.h"
 
 #include "platform/timed/logging.h"
+#include "platform/timed/moments.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -15,8 +16,6 @@ namespace Astel::Timed {
 
 namespace {
 
-constexpr qint64 MillisecondsOfSecond = 1000;
-constexpr qint64 NanosecondsOfMillisecond = 1000000;
 // Without an alarm ahead the timer waits for the year 2242, so that it still tells of a set clock.
 constexpr qint64 FarAway = (Q_INT64_C(1) << 33) * MillisecondsOfSecond;
 // The timer is read back some time after it was armed.

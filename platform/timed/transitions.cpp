@@ -12,7 +12,6 @@ namespace Astel::Timed {
 
 namespace {
 
-constexpr qint64 MillisecondsOfSecond = 1000;
 constexpr qint64 MillisecondsOfMinute = 60000;
 
 qint64 snoozeEnd(const AlarmEvent &event, qint64 from, qint64 length)
