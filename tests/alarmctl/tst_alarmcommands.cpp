@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "alarms/utility.h"
 #include "tests/alarmctl/alarmctl.h"
 #include "tests/support/privatebus.h"
 
@@ -114,7 +115,7 @@ void AlarmCommandsTest::addsAnAlarmWithDefaults()
     QCOMPARE(alarm["enabled"], QJsonValue(true));
     QCOMPARE(alarm["days"].toArray(), QJsonArray());
     QCOMPARE(alarm["snooze"].toInt(), 10);
-    QCOMPARE(alarm["tone"].toString(), "/usr/share/sounds/ring-tones/Clock alert 1.aac");
+    QCOMPARE(alarm["tone"].toString(), Clock::Utility::defaultAlertTone());
     QVERIFY(alarm["nextTrigger"].isDouble());
     const qint64 nanoseconds = alarm["nextTrigger"].toInteger();
     const QDateTime trigger = QDateTime::fromMSecsSinceEpoch(nanoseconds / 1000000);
@@ -166,7 +167,7 @@ void AlarmCommandsTest::startsFromThePreferences()
     settings.sync();
     QVERIFY(add("06:00") > 0);
     QCOMPARE(onlyAlarm()["snooze"].toInt(), 10);
-    QCOMPARE(onlyAlarm()["tone"].toString(), "/usr/share/sounds/ring-tones/Clock alert 1.aac");
+    QCOMPARE(onlyAlarm()["tone"].toString(), Clock::Utility::defaultAlertTone());
     settings.clear();
     settings.sync();
 }
