@@ -3,6 +3,7 @@
 #include "platform/toolkit/pannableviewport.h"
 
 #include "platform/toolkit/contentlayout_p.h"
+#include "platform/toolkit/moveclock_p.h"
 
 #include <cmath>
 #include <QFocusEvent>
@@ -10,6 +11,7 @@
 #include <QGraphicsSceneMouseEvent>
 #include <QGraphicsSceneWheelEvent>
 #include <QTimerEvent>
+#include <utility>
 
 namespace Touch {
 
@@ -150,7 +152,7 @@ void PannableViewport::startPanning(const QGraphicsSceneMouseEvent *event)
     m_lastPos = mapFromScene(event->scenePos());
     m_grip = m_lastPos + QPointF(m_x.dragPosition(), m_y.dragPosition());
     m_velocity = {};
-    m_moveClock.start();
+    m_movedAt = moveTime();
     // Takes the mouse from the control that was pressed, which cancels its press.
     grabMouse();
 }
@@ -158,7 +160,8 @@ void PannableViewport::startPanning(const QGraphicsSceneMouseEvent *event)
 void PannableViewport::pan(const QGraphicsSceneMouseEvent *event)
 {
     const QPointF at = mapFromScene(event->scenePos());
-    const qreal seconds = qMax(0.001, m_moveClock.restart() / 1000.0);
+    const qint64 now = moveTime();
+    const qreal seconds = qMax(0.001, (now - std::exchange(m_movedAt, now)) / 1000.0);
     m_velocity = m_velocity * (1 - smoothing) + (m_lastPos - at) / seconds * smoothing;
     m_lastPos = at;
     if (pans(Qt::Horizontal))
@@ -174,7 +177,7 @@ void PannableViewport::release()
     if (!m_isPanning)
         return;
     m_isPanning = false;
-    const bool isStale = m_moveClock.elapsed() / 1000.0 > staleMove;
+    const bool isStale = (moveTime() - m_movedAt) / 1000.0 > staleMove;
     m_x.flick(pans(Qt::Horizontal) && !isStale ? m_velocity.x() : 0);
     m_y.flick(pans(Qt::Vertical) && !isStale ? m_velocity.y() : 0);
     startMoving();

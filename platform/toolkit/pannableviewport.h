@@ -84,7 +84,7 @@ private:
     QPointF m_grip; ///< where on the widget the finger holds it
     QPointF m_lastPos;
     QPointF m_velocity;
-    QElapsedTimer m_moveClock;
+    qint64 m_movedAt = 0; ///< milliseconds
 
     // While it runs on
     QBasicTimer m_timer;
