@@ -38,6 +38,7 @@ private slots:
     void cleanup();
     void aNewAlarmStartsWithTheDefaults();
     void aNewAlarmTakesThePreferences();
+    void aNewAlarmTakesPreferencesWrittenByHand();
     void anExistingAlarmBringsItsOwnValues();
     void onlyAnExistingAlarmCanBeDeleted();
     void aMissingToneIsReplacedByTheDefault();
@@ -160,6 +161,19 @@ void TestSettingAlarmPage::aNewAlarmTakesThePreferences()
     const QmAlarmEvent stored(m_page->getAlarmCookie());
     QCOMPARE(stored.snooze(), 5);
     QCOMPARE(stored.tone(), m_tone);
+}
+
+void TestSettingAlarmPage::aNewAlarmTakesPreferencesWrittenByHand()
+{
+    QSettings settings("Korvo", "Clock");
+    settings.setValue("Clock/DefaultAlarmTime", "06:45:00");
+    settings.setValue("Clock/SnoozeTime", "266");
+    settings.sync();
+    load(QmAlarmEvent::NotStored);
+    QCOMPARE(pickedTime(), QTime(6, 45));
+    m_page->saveAlarm();
+    // Of the minutes the record keeps eight bits.
+    QCOMPARE(QmAlarmEvent(m_page->getAlarmCookie()).snooze(), 10);
 }
 
 void TestSettingAlarmPage::anExistingAlarmBringsItsOwnValues()
