@@ -13,10 +13,30 @@
 
 using Touch::Locale;
 
+namespace {
+
+/** Says which alarm it switches. */
+class RowSwitch : public Touch::Switch
+{
+public:
+    explicit RowSwitch(const AlarmListItem *row, QGraphicsItem *parent)
+        : Switch(parent)
+        , m_row(row)
+    { }
+
+protected:
+    QString shownText() const override { return m_row->accessibleName(); }
+
+private:
+    const AlarmListItem *m_row;
+};
+
+} // namespace
+
 AlarmListItem::AlarmListItem(ItemStyle style, QGraphicsItem *parent)
     : Widget(parent)
     , m_itemStyle(style)
-    , m_switch(new Touch::Switch(this))
+    , m_switch(new RowSwitch(this, this))
 {
     loadClockTheme();
     setFocusPolicy(Qt::TabFocus);
@@ -68,7 +88,11 @@ bool AlarmListItem::enabled() const
 
 void AlarmListItem::setEnabled(bool enabled)
 {
+    if (m_switch->isChecked() == enabled)
+        return;
     m_switch->setChecked(enabled);
+    // Only a flip is seen to slide: the cell may just have become that of another alarm.
+    m_switch->settle();
 }
 
 void AlarmListItem::setSnoozeValue(unsigned char minutes)
@@ -197,6 +221,23 @@ void AlarmListItem::paintTexts(QPainter &painter, const QRectF &rect) const
              m_subTitle);
     drawPart(painter, {rect.left(), top + titleHeight + gap, rect.width(), repeatHeight},
              Qt::AlignLeft | Qt::AlignVCenter, *repeat, m_subText);
+}
+
+QString AlarmListItem::shownText() const
+{
+    QStringList texts{timeText(Locale::getDefault(), m_title).whole(), m_subTitle, m_subText};
+    texts.removeAll(QString());
+    return texts.join(QLatin1String(", "));
+}
+
+QStringList AlarmListItem::accessibleActions() const
+{
+    return {QAccessibleActionInterface::pressAction()};
+}
+
+void AlarmListItem::doAccessibleAction(const QString &)
+{
+    Q_EMIT clicked();
 }
 
 void AlarmListItem::setPressed(bool pressed)

@@ -46,6 +46,9 @@ public:
     ItemStyle itemStyle() const { return m_itemStyle; }
     void setItemStyle(ItemStyle style);
 
+    QAccessible::Role accessibleRole() const override { return QAccessible::ListItem; }
+    QStringList accessibleActions() const override;
+    void doAccessibleAction(const QString &name) override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 Q_SIGNALS:
@@ -55,6 +58,8 @@ Q_SIGNALS:
     void alarmStateChanged();
 
 protected:
+    /// Time, title and repeat text; the switch bears the same name.
+    QString shownText() const override;
     void resizeEvent(QGraphicsSceneResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;

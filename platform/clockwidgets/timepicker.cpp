@@ -76,6 +76,7 @@ void TimePicker::setTime(int hours, int minutes)
     if (isOtherHalf)
         updateTexts();
     update();
+    announce();
     Q_EMIT timeChanged(m_hours, m_minutes);
 }
 

@@ -15,7 +15,7 @@ enum class ClockHand;
 /// day; the minute dragged past the top leaves the hour alone, so that each ring sets one thing.
 /// Wheel: the ring under the pointer. Keys: left and right choose hour or minute, up and down one step, page up and
 /// down five minutes or half a day.
-class TimePicker : public Touch::Widget
+class TimePicker : public Touch::Widget, private QAccessibleValueInterface
 {
     Q_OBJECT
     Q_PROPERTY(int hours READ hours WRITE setHours)
@@ -35,6 +35,12 @@ public:
     QPointF hourHandle() const;
     QPointF minuteHandle() const;
 
+    QAccessible::Role accessibleRole() const override { return QAccessible::Dial; }
+    /// In minutes from the start of the day.
+    QAccessibleValueInterface *accessibleValue() override { return this; }
+    /// Steps of the hand that the keys move.
+    QStringList accessibleActions() const override;
+    void doAccessibleAction(const QString &name) override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 Q_SIGNALS:
@@ -45,6 +51,7 @@ Q_SIGNALS:
     void discReleased();
 
 protected:
+    QString shownText() const override;
     void styleChanged() override;
     void resizeEvent(QGraphicsSceneResizeEvent *event) override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
@@ -57,6 +64,13 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    QVariant currentValue() const override;
+    void setCurrentValue(const QVariant &value) override;
+    QVariant maximumValue() const override;
+    QVariant minimumValue() const override;
+    QVariant minimumStepSize() const override;
+    void announce();
+
     void setTime(int hours, int minutes);
     void step(ClockHand hand, int steps);
     void press(ClockHand hand, const QPointF &point);

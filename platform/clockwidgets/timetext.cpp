@@ -6,6 +6,13 @@
 
 using Touch::Locale;
 
+QString TimeText::whole() const
+{
+    if (marker.isEmpty())
+        return digits;
+    return markerFirst ? marker + u' ' + digits : digits + u' ' + marker;
+}
+
 TimeText timeText(const Locale &locale, const QTime &time)
 {
     if (!time.isValid())

@@ -15,6 +15,9 @@ struct TimeText
     QString digits;
     QString marker; ///< empty with 24 hours
     bool markerFirst = false;
+
+    /// All of it, as it is read out.
+    QString whole() const;
 };
 
 /// Empty for an invalid time.

@@ -140,9 +140,28 @@ void WorldClock::paintDigits(QPainter &painter, const QRectF &rect) const
 
 void WorldClock::paintDate(QPainter &painter, const QRectF &rect) const
 {
+    drawPart(painter, rect, Qt::AlignCenter, *partStyle(*this, QStringLiteral("ClockDate")), dateText());
+}
+
+QString WorldClock::dateText() const
+{
     const Locale &locale = Locale::getDefault();
-    const QString date = locale.formatDateTimeICU(m_now, locale.icuFormatString(QStringLiteral("MMMMEEEEd")));
-    drawPart(painter, rect, Qt::AlignCenter, *partStyle(*this, QStringLiteral("ClockDate")), date);
+    return locale.formatDateTimeICU(m_now, locale.icuFormatString(QStringLiteral("MMMMEEEEd")));
+}
+
+QString WorldClock::shownText() const
+{
+    return timeText(Locale::getDefault(), m_now.time()).whole() + QLatin1String(", ") + dateText();
+}
+
+QStringList WorldClock::accessibleActions() const
+{
+    return {QAccessibleActionInterface::pressAction()};
+}
+
+void WorldClock::doAccessibleAction(const QString &)
+{
+    showOtherFace();
 }
 
 void WorldClock::mousePressEvent(QGraphicsSceneMouseEvent *event)

@@ -30,12 +30,16 @@ public:
     /// What is shown now.
     QDateTime shownTime() const { return m_now; }
 
+    QAccessible::Role accessibleRole() const override { return QAccessible::Clock; }
+    QStringList accessibleActions() const override;
+    void doAccessibleAction(const QString &name) override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 Q_SIGNALS:
     void faceChanged(WorldClock::Face face);
 
 protected:
+    QString shownText() const override;
     void styleChanged() override;
     void enterDisplay() override;
     void exitDisplay() override;
@@ -49,6 +53,7 @@ private:
     void applyStyle();
     void localeChanged();
     void showOtherFace();
+    QString dateText() const;
     void paintDigits(QPainter &painter, const QRectF &rect) const;
     void paintDate(QPainter &painter, const QRectF &rect) const;
 

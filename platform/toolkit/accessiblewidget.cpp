@@ -101,14 +101,14 @@ void *AccessibleWidget::interface_cast(QAccessible::InterfaceType type)
 {
     if (type == QAccessible::ActionInterface)
         return static_cast<QAccessibleActionInterface *>(this);
+    if (type == QAccessible::ValueInterface)
+        return widget()->accessibleValue();
     return QAccessibleObject::interface_cast(type);
 }
 
 QStringList AccessibleWidget::actionNames() const
 {
-    QStringList names;
-    if (const auto *button = qobject_cast<const Button *>(object()); button && button->isEnabled())
-        names << (button->isCheckable() ? toggleAction() : pressAction());
+    QStringList names = widget()->isEnabled() ? widget()->accessibleActions() : QStringList();
     if (widget()->flags().testFlag(QGraphicsItem::ItemIsFocusable))
         names << setFocusAction();
     return names;
@@ -121,7 +121,7 @@ void AccessibleWidget::doAction(const QString &name)
     if (name == setFocusAction())
         widget()->setFocus(Qt::OtherFocusReason);
     else
-        qobject_cast<Button *>(object())->click();
+        widget()->doAccessibleAction(name);
 }
 
 QStringList AccessibleWidget::keyBindingsForAction(const QString &) const

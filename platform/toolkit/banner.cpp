@@ -39,9 +39,21 @@ QString Banner::title() const
 
 void Banner::setTitle(const QString &title)
 {
+    if (m_label->text() == title)
+        return;
     m_label->setText(title);
-    if (isOnDisplay())
-        setGeometry(placement(scene()->sceneRect().size()));
+    if (!isOnDisplay())
+        return;
+    setGeometry(placement(scene()->sceneRect().size()));
+    announce();
+}
+
+void Banner::announce()
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent event(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 void Banner::setDisplayTime(int milliseconds)
@@ -65,6 +77,7 @@ void Banner::aboutToAppear()
             other->disappear();
     }
     m_timer.start(m_displayTime, this);
+    announce();
 }
 
 void Banner::setTransition(qreal progress)

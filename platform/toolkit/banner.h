@@ -45,6 +45,8 @@ protected:
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
 
 private:
+    void announce();
+
     Label *m_label;
     int m_displayTime = 3000;
     QBasicTimer m_timer;

@@ -177,6 +177,16 @@ QAccessible::Role Button::accessibleRole() const
     return m_isCheckable ? QAccessible::CheckBox : QAccessible::Button;
 }
 
+QStringList Button::accessibleActions() const
+{
+    return {m_isCheckable ? QAccessibleActionInterface::toggleAction() : QAccessibleActionInterface::pressAction()};
+}
+
+void Button::doAccessibleAction(const QString &)
+{
+    click();
+}
+
 QString Button::shownText() const
 {
     return text();

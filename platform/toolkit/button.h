@@ -46,6 +46,8 @@ public:
     void click();
 
     QAccessible::Role accessibleRole() const override;
+    QStringList accessibleActions() const override;
+    void doAccessibleAction(const QString &name) override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 signals:

@@ -59,11 +59,16 @@ void Switch::setKnob(qreal position)
     update();
 }
 
-void Switch::exitDisplay()
+void Switch::settle()
 {
     if (m_animation)
         m_animation->stop();
     setKnob(isChecked() ? 1 : 0);
+}
+
+void Switch::exitDisplay()
+{
+    settle();
     Button::exitDisplay();
 }
 

@@ -17,6 +17,9 @@ public:
     explicit Switch(QGraphicsItem *parent = nullptr);
     ~Switch() override;
 
+    /** Ends the slide that a change of state began: the knob stands where it belongs. */
+    void settle();
+
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 protected:

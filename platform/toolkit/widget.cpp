@@ -61,6 +61,18 @@ QAccessible::Role Widget::accessibleRole() const
     return QAccessible::Grouping;
 }
 
+QAccessibleValueInterface *Widget::accessibleValue()
+{
+    return nullptr;
+}
+
+QStringList Widget::accessibleActions() const
+{
+    return {};
+}
+
+void Widget::doAccessibleAction(const QString &) { }
+
 QString Widget::shownText() const
 {
     return {};

@@ -40,6 +40,11 @@ public:
     QString accessibleName() const;
     void setAccessibleName(const QString &name);
     virtual QAccessible::Role accessibleRole() const;
+    /** What it is set to, if that is a number; otherwise null. */
+    virtual QAccessibleValueInterface *accessibleValue();
+    /** What else than giving it the focus may be done with it, by QAccessibleActionInterface's names. */
+    virtual QStringList accessibleActions() const;
+    virtual void doAccessibleAction(const QString &name);
 
     /** The contents rectangle less the style's padding, mirrored for right-to-left. */
     QRectF paddedRect() const;

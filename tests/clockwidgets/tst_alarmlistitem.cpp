@@ -8,6 +8,9 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QVariantAnimation>
+
+#include <algorithm>
 
 using Touch::Locale;
 
@@ -63,6 +66,8 @@ private Q_SLOTS:
     void standsTheOtherWayRoundFromRightToLeft();
     void isAsHighAsAFingerNeeds();
     void hasASwitchForFingers();
+    void isReadAndOpenedWithoutBeingSeen();
+    void onlyAFlipIsSeenToSlide();
 };
 
 void tst_AlarmListItem::init()
@@ -253,6 +258,43 @@ void tst_AlarmListItem::hasASwitchForFingers()
     const QGraphicsItem *toggle = item.childItems().constFirst();
     QVERIFY(toggle->boundingRect().width() >= 52);
     QVERIFY(toggle->boundingRect().height() >= 48);
+}
+
+void tst_AlarmListItem::isReadAndOpenedWithoutBeingSeen()
+{
+    Scene scene;
+    scene.item->setSubText("Mon, Tue");
+    QAccessibleInterface *row = QAccessible::queryAccessibleInterface(scene.item);
+    QCOMPARE(row->role(), QAccessible::ListItem);
+    QCOMPARE(row->text(QAccessible::Name).simplified(), "7:30 AM, Work, Mon, Tue");
+    row->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(scene.clicks.size(), 1);
+
+    QCOMPARE(row->childCount(), 1);
+    QAccessibleInterface *toggle = row->child(0);
+    QCOMPARE(toggle->role(), QAccessible::CheckBox);
+    QCOMPARE(toggle->text(QAccessible::Name), row->text(QAccessible::Name));
+    toggle->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QCOMPARE(scene.flips.size(), 1);
+    QVERIFY(toggle->state().checked);
+}
+
+void tst_AlarmListItem::onlyAFlipIsSeenToSlide()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    const auto isSliding = [&scene] {
+        const QGraphicsItem *toggle = scene.item->childItems().constFirst();
+        const auto animations = toggle->toGraphicsObject()->findChildren<QVariantAnimation *>();
+        return std::any_of(animations.begin(), animations.end(),
+                           [](const auto *animation) { return animation->state() == QAbstractAnimation::Running; });
+    };
+    scene.item->setEnabled(true);
+    QVERIFY(!isSliding());
+    scene.stage.tap(scene.onTheSwitch());
+    QVERIFY(isSliding());
+    scene.item->setEnabled(false);
+    QVERIFY2(isSliding(), "it is off already");
 }
 
 QTEST_MAIN(tst_AlarmListItem)

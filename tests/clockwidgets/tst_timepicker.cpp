@@ -59,6 +59,7 @@ private Q_SLOTS:
     void foldsAnyNumber_data();
     void foldsAnyNumber();
     void tellsOnlyRealChanges();
+    void isReadAndSetWithoutBeingSeen();
     void dragsTheHour();
     void theHourGoesOnIntoTheOtherHalfOfTheDay();
     void dragsTheMinute();
@@ -108,6 +109,27 @@ void tst_TimePicker::foldsAnyNumber()
     changed.setHours(hours);
     changed.setMinutes(minutes);
     QCOMPARE(QTime(changed.hours(), changed.minutes()), time);
+}
+
+void tst_TimePicker::isReadAndSetWithoutBeingSeen()
+{
+    Locale::setDefault(Locale(u"en_GB"_qs));
+    Scene scene(7, 5);
+    QAccessibleInterface *picker = QAccessible::queryAccessibleInterface(scene.picker);
+    QCOMPARE(picker->role(), QAccessible::Dial);
+    QCOMPARE(picker->text(QAccessible::Name), "07:05");
+    QAccessibleValueInterface *value = picker->valueInterface();
+    QVERIFY(value);
+    QCOMPARE(value->currentValue().toInt(), 7 * 60 + 5);
+    QCOMPARE(value->minimumValue().toInt(), 0);
+    QCOMPARE(value->maximumValue().toInt(), 24 * 60 - 1);
+
+    value->setCurrentValue(21 * 60 + 40);
+    QCOMPARE(scene.time(), QTime(21, 40));
+    picker->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+    QCOMPARE(scene.time(), QTime(22, 40));
+    picker->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
+    QCOMPARE(scene.time(), QTime(21, 40));
 }
 
 void tst_TimePicker::tellsOnlyRealChanges()

@@ -56,6 +56,7 @@ class tst_WorldClock : public QObject
 
 private Q_SLOTS:
     void init();
+    void isReadWithoutBeingSeen();
     void ticksOnlyWhileDisplayed();
     void ticksNotInAMinimisedWindow();
     void showsTheTimeAtOnceWhenItComesBack();
@@ -71,6 +72,18 @@ private Q_SLOTS:
 void tst_WorldClock::init()
 {
     Locale::setDefault(Locale(u"en_US"_qs));
+}
+
+void tst_WorldClock::isReadWithoutBeingSeen()
+{
+    Scene scene;
+    QAccessibleInterface *clock = QAccessible::queryAccessibleInterface(scene.clock);
+    QCOMPARE(clock->role(), QAccessible::Clock);
+    const QString name = clock->text(QAccessible::Name).simplified();
+    QVERIFY2(name.startsWith("10:09"), qPrintable(name));
+    QVERIFY2(name.endsWith("Monday, March 9"), qPrintable(name));
+    clock->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(scene.clock->face(), WorldClock::Face::Digital);
 }
 
 void tst_WorldClock::ticksOnlyWhileDisplayed()

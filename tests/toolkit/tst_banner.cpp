@@ -25,6 +25,7 @@ private slots:
     void takesNeitherFocusNorBackStep();
     void fitsItsTitle();
     void showsTheNextTextAtOnce();
+    void isAnAlertForThoseWhoDoNotSeeIt();
 
 private:
     ApplicationWindow *m_window = nullptr;
@@ -128,6 +129,16 @@ void TestBanner::showsTheNextTextAtOnce()
     QVERIFY(banner.isVisible());
     QCOMPARE(banner.opacity(), 1.0);
     QCOMPARE(banner.title(), QStringLiteral("Second"));
+}
+
+void TestBanner::isAnAlertForThoseWhoDoNotSeeIt()
+{
+    Banner banner;
+    banner.setTitle(QStringLiteral("Saved"));
+    banner.appear(m_window);
+    QAccessibleInterface *alert = QAccessible::queryAccessibleInterface(&banner);
+    QCOMPARE(alert->role(), QAccessible::AlertMessage);
+    QCOMPARE(alert->text(QAccessible::Name), QStringLiteral("Saved"));
 }
 
 QTEST_MAIN(TestBanner)
