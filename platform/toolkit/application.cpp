@@ -9,6 +9,7 @@
 
 #include <QEvent>
 #include <QFile>
+#include <QIcon>
 #include <QLoggingCategory>
 
 namespace Touch {
@@ -26,6 +27,8 @@ Application::Application(int &argc, char **argv, const QString &appIdentifier, A
     if (m_service && !m_service->registerService())
         m_service->handleServiceRegistrationFailure();
     loadTheme();
+    if (const QString icon = QStringLiteral(":/icons/%1.svg").arg(appIdentifier); QFile::exists(icon))
+        setWindowIcon(QIcon(icon));
     Locale &locale = Locale::getDefault();
     locale.connectSettings();
     if (!locale.installTrCatalog(appIdentifier))

@@ -11,8 +11,8 @@ class ApplicationService;
 class ApplicationWindow;
 
 /**
- * The application: owns the service, and loads what bears its identifier, the theme ":/theme/<identifier>.json" and the
- * translation catalogue. What is not there is left out.
+ * The application: owns the service, and loads what bears its identifier, the theme ":/theme/<identifier>.json", the
+ * icon of its windows ":/icons/<identifier>.svg" and the translation catalogue. What is not there is left out.
  */
 class Application : public QApplication
 {

@@ -8,11 +8,9 @@
 
 namespace Touch {
 
-class PannableViewport;
-
 /**
- * A page that fills its window. Its content is made once, when it first appears. The central widget lies
- * straight on the page, or in a viewport if the page is pannable.
+ * A page that fills its window. Its content is made once, when it first appears. The page itself does not
+ * pan: what shall, lies in a viewport on the central widget.
  */
 class ApplicationPage : public SceneWindow
 {

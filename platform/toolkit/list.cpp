@@ -284,6 +284,12 @@ void List::placeCell(int row, Widget *cell)
 void List::styleChanged()
 {
     Widget::styleChanged();
+    // Later: the creator may not have heard of the new style yet.
+    QMetaObject::invokeMethod(this, &List::followCellSize, Qt::QueuedConnection);
+}
+
+void List::followCellSize()
+{
     if (m_creator && m_rows.rowHeight() != m_creator->cellSize().height())
         rebuild();
 }

@@ -67,6 +67,7 @@ private:
     void rowsRemoved(int first, int last);
     void dataChanged(int first, int last);
     void rebuild();
+    void followCellSize();
     void rekey(int first, int by);
 
     bool isChangeAnimated(int first, int last) const;
