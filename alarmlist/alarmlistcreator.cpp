@@ -26,8 +26,15 @@ AlarmListItem::ItemStyle styleFor(const QString &repeatText)
 
 AlarmListCreator::AlarmListCreator(AlarmsWidget *alarmsWidget)
     : m_alarmsWidget(alarmsWidget)
-    , m_cellSize(AlarmListItem(styleFor(QString())).effectiveSizeHint(Qt::PreferredSize))
+    , m_pattern(std::make_unique<AlarmListItem>(styleFor(QString())))
 { }
+
+AlarmListCreator::~AlarmListCreator() = default;
+
+QSizeF AlarmListCreator::cellSize() const
+{
+    return m_pattern->effectiveSizeHint(Qt::PreferredSize);
+}
 
 Touch::Widget *AlarmListCreator::createCell(const QModelIndex &index, Touch::WidgetRecycler &recycler)
 {

@@ -4,8 +4,10 @@
 
 #include "platform/toolkit/cellcreator.h"
 
+#include <memory>
 #include <QSizeF>
 
+class AlarmListItem;
 class AlarmsWidget;
 
 /**
@@ -16,14 +18,15 @@ class AlarmListCreator : public Touch::CellCreator
 {
 public:
     explicit AlarmListCreator(AlarmsWidget *alarmsWidget);
+    ~AlarmListCreator() override;
 
     Touch::Widget *createCell(const QModelIndex &index, Touch::WidgetRecycler &recycler) override;
     /** Overwrites everything the cell shows, except that an empty tone leaves the cell's tone. */
     void updateCell(const QModelIndex &index, Touch::Widget *cell) override;
-    /** All cells are as tall as a new one. */
-    QSizeF cellSize() const override { return m_cellSize; }
+    /** All cells are as tall as a new one; another theme may change it. */
+    QSizeF cellSize() const override;
 
 private:
     AlarmsWidget *m_alarmsWidget;
-    QSizeF m_cellSize;
+    std::unique_ptr<AlarmListItem> m_pattern;
 };

@@ -283,10 +283,8 @@ void AlarmsWidget::invertAlarmState(AlarmListItem *listItem)
     record.setCookie(newCookie);
     if (position >= 0)
         m_alarms[position] = record;
-    if (record.isEnabled()) {
-        m_switchedItem = listItem;
+    if (record.isEnabled())
         m_justEnabled = true;
-    }
     if (rows.size() == 1) {
         setColumn(rows.first().row(), "AlarmStatus", numberText(record.isEnabled() ? 1 : 0));
         setColumn(rows.first().row(), "AlarmCookie", numberText(newCookie));

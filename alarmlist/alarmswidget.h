@@ -80,7 +80,6 @@ private:
     QList<Clock::QmAlarmEvent> m_alarms; ///< row i of the model shows record i
     Touch::PannableViewport *m_viewport;
     bool m_justEnabled = false;
-    QPointer<AlarmListItem> m_switchedItem; ///< the cell of the alarm just switched on
 
     // Built once.
     Touch::Widget *m_headerPanel = nullptr;

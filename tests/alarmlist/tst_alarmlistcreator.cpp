@@ -6,10 +6,12 @@
 #include "alarmlist/alarmswidget.h"
 #include "platform/clockwidgets/alarmlistitem.h"
 #include "platform/toolkit/pannableviewport.h"
+#include "platform/toolkit/theme.h"
 #include "platform/toolkit/widgetrecycler.h"
 #include "tests/support/look/look.h"
 #include "tests/support/privatebus.h"
 
+#include <QTemporaryFile>
 #include <QTest>
 
 class TestAlarmListCreator : public QObject
@@ -29,6 +31,7 @@ private slots:
     void aRecycledCellIsUsedAsItStands();
     void aTapReachesTheAlarmsWidgetOnce();
     void allCellsAreAsTallAsANewOne();
+    void anotherThemeMayMakeCellsTaller();
 
 private:
     void setRow(const QStringList &texts);
@@ -161,6 +164,17 @@ void TestAlarmListCreator::allCellsAreAsTallAsANewOne()
 {
     QCOMPARE(m_creator->cellSize(), newCell()->effectiveSizeHint(Qt::PreferredSize));
     QVERIFY(m_creator->cellSize().height() >= 48);
+}
+
+void TestAlarmListCreator::anotherThemeMayMakeCellsTaller()
+{
+    QTemporaryFile theme;
+    QVERIFY(theme.open());
+    theme.write(R"({ "classes": { "AlarmListItem": { "preferredSize": [-1, 123] } } })");
+    theme.close();
+    QString error;
+    QVERIFY2(Touch::Theme::instance().load(theme.fileName(), &error), qPrintable(error));
+    QCOMPARE(m_creator->cellSize().height(), 123.0);
 }
 
 QTEST_MAIN(TestAlarmListCreator)
