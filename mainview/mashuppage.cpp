@@ -4,6 +4,7 @@
 
 #include "alarmlist/alarmswidget.h"
 #include "alarmlist/notices/informationbanner.h"
+#include "mainview/dropshadow.h"
 #include "platform/clockwidgets/worldclock.h"
 #include "platform/locale/locale.h"
 #include "platform/timedclient/interface.h"
@@ -51,8 +52,7 @@ void MashupPage::createContent()
     m_clockFace = new WorldClock(centralWidget());
     // It keeps its size however long the list is.
     m_clockFace->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    m_dropShadow = new Touch::Separator;
-    m_dropShadow->setStyleName("DropShadow");
+    m_dropShadow = new DropShadow;
     arrange(layout, createAlarmList());
     followDaemonSettings();
 }
@@ -76,9 +76,9 @@ Touch::PannableViewport *MashupPage::createAlarmList()
 
 void MashupPage::arrange(Touch::Layout *layout, Touch::PannableViewport *viewport)
 {
-    auto *divider = new Touch::Separator;
-    divider->setStyleName("ClockItemDivider");
-    divider->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_divider = new Touch::Separator;
+    m_divider->setStyleName("ClockItemDivider");
+    m_divider->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 
     LinearLayoutPolicy *landscape = arrangement(layout, Qt::Horizontal);
     landscape->setSpacing(0);
@@ -89,7 +89,7 @@ void MashupPage::arrange(Touch::Layout *layout, Touch::PannableViewport *viewpor
     LinearLayoutPolicy *portrait = arrangement(layout, Qt::Vertical);
     portrait->addItem(m_clockFace);
     portrait->addItem(m_dropShadow);
-    portrait->addItem(divider);
+    portrait->addItem(m_divider);
     portrait->addItem(viewport);
     layout->setPortraitPolicy(portrait);
 }
@@ -101,6 +101,16 @@ void MashupPage::followDaemonSettings()
         = m_timed->settings_changed_connect(this, SLOT(timeChanged(const Astel::Timed::WallClock::Info &, bool)));
     if (!isConnected)
         qDebug() << "[MashupPage] Unable to connect Astel::Timed::setting_changed signal";
+}
+
+void MashupPage::resizeEvent(QGraphicsSceneResizeEvent *event)
+{
+    // Fixed as it is, it would keep its width in a wider window.
+    if (m_divider) {
+        const QMarginsF margins = m_divider->style().margins;
+        m_divider->setPreferredWidth(paddedRect().width() - margins.left() - margins.right());
+    }
+    Touch::ApplicationPage::resizeEvent(event);
 }
 
 void MashupPage::resetContent()

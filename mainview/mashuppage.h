@@ -38,6 +38,9 @@ public:
 public slots:
     void timeChanged(const Astel::Timed::WallClock::Info &info, bool timechanged);
 
+protected:
+    void resizeEvent(QGraphicsSceneResizeEvent *event) override;
+
 private:
     void installCatalogues();
     Touch::PannableViewport *createAlarmList();
@@ -47,5 +50,6 @@ private:
     WorldClock *m_clockFace = nullptr;
     AlarmsWidget *m_alarmList = nullptr;
     Touch::Separator *m_dropShadow = nullptr;
+    Touch::Separator *m_divider = nullptr;
     Astel::Timed::Interface *m_timed = nullptr;
 };

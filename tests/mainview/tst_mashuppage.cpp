@@ -17,6 +17,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QMetaMethod>
+#include <QPainter>
 #include <QPointer>
 #include <QTest>
 
@@ -32,6 +33,8 @@ private slots:
     void aNewPageHasNoContentAndNoChrome();
     void contentIsCreatedOnceWhenItAppears();
     void inPortraitTheClockStandsAboveTheAlarms();
+    void theDividerFollowsTheWidth();
+    void theShadowFadesDownwards();
     void aLongListLeavesTheClockItsSize();
     void inLandscapeTheClockStandsBesideTheAlarms();
     void resettingResetsTheAlarmList();
@@ -114,6 +117,31 @@ void TestMashupPage::inPortraitTheClockStandsAboveTheAlarms()
     QVERIFY(divider->geometry().bottom() <= viewport->geometry().top());
     QCOMPARE(viewport->geometry().left(), 0.0);
     QCOMPARE(viewport->size().width(), m_page->centralWidget()->size().width());
+}
+
+void TestMashupPage::theDividerFollowsTheWidth()
+{
+    m_page->appear(m_window.get());
+    const auto *divider = separator("ClockItemDivider");
+    for (const int width : {480, 600, 400}) {
+        m_window->resize(width, 854);
+        QTRY_COMPARE(divider->geometry(), QRectF(20, divider->y(), width - 40, 1));
+    }
+    m_window->resize(480, 854);
+}
+
+void TestMashupPage::theShadowFadesDownwards()
+{
+    m_page->appear(m_window.get());
+    auto *shadow = separator("DropShadow");
+    QTRY_COMPARE(shadow->size().height(), 8.0);
+    QImage picture(shadow->size().toSize(), QImage::Format_ARGB32);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    shadow->paint(&painter, nullptr);
+    painter.end();
+    for (int y = 1; y < picture.height(); ++y)
+        QVERIFY(qAlpha(picture.pixel(100, y)) < qAlpha(picture.pixel(100, y - 1)));
 }
 
 void TestMashupPage::aLongListLeavesTheClockItsSize()
