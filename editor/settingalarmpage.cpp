@@ -64,6 +64,7 @@ void SettingAlarmPage::loadAlarm(quint32 cookie, const QTime &time, const QStrin
     timeChangedInTimePicker(m_timePicker->hours(), m_timePicker->minutes());
     m_titleField->setText(title.trimmed().isEmpty() ? QString() : title);
     m_titleField->setCursorPosition(0);
+    setAccessibleName(isNewAlarm() ? qtTrId("qtn_cloc_new_alarm") : qtTrId("qtn_cloc_alarm_title"));
     m_contentLayout->setPolicy(isNewAlarm() ? m_newAlarmPolicy : m_existingAlarmPolicy);
 }
 

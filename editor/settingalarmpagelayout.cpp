@@ -155,6 +155,10 @@ void SettingAlarmPage::buildContent()
         policy->addItem(m_timePicker, Qt::AlignCenter);
         policy->addItem(filler, Qt::AlignCenter);
     }
+    // Takes part in no arrangement, so it is never seen.
+    auto *itemDivider = new Touch::Separator(centralWidget());
+    itemDivider->setStyleName("AlarmEditorItemDivider");
+    itemDivider->hide();
     auto *divider = new Touch::Separator;
     divider->setStyleName("CommonItemDivider");
     m_existingAlarmPolicy->addItem(divider, Qt::AlignCenter);

@@ -9,6 +9,7 @@
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/banner.h"
 #include "platform/toolkit/label.h"
+#include "platform/toolkit/separator.h"
 #include "platform/toolkit/textedit.h"
 #include "tests/support/alarms.h"
 #include "tests/support/logcapture.h"
@@ -16,9 +17,12 @@
 #include "tests/support/look/look.h"
 #include "tests/support/privatebus.h"
 
+#include <QDir>
 #include <QFile>
+#include <QMetaMethod>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -63,6 +67,12 @@ private slots:
     void deletingANewAlarmOnlyCloses();
     void aFailedDeletionClosesWithAnError();
     void resettingDismisses();
+    void everythingStandsInItsOrder();
+    void itsPartsBearTheirNamesAndStyles();
+    void returnLeavesTheTitle();
+    void aNewTimeFormatShowsAtOnce();
+    void itIsNamedForThoseWhoDoNotSeeIt();
+    void theSlotsKeepTheirOrder();
 
 private:
     void load(quint32 cookie, const QTime &time = QTime(7, 5), const QString &title = "Tea", unsigned int snooze = 20);
@@ -448,6 +458,86 @@ void TestSettingAlarmPage::resettingDismisses()
     m_page->resetContent();
     QVERIFY(!m_page->isOnDisplay());
     QCOMPARE(log.lines(QtDebugMsg), QStringList{"void SettingAlarmPage::resetContent()"});
+}
+
+void TestSettingAlarmPage::everythingStandsInItsOrder()
+{
+    load(Support::addAlarm(QTime(7, 5)));
+    auto *hour = label("ClockhhLabel");
+    auto *remove = Support::itemIn<Touch::Widget>(m_page.get(), "deleteButton");
+    const auto top = [](const Touch::Widget *widget) { return widget->scenePos().y(); };
+    QTRY_VERIFY(top(remove) > top(m_picker) + m_picker->size().height());
+    QVERIFY(top(m_title) < top(hour));
+    QVERIFY(top(hour) + hour->size().height() <= top(m_picker));
+    load(QmAlarmEvent::NotStored);
+    QTRY_VERIFY(top(m_title) < top(hour) && top(hour) < top(m_picker));
+}
+
+void TestSettingAlarmPage::itsPartsBearTheirNamesAndStyles()
+{
+    QCOMPARE(m_page->styleName(), "CommonApplicationPage");
+    QCOMPARE(m_picker->styleName(), "TimePickerStyle");
+    QCOMPARE(m_title->objectName(), "AlarmNameInputField");
+    QCOMPARE(m_title->styleName(), "CommonSingleInputField");
+    QCOMPARE(m_title->prompt(), "qtn_cloc_alarm_title_tooltip");
+    for (const char *name : {"ClockhhLabel", "ClockColonLabel", "ClockmmLabel"})
+        QCOMPARE(label(name)->styleName(), "TimeLabel");
+    QCOMPARE(label("ClockColonLabel")->text(), ":");
+    QCOMPARE(label("ClockampmLabel")->styleName(), "AMPMLabel");
+    QCOMPARE(label("ClockampmLabel")->text(), "qtn_comm_time_am");
+    QStringList lines;
+    const auto items = m_page->centralWidget()->childItems();
+    for (QGraphicsItem *item : items) {
+        if (const auto *line = qobject_cast<Touch::Separator *>(item->toGraphicsObject()))
+            lines.append(line->styleName());
+    }
+    lines.sort();
+    QCOMPARE(lines, (QStringList{"AlarmEditorItemDivider", "CommonItemDivider", "CommonSpacer"}));
+}
+
+void TestSettingAlarmPage::returnLeavesTheTitle()
+{
+    load(QmAlarmEvent::NotStored);
+    m_title->setFocus();
+    QVERIFY(m_title->hasFocus());
+    emit m_title->returnPressed();
+    QVERIFY(!m_title->hasFocus());
+}
+
+void TestSettingAlarmPage::aNewTimeFormatShowsAtOnce()
+{
+    load(Support::addAlarm(QTime(21, 35)), QTime(21, 35));
+    QCOMPARE(label("ClockhhLabel")->text(), "21");
+    const QString settings = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/Korvo";
+    QVERIFY(QDir().mkpath(settings));
+    QFile file(settings + "/Locale.conf");
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("timeFormat=12\n");
+    file.close();
+    QTRY_COMPARE(label("ClockhhLabel")->text(), "09");
+    QTRY_VERIFY(label("ClockampmLabel")->isVisible());
+    QVERIFY(file.remove());
+    QTRY_COMPARE(label("ClockhhLabel")->text(), "21");
+}
+
+void TestSettingAlarmPage::itIsNamedForThoseWhoDoNotSeeIt()
+{
+    load(QmAlarmEvent::NotStored);
+    QCOMPARE(m_page->accessibleName(), "qtn_cloc_new_alarm");
+    load(Support::addAlarm(QTime(7, 5)));
+    QCOMPARE(m_page->accessibleName(), "qtn_cloc_alarm_title");
+}
+
+void TestSettingAlarmPage::theSlotsKeepTheirOrder()
+{
+    const QMetaObject &meta = SettingAlarmPage::staticMetaObject;
+    QStringList names;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        names.append(meta.method(i).name());
+    QCOMPARE(names,
+             (QStringList{"saveAlarm", "cancelAlarm", "removeAlarm", "getAlarmCookie", "timeChangedInTimePicker",
+                          "verifyAlarmTitle", "timeFormatChanged", "resetStyle", "setStyle", "onValueChanged",
+                          "clearFocus"}));
 }
 
 QTEST_MAIN(TestSettingAlarmPage)

@@ -90,6 +90,7 @@ class TestClockFlow : public QObject
 
 private slots:
     void initTestCase();
+    void theWindowStaysInPortrait();
     void anEmptyListTellsHowToMakeAnAlarm();
     void theNewAlarmButtonOpensTheEditor();
     void theTitleIsTypedAndTheTimeDragged();
@@ -111,6 +112,19 @@ void TestClockFlow::initTestCase()
     // There is no window manager that would give the focus.
     QCOMPARE(QProcess::execute("xdotool", {"windowfocus", QString::number(applicationWindow->winId())}), 0);
     QVERIFY(QTest::qWaitForWindowActive(applicationWindow));
+}
+
+void TestClockFlow::theWindowStaysInPortrait()
+{
+    QCOMPARE(applicationWindow->styleName(), "ClockWindow");
+    QVERIFY(!applicationWindow->windowIcon().isNull());
+    QVERIFY(applicationWindow->isOrientationLocked());
+    const QSize size = applicationWindow->size();
+    applicationWindow->resize(854, 480);
+    QTRY_COMPARE(applicationWindow->size(), QSize(854, 480));
+    QCOMPARE(applicationWindow->orientation(), Qt::Vertical);
+    applicationWindow->resize(size);
+    QTRY_COMPARE(applicationWindow->size(), size);
 }
 
 void TestClockFlow::anEmptyListTellsHowToMakeAnAlarm()
