@@ -170,9 +170,11 @@ void TestStartup::aSecondProcessHandsOverAndEnds()
 void TestStartup::aTakenBackupNameIsOnlyLogged()
 {
     QVERIFY(QDBusConnection::sessionBus().registerService(BackupService));
+    qputenv("QT_MESSAGE_PATTERN", "%{type}: %{message}");
     Program program;
     QVERIFY(program.start());
-    QVERIFY(program.logs("could not register dbus service"));
+    qunsetenv("QT_MESSAGE_PATTERN");
+    QVERIFY(program.logs("critical: could not register dbus service"));
     QVERIFY(program.lines().filter("could not register dbus object").isEmpty());
     QVERIFY(Support::PrivateBus::waitForService(Service));
     QVERIFY(request("exit"));
