@@ -19,10 +19,10 @@ const std::array<QStringList, Version> &steps()
         QStringList{
             "CREATE TABLE IF NOT EXISTS counter (last_cookie INTEGER NOT NULL)",
             "INSERT INTO counter SELECT 0 WHERE NOT EXISTS (SELECT 1 FROM counter)",
-            "CREATE TABLE IF NOT EXISTS events (cookie INTEGER PRIMARY KEY, state TEXT NOT NULL, moment INTEGER,"
-            " since INTEGER NOT NULL, last_due INTEGER, timeout_snoozes INTEGER NOT NULL, event TEXT NOT NULL)",
-            "CREATE TABLE IF NOT EXISTS journal (moment INTEGER NOT NULL, cookie INTEGER NOT NULL, what TEXT NOT NULL,"
-            " detail TEXT NOT NULL)",
+            R"(CREATE TABLE IF NOT EXISTS events (cookie INTEGER PRIMARY KEY, state TEXT NOT NULL, moment INTEGER,
+               since INTEGER NOT NULL, last_due INTEGER, timeout_snoozes INTEGER NOT NULL, event TEXT NOT NULL))",
+            R"(CREATE TABLE IF NOT EXISTS journal (moment INTEGER NOT NULL, cookie INTEGER NOT NULL, what TEXT NOT NULL,
+               detail TEXT NOT NULL))",
             "CREATE INDEX IF NOT EXISTS journal_moment ON journal (moment)",
         },
         // When a snapshot last took the place of a damaged file.
@@ -52,7 +52,7 @@ QSqlError migrate(const QSqlDatabase &database, int from, quint32 lastCookie)
     for (const QString &statement : std::as_const(statements)) {
         if (query.exec(statement))
             continue;
-        const QSqlError error = query.lastError();
+        QSqlError error = query.lastError();
         query.exec("ROLLBACK");
         return error;
     }

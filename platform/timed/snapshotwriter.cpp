@@ -99,18 +99,18 @@ void SnapshotWriter::write()
 QString SnapshotWriter::copy(const QString &target)
 {
     const Connection source(m_path);
-    const QString integrity = source.check();
+    QString integrity = source.check();
     {
         const QMutexLocker lock(&m_mutex);
         m_integrity = integrity;
     }
     if (integrity != QLatin1String("ok"))
         return integrity;
-    const QString problem = source.run("VACUUM INTO ?", {target});
+    QString problem = source.run("VACUUM INTO ?", {target});
     if (!problem.isEmpty())
         return problem;
     const Connection written(target);
-    if (const QString copied = written.check(); copied != QLatin1String("ok"))
+    if (QString copied = written.check(); copied != QLatin1String("ok"))
         return copied;
     // Ready to be restored: it does not give the cookies again that are given after it.
     return written.run("UPDATE counter SET last_cookie = last_cookie + ?", {CookiesToStepOver});
