@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/alarmctl/alarmctl.h"
+#include "tests/support/places.h"
 
 #include <QProcess>
 
 QString alarmctlPath()
 {
-    return CLOCK_BIN_DIR "/alarmctl";
+    return Places::program("alarmctl");
 }
 
 Run alarmctl(const QStringList &arguments, const QStringList &environment)

@@ -3,6 +3,7 @@
 #include "data/clockdata.h"
 
 #include "platform/toolkit/theme.h"
+#include "tests/support/places.h"
 
 #include <QDirIterator>
 #include <QRegularExpression>
@@ -17,8 +18,7 @@ QList<std::pair<QString, QString>> foundInSources(const QString &pattern)
     const QRegularExpression expression(pattern);
     QList<std::pair<QString, QString>> found;
     for (const char *folder : {"alarms", "alarmlist", "editor", "mainview", "app"}) {
-        QDirIterator files(QDir(CLOCK_SOURCE_DIR).filePath(folder), {"*.cpp"}, QDir::Files,
-                           QDirIterator::Subdirectories);
+        QDirIterator files(Places::source(folder), {"*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             QFile file(files.next());
             if (!file.open(QIODevice::ReadOnly))

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/places.h"
 #include "tests/support/privatebus.h"
 
 #include <QDBusConnection>
@@ -20,7 +21,7 @@ public:
     bool start()
     {
         m_process.setProcessChannelMode(QProcess::MergedChannels);
-        m_process.start(CLOCK_BIN_DIR "/clock", QStringList());
+        m_process.start(Places::program("clock"), QStringList());
         return m_process.waitForStarted();
     }
     ~Program()

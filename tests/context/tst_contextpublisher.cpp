@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/context/contextpublisher.h"
+#include "tests/support/places.h"
 #include "tests/support/privatebus.h"
 
 #include <QDBusMessage>
@@ -86,7 +87,7 @@ void ContextPublisherTest::exportsTheCommittedInterface()
     QDBusMessage call
         = QDBusMessage::createMethodCall(Service, Path, "org.freedesktop.DBus.Introspectable", "Introspect");
     const QString live = reader.call(call, QDBus::BlockWithGui).arguments().value(0).toString();
-    QFile committed(CLOCK_SOURCE_DIR "/platform/context/com.astel.context.Property.xml");
+    QFile committed(Places::source("platform/context/com.astel.context.Property.xml"));
     QVERIFY(committed.open(QIODevice::ReadOnly));
     QVERIFY(interfaceOf(live).contains("signal name=changed"));
     QCOMPARE(interfaceOf(live), interfaceOf(committed.readAll()));

@@ -9,6 +9,7 @@
 #include "platform/toolkit/textedit.h"
 #include "tests/flow/finger.h"
 #include "tests/flow/wholeprogram.h"
+#include "tests/support/places.h"
 
 #include <QProcess>
 #include <QSignalSpy>
@@ -79,7 +80,7 @@ QPoint switchOf(int row)
 
 int runAlarmctl(const QStringList &arguments)
 {
-    return QProcess::execute(CLOCK_BIN_DIR "/alarmctl", arguments);
+    return QProcess::execute(Places::program("alarmctl"), arguments);
 }
 
 } // namespace

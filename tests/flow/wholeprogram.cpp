@@ -5,6 +5,7 @@
 #include "app/references.h"
 #include "app/startup.h"
 #include "platform/toolkit/applicationwindow.h"
+#include "tests/support/places.h"
 #include "tests/support/privatebus.h"
 
 #include <QCoreApplication>
@@ -47,7 +48,7 @@ int runOuter(int argc, char **argv)
         return 1;
     }
     qputenv(InnerMark, "1");
-    return QProcess::execute(CLOCK_SOURCE_DIR "/tests/support/under-xvfb",
+    return QProcess::execute(Places::source("tests/support/under-xvfb"),
                              QStringList(QCoreApplication::applicationFilePath()) + application.arguments().mid(1));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/ringplugin.h"
+#include "tests/support/places.h"
 
 #include <QApplication>
 #include <QGraphicsItem>
@@ -84,7 +85,7 @@ private:
 void TestClockAlarm::initTestCase()
 {
     qputenv("CLOCK_REDUCED_MOTION", "1");
-    QPluginLoader loader(QStringLiteral(CLOCK_RINGER_PLUGIN_DIR "/libclockalarm.so"));
+    QPluginLoader loader(Places::ringerPlugin("libclockalarm.so"));
     m_plugin = qobject_cast<Ringer::RingPlugin *>(loader.instance());
     QVERIFY2(m_plugin, qPrintable(loader.errorString()));
     m_plugin->setAnswers(&m_answers);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/gsttoneplayer.h"
 #include "tests/ringer/soundserver.h"
+#include "tests/support/places.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
@@ -76,7 +77,7 @@ void TestGstTonePlayer::init()
 void TestGstTonePlayer::aToneIsHeard_data()
 {
     QTest::addColumn<QString>("tone");
-    QTest::newRow("the tone that ships") << CLOCK_SHARE_DIR "/sounds/ring-tones/Clock alert 1.aac";
+    QTest::newRow("the tone that ships") << Places::sharedData("sounds/ring-tones/Clock alert 1.aac");
     QTest::newRow("a sound file") << file("sine.wav");
     QTest::newRow("beeps without a file") << QString(TonePlayer::Beeps);
 }

@@ -7,6 +7,7 @@
 #include "platform/ringer/toneplayer.h"
 #include "platform/ringer/toneprobe.h"
 #include "tests/ringer/soundserver.h"
+#include "tests/support/places.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -20,7 +21,7 @@ using Ringer::TonePlayer;
 
 namespace {
 
-constexpr auto BuiltInTone = CLOCK_SHARE_DIR "/sounds/ring-tones/Clock alert 1.aac";
+const QString BuiltInTone = Places::sharedData("sounds/ring-tones/Clock alert 1.aac");
 
 } // namespace
 

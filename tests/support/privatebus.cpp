@@ -3,6 +3,7 @@
 #include "tests/support/privatebus.h"
 
 #include "platform/timedclient/wire.h"
+#include "tests/support/places.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -67,7 +68,7 @@ bool TimedProcess::start()
     for (const QString &entry : std::as_const(m_environment))
         environment.insert(entry.section('=', 0, 0), entry.section('=', 1));
     m_process.setProcessEnvironment(environment);
-    m_process.start(CLOCK_BIN_DIR "/timed", QStringList());
+    m_process.start(Places::program("timed"), QStringList());
     return m_process.waitForStarted() && PrivateBus::waitForService(Astel::Timed::Wire::Service, true, 20000);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timedclient/wire.h"
+#include "tests/support/places.h"
 #include "tests/support/privatebus.h"
 #include "tests/timed/buswatch.h"
 #include "tests/timed/world.h"
@@ -136,7 +137,7 @@ void tst_Daemon::cleanup()
 
 void tst_Daemon::introspectionEqualsTheDescription()
 {
-    QFile file(CLOCK_SOURCE_DIR "/platform/timedclient/com.astel.timed.xml");
+    QFile file(Places::source("platform/timedclient/com.astel.timed.xml"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QStringList expected = described(file.readAll());
     QVERIFY(expected.size() > 30);
@@ -335,7 +336,7 @@ void tst_Daemon::secondDaemonSaysWhyItEnds()
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("XDG_DATA_HOME", dataHome);
         second.setProcessEnvironment(environment);
-        second.start(CLOCK_BIN_DIR "/timed", QStringList());
+        second.start(Places::program("timed"), QStringList());
         second.waitForFinished();
         return QString::number(second.exitCode()) + ' ' + second.readAllStandardError();
     };

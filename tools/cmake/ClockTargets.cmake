@@ -55,10 +55,7 @@ function(clock_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LINK;LABELS")
     add_executable(${name} ${arg_SOURCES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
-    target_link_libraries(${name} PRIVATE Qt6::Test ${arg_LINK} clock-flags)
-    target_compile_definitions(${name} PRIVATE
-        CLOCK_BIN_DIR="${CLOCK_BIN_DIR}" CLOCK_SHARE_DIR="${CLOCK_SHARE_DIR}"
-        CLOCK_RINGER_PLUGIN_DIR="${CLOCK_RINGER_PLUGIN_DIR}" CLOCK_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    target_link_libraries(${name} PRIVATE Qt6::Test test-places ${arg_LINK} clock-flags)
     add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/support/in-own-home $<TARGET_FILE:${name}>)
     if("core" IN_LIST arg_LABELS)
         add_dependencies(core-tests ${name})

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/rtc/wakealarm.h"
+#include "tests/support/places.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -46,7 +47,7 @@ private:
         QFile file(path("wakealarm"));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
     }
-    static int run(const QStringList &arguments) { return QProcess::execute(CLOCK_BIN_DIR "/clock-rtc", arguments); }
+    static int run(const QStringList &arguments) { return QProcess::execute(Places::program("clock-rtc"), arguments); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
