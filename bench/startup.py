@@ -4,8 +4,8 @@
 """startup.py [--build BUILD-FOLDER] [--runs N] [--alarms N]: what the clock costs, whole process by whole process.
 
 Prints the time from the start of the application to its mapped window (from the X server's MapNotify), its
-proportional set size once it is idle, and the daemon's proportional set size with that many
-alarms. Runs on a display, a bus and in a home of its own. Needs Xvfb, xev, dbus-daemon and python3-dbus.
+proportional set size once it is idle, the time that a second start takes to hand over and end, and the daemon's
+proportional set size with that many alarms. Runs on a display, a bus and in a home of its own. Needs Xvfb, xev, dbus-daemon and python3-dbus.
 """
 
 import argparse
@@ -87,6 +87,21 @@ def time_to_mapped_window(env, windows):
         return elapsed, proportional_set_size(clock.pid)
 
 
+def seconds_to_hand_over(env):
+    """Seconds from the second start to its end, while the application runs and is idle."""
+    started = time.monotonic()
+    subprocess.run(["clock"], env=env, stderr=subprocess.DEVNULL, check=True)
+    return time.monotonic() - started
+
+
+def second_starts(env, windows, runs):
+    windows.forget()
+    with process(["clock"], env=env, stderr=subprocess.DEVNULL) as clock:
+        windows.wait()
+        wait_until(lambda: is_idle(clock.pid))
+        return [seconds_to_hand_over(env) for _ in range(runs)]
+
+
 def is_idle(pid):
     """True when the process has used no processor time for half a second."""
     def ticks():
@@ -138,6 +153,8 @@ def main():
         starts = [time_to_mapped_window(env, windows) for _ in range(arguments.runs)]
         report("clock: start to mapped window", [1000 * start for start, _ in starts], "ms")
         report("clock: proportional set size", [size for _, size in starts], "MB")
+        report("clock: second start, to its end",
+               [1000 * seconds for seconds in second_starts(env, windows, arguments.runs)], "ms")
         add_alarms(bus, arguments.alarms - 3)
         wait_until(lambda: is_idle(timed))
         report(f"timed: proportional set size, {arguments.alarms} alarms", [proportional_set_size(timed)], "MB")

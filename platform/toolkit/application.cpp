@@ -16,16 +16,25 @@ namespace Touch {
 
 Q_LOGGING_CATEGORY(lcApplication, "touch.application")
 
+namespace {
+
+/** Before anything costly: a second instance does nothing else, and ends here. */
+int &registered(int &argc, ApplicationService *service)
+{
+    if (service && !service->registerService())
+        service->handleServiceRegistrationFailure();
+    return argc;
+}
+
+} // namespace
+
 Application::Application(int &argc, char **argv, const QString &appIdentifier, ApplicationService *service)
-    : QApplication(argc, argv)
+    : QApplication(registered(argc, service), argv)
     , m_identifier(appIdentifier)
     , m_service(service)
 {
     setApplicationName(appIdentifier);
     setDesktopFileName(appIdentifier);
-    // First of all: a second instance does nothing else.
-    if (m_service && !m_service->registerService())
-        m_service->handleServiceRegistrationFailure();
     loadTheme();
     if (const QString icon = QStringLiteral(":/icons/%1.svg").arg(appIdentifier); QFile::exists(icon))
         setWindowIcon(QIcon(icon));

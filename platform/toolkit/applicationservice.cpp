@@ -3,14 +3,14 @@
 #include "platform/toolkit/applicationservice.h"
 
 #include "applicationadaptor.h"
-#include "applicationproxy.h"
+#include "platform/toolkit/desktopactivation_p.h"
 #include "platform/toolkit/window.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <QCoreApplication>
 #include <QDBusConnection>
-#include <QDBusConnectionInterface>
+#include <QDBusMessage>
 #include <QLoggingCategory>
 #include <QProcess>
 
@@ -21,6 +21,15 @@ Q_LOGGING_CATEGORY(lcService, "touch.service")
 namespace {
 
 constexpr int answerTime = 5000;
+
+/**
+ * A connection of its own: the shared one must not be made before the application object, and a second instance has
+ * to end before that costly object is made.
+ */
+QDBusConnection ownBus()
+{
+    return QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("touch-application"));
+}
 
 void bringToFront(Window *window)
 {
@@ -39,20 +48,23 @@ ApplicationService::ApplicationService(const QString &serviceName, QObject *pare
     , m_serviceName(serviceName)
 {
     new ApplicationAdaptor(this);
+    new DesktopActivation(this);
 }
 
 ApplicationService::~ApplicationService()
 {
     if (m_registeredName.isEmpty())
         return;
-    QDBusConnection bus = QDBusConnection::sessionBus();
+    QDBusConnection bus = ownBus();
     bus.unregisterObject(objectPath(m_registeredName));
     bus.unregisterService(m_registeredName);
 }
 
 QString ApplicationService::objectPath(const QString &serviceName)
 {
-    return QLatin1Char('/') + QString(serviceName).replace(QLatin1Char('.'), QLatin1Char('/'));
+    // As launchers derive it: a path knows no hyphens.
+    return QLatin1Char('/')
+        + QString(serviceName).replace(QLatin1Char('.'), QLatin1Char('/')).replace(QLatin1Char('-'), QLatin1Char('_'));
 }
 
 void ApplicationService::launch()
@@ -84,20 +96,22 @@ void ApplicationService::launchAnotherWithQProcess()
 
 void ApplicationService::handleServiceRegistrationFailure()
 {
-    QDBusConnection bus = QDBusConnection::sessionBus();
+    QDBusConnection bus = ownBus();
     if (!bus.isConnected()) {
         qCWarning(lcService) << "There is no session bus; going on without";
         return;
     }
-    ApplicationProxy running(m_serviceName, objectPath(m_serviceName), bus);
-    running.setTimeout(answerTime);
-    QDBusPendingReply<> reply = running.launch();
-    reply.waitForFinished();
-    if (reply.isError())
-        qCCritical(lcService).noquote() << m_serviceName << "runs but does not answer:" << reply.error().message();
+    auto activate
+        = QDBusMessage::createMethodCall(m_serviceName, objectPath(m_serviceName),
+                                         QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
+    activate << DesktopActivation::platformData();
+    const QDBusMessage reply = bus.call(activate, QDBus::Block, answerTime);
+    const bool isAnswered = reply.type() == QDBusMessage::ReplyMessage;
+    if (!isAnswered)
+        qCCritical(lcService).noquote() << m_serviceName << "runs but does not answer:" << reply.errorMessage();
     // Nothing has been set up yet that would have to be taken down.
     std::fflush(nullptr);
-    std::_Exit(reply.isError() ? EXIT_FAILURE : EXIT_SUCCESS);
+    std::_Exit(isAnswered ? EXIT_SUCCESS : EXIT_FAILURE);
 }
 
 void ApplicationService::incrementAndRegister()
@@ -124,7 +138,7 @@ bool ApplicationService::registerService()
 
 bool ApplicationService::registerAs(const QString &name)
 {
-    QDBusConnection bus = QDBusConnection::sessionBus();
+    QDBusConnection bus = ownBus();
     // The object first: whoever sees the name may call at once.
     if (!bus.registerObject(objectPath(name), this))
         return false;

@@ -8,7 +8,8 @@
 namespace Touch {
 
 /**
- * The application on the session bus: owns its name, so that there is one instance, and hears when it is started again.
+ * The application on the session bus: owns its name, so that there is one instance, and hears when it is started again,
+ * by com.astel.touch.Application or by the desktop's org.freedesktop.Application. Needs no application object.
  * Requests arrive through the event loop of the thread that registered it. Owned by the application.
  */
 class ApplicationService : public QObject
@@ -30,8 +31,8 @@ public:
     /** Starts this program a second time. */
     virtual void launchAnotherWithQProcess();
     /**
-     * The name is taken: asks the instance that has it to launch and ends this process, with status 0 if it answered
-     * and 1 if it did not.
+     * The name is taken: asks the instance that has it to launch, handing over the launcher's activation token, and
+     * ends this process, with status 0 if it answered and 1 if it did not.
      */
     virtual void handleServiceRegistrationFailure();
     /** Registers the first of name1, name2, … that is free, for programs that may run more than once. */

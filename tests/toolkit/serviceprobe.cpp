@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/application.h"
+#include "platform/toolkit/applicationpage.h"
 #include "platform/toolkit/applicationservice.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/componentcache.h"
 #include "platform/toolkit/sheet.h"
 
 #include <cstdio>
+#include <QAction>
 
 using namespace Touch;
 
@@ -22,20 +24,20 @@ public:
 
     void launch() override
     {
-        say("launch");
+        say("launch" + qgetenv("XDG_ACTIVATION_TOKEN") + qgetenv("DESKTOP_STARTUP_ID"));
         ApplicationService::launch();
     }
 
     void launch(const QStringList &arguments) override
     {
-        say(qPrintable(arguments.join(QLatin1Char(' '))));
+        say(arguments.join(QLatin1Char(' ')).toUtf8());
         if (arguments.contains(QLatin1String("quit")))
             QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     }
 
-    static void say(const char *text)
+    static void say(const QByteArray &text)
     {
-        std::puts(text);
+        std::puts(text.constData());
         std::fflush(stdout);
     }
 };
@@ -46,6 +48,12 @@ int main(int argc, char **argv)
 {
     auto *application = ComponentCache::mApplication(argc, argv, QStringLiteral("probe"), new Service);
     ApplicationWindow *window = ComponentCache::mApplicationWindow();
+    ApplicationPage page;
+    QAction wave;
+    wave.setObjectName(QStringLiteral("wave"));
+    QObject::connect(&wave, &QAction::triggered, [] { Service::say("wave"); });
+    page.addAction(&wave);
+    page.appear(window);
     window->show();
     if (application->arguments().contains(QLatin1String("--sheet")))
         (new Sheet)->appear(window, SceneWindow::DestroyWhenDone);

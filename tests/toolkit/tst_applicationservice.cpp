@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "desktopproxy.h"
 #include "platform/toolkit/applicationservice.h"
 #include "tests/support/privatebus.h"
 
@@ -20,7 +21,12 @@ private slots:
     void ownsItsNameWhileItLives();
     void registersTheFirstFreeNumber();
     void runsOnceAndIsLaunchedByTheSecondStart();
+    void handsOverBeforeItSetsAnythingUp();
+    void handsOverTheTokenOfItsLauncher();
+    void failsIfTheOtherOneDoesNotAnswer();
+    void goesOnWithoutABus();
     void takesLaunchesWithArguments();
+    void isActivatedByTheDesktop();
     void endsOnRequest();
     void endsWhenItsWindowIsClosed();
     void endsWithASheetOpen_data();
@@ -28,6 +34,8 @@ private slots:
 
 private:
     static bool start(QProcess &process, const QStringList &arguments = {});
+    static bool says(QProcess &process, const QByteArray &line);
+    static bool runSecond(QProcess &process, const QString &variable, const QString &value);
     static QDBusInterface remote();
 
     Support::PrivateBus m_bus;
@@ -51,6 +59,20 @@ bool TestApplicationService::start(QProcess &process, const QStringList &argumen
     return process.waitForStarted() && process.waitForReadyRead() && process.readLine() == "running\n";
 }
 
+bool TestApplicationService::says(QProcess &process, const QByteArray &line)
+{
+    return QTest::qWaitFor([&process] { return process.canReadLine(); }, 20000) && process.readLine() == line + '\n';
+}
+
+bool TestApplicationService::runSecond(QProcess &process, const QString &variable, const QString &value)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(variable, value);
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(PROBE), QStringList());
+    return process.waitForFinished();
+}
+
 QDBusInterface TestApplicationService::remote()
 {
     return QDBusInterface(name, ApplicationService::objectPath(name), QStringLiteral("com.astel.touch.Application"));
@@ -59,6 +81,7 @@ QDBusInterface TestApplicationService::remote()
 void TestApplicationService::ownsItsNameWhileItLives()
 {
     QCOMPARE(ApplicationService::objectPath(QStringLiteral("com.korvo.clock")), QStringLiteral("/com/korvo/clock"));
+    QCOMPARE(ApplicationService::objectPath(QStringLiteral("com.two-words")), QStringLiteral("/com/two_words"));
     {
         ApplicationService service(name);
         QVERIFY(!service.isRegistered());
@@ -98,6 +121,58 @@ void TestApplicationService::runsOnceAndIsLaunchedByTheSecondStart()
     QVERIFY(first.waitForFinished());
 }
 
+void TestApplicationService::handsOverBeforeItSetsAnythingUp()
+{
+    QProcess first;
+    QVERIFY(start(first));
+    QProcess second;
+    // An application object could not be made with this.
+    QVERIFY(runSecond(second, QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("none")));
+    QCOMPARE(second.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(second.exitCode(), 0);
+    QVERIFY(second.readAllStandardError().isEmpty());
+    QVERIFY(says(first, "launch"));
+    first.kill();
+    QVERIFY(first.waitForFinished());
+}
+
+void TestApplicationService::handsOverTheTokenOfItsLauncher()
+{
+    QProcess first;
+    QVERIFY(start(first));
+    QProcess second;
+    QVERIFY(runSecond(second, QStringLiteral("XDG_ACTIVATION_TOKEN"), QStringLiteral("-token")));
+    QVERIFY(says(first, "launch-token"));
+    QProcess third;
+    QVERIFY(runSecond(third, QStringLiteral("DESKTOP_STARTUP_ID"), QStringLiteral("-id")));
+    QVERIFY(says(first, "launch-token-id"));
+    first.kill();
+    QVERIFY(first.waitForFinished());
+}
+
+void TestApplicationService::failsIfTheOtherOneDoesNotAnswer()
+{
+    // A name without the object.
+    QVERIFY(QDBusConnection::sessionBus().registerService(name));
+    QProcess process;
+    process.start(QStringLiteral(PROBE), QStringList());
+    QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, 20000);
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY(process.readAllStandardError().contains("runs but does not answer"));
+    QVERIFY(QDBusConnection::sessionBus().unregisterService(name));
+}
+
+void TestApplicationService::goesOnWithoutABus()
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("unix:path=/none"));
+    process.setProcessEnvironment(environment);
+    QVERIFY(start(process));
+    process.kill();
+    QVERIFY(process.waitForFinished());
+}
+
 void TestApplicationService::takesLaunchesWithArguments()
 {
     QProcess process;
@@ -108,6 +183,27 @@ void TestApplicationService::takesLaunchesWithArguments()
         QDBusMessage::ReplyMessage);
     QVERIFY(process.bytesAvailable() > 0 || process.waitForReadyRead());
     QCOMPARE(process.readLine(), QByteArray("a b\n"));
+    process.kill();
+    QVERIFY(process.waitForFinished());
+}
+
+void TestApplicationService::isActivatedByTheDesktop()
+{
+    QProcess process;
+    QVERIFY(start(process));
+    DesktopProxy desktop(name, ApplicationService::objectPath(name), QDBusConnection::sessionBus());
+    const QVariantMap token{{QStringLiteral("activation-token"), QStringLiteral("-1")}};
+    desktop.Activate(token);
+    QVERIFY(says(process, "launch-1"));
+    desktop.Open({QStringLiteral("file:///a"), QStringLiteral("file:///b")}, QVariantMap());
+    QVERIFY(says(process, "file:///a file:///b"));
+    desktop.ActivateAction(QStringLiteral("wave"), QVariantList(), QVariantMap());
+    QVERIFY(says(process, "launch-1"));
+    QVERIFY(says(process, "wave"));
+    QDBusPendingReply<> unknown = desktop.ActivateAction(QStringLiteral("dance"), QVariantList(), QVariantMap());
+    unknown.waitForFinished();
+    QVERIFY(!unknown.isError());
+    QVERIFY(says(process, "launch-1"));
     process.kill();
     QVERIFY(process.waitForFinished());
 }
