@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/gsttoneplayer.h"
 
-#include "platform/ringer/audibility.h"
-#include "platform/ringer/tonepipeline.h"
 #include "platform/ringer/volumerise.h"
+#include "platform/sound/audibility.h"
+#include "platform/sound/tonepipeline.h"
 
 #include <gst/gst.h>
 
@@ -13,6 +13,7 @@
 namespace Ringer {
 
 using namespace std::chrono_literals;
+using Sound::TonePipeline;
 
 namespace {
 
@@ -36,7 +37,12 @@ GstTonePlayer::~GstTonePlayer() = default;
 void GstTonePlayer::play(const QString &tone)
 {
     stop();
-    m_pipeline = TonePipeline::create(tone, &m_suspicion);
+    if (tone == QLatin1String(Silence)) {
+        Q_EMIT audible();
+        return;
+    }
+    m_pipeline
+        = tone == QLatin1String(Beeps) ? TonePipeline::ofBeeps(&m_suspicion) : TonePipeline::ofFile(tone, &m_suspicion);
     if (!m_pipeline) {
         m_watchdog.start(0ms);
         return;
@@ -44,7 +50,7 @@ void GstTonePlayer::play(const QString &tone)
     connect(m_pipeline.get(), &TonePipeline::flows, this, &GstTonePlayer::onFlow);
     connect(m_pipeline.get(), &TonePipeline::failed, this, &GstTonePlayer::fail);
     m_suspicion = QStringLiteral("nothing is heard");
-    m_watchdog.start(FirstSoundTime);
+    m_watchdog.start(Sound::FirstSoundTime);
     m_pipeline->start();
 }
 

@@ -9,9 +9,11 @@
 
 #include <memory>
 
-namespace Ringer {
-
+namespace Sound {
 class TonePipeline;
+}
+
+namespace Ringer {
 
 /**
  * Plays through GStreamer and trusts nothing: a tone that is not heard within two seconds, or of which nothing flows
@@ -33,7 +35,7 @@ private:
     void fail(const QString &reason);
     void raise();
 
-    std::unique_ptr<TonePipeline> m_pipeline; ///< null when silent
+    std::unique_ptr<Sound::TonePipeline> m_pipeline; ///< null when silent
     QTimer m_watchdog;
     QString m_suspicion; ///< why the tone has failed when the watchdog ends
     QTimer m_rise;

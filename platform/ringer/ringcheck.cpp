@@ -4,8 +4,8 @@
 
 #include "platform/ringer/pluginloader.h"
 #include "platform/ringer/pulsesink.h"
-#include "platform/ringer/soundoutput.h"
 #include "platform/ringer/toneprobe.h"
+#include "platform/sound/soundoutput.h"
 
 #include <QGuiApplication>
 
@@ -27,11 +27,11 @@ QVariantMap soundFacts()
 {
     gst_init(nullptr, nullptr);
     QString reason;
-    auto *output = createSoundOutput(&reason);
+    auto *output = Sound::createSoundOutput(&reason);
     if (!output)
         return {{"output_reason", reason}};
     const auto element = QString::fromUtf8(GST_OBJECT_NAME(gst_element_get_factory(output)));
-    discardSoundOutput(output);
+    Sound::discardSoundOutput(output);
     return element == QLatin1String("pulsesink") ? pulseFacts() : QVariantMap{{"output", element}};
 }
 

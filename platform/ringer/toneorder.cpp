@@ -4,6 +4,8 @@
 
 #include "platform/ringer/toneplayer.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QUrl>
@@ -20,6 +22,14 @@ QString toPath(const QString &tone)
     return tone.startsWith(QLatin1String("file:")) ? QUrl(tone).toLocalFile() : tone;
 }
 
+// The silent file that ships with the tones; any other silent file is a tone that went wrong.
+bool isChosenSilence(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.completeBaseName() == QLatin1String("No sound") && file.dir().dirName() == QLatin1String("ring-tones")
+        && file.isFile();
+}
+
 } // namespace
 
 ToneOrder::ToneOrder(const QString &profileFolder)
@@ -28,7 +38,10 @@ ToneOrder::ToneOrder(const QString &profileFolder)
 
 QStringList ToneOrder::tones(const QString &eventTone) const
 {
-    QStringList tones{toPath(eventTone), toPath(defaultAlertTone())};
+    const auto own = toPath(eventTone);
+    if (isChosenSilence(own))
+        return {QLatin1String(TonePlayer::Silence)};
+    QStringList tones{own, toPath(defaultAlertTone())};
     tones += QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, BuiltInTone);
     tones.removeAll(QString());
     tones.removeDuplicates();

@@ -8,7 +8,7 @@ namespace Ringer {
 
 /**
  * Which tones an alarm tries, best first: its own, the system's default alert tone, the tone that ships with us, and
- * beeps that need nothing. Reads the profile files each time it is asked.
+ * beeps that need nothing. A tone that was chosen to be silent stays the only one. Reads the profile files each time it is asked.
  */
 class ToneOrder
 {

@@ -15,10 +15,12 @@ class TonePlayer : public QObject
 public:
     /** In place of a file: beeps that need no file and no decoder. */
     static constexpr auto Beeps = "beeps";
+    /** In place of a file: nothing, as the user wants it; it counts as heard. */
+    static constexpr auto Silence = "silence";
 
     using QObject::QObject;
 
-    virtual void play(const QString &tone) = 0; ///< an absolute path or Beeps; ends what played before
+    virtual void play(const QString &tone) = 0; ///< an absolute path, Beeps or Silence; ends what played before
     virtual void stop() = 0;
 
 Q_SIGNALS:

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/toneprobe.h"
 
-#include "platform/ringer/audibility.h"
 #include "platform/ringer/toneplayer.h"
+#include "platform/sound/audibility.h"
 
 #include <QDeadlineTimer>
 #include <QFileInfo>
@@ -83,11 +83,11 @@ std::optional<QString> judge(GstMessage *message)
     const auto *level = gst_message_get_structure(message);
     if (!gst_structure_has_name(level, "level"))
         return {};
-    if (isAudible(level))
+    if (Sound::isAudible(level))
         return QString();
     guint64 position = 0;
     gst_structure_get_clock_time(level, "stream-time", &position);
-    return std::chrono::nanoseconds(position) < FirstSoundTime ? std::nullopt : std::optional(silent);
+    return std::chrono::nanoseconds(position) < Sound::FirstSoundTime ? std::nullopt : std::optional(silent);
 }
 
 QString decode(const Pipeline &pipeline)
@@ -114,6 +114,8 @@ QString probeTone(const QString &tone)
 {
     gst_init(nullptr, nullptr);
     const auto lacking = QStringLiteral("cannot be decoded (GStreamer lacks its base plug-ins)");
+    if (tone == QLatin1String(TonePlayer::Silence))
+        return {};
     if (tone == QLatin1String(TonePlayer::Beeps)) {
         auto *source = gst_element_factory_find("audiotestsrc");
         const auto found = source != nullptr;

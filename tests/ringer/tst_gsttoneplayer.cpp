@@ -47,6 +47,7 @@ private slots:
     void aToneThatCannotBeHeardFailsWithinTwoSeconds_data();
     void aToneThatCannotBeHeardFailsWithinTwoSeconds();
     void nothingIsSaidAfterStop();
+    void chosenSilenceCountsAsHeard();
     void failsWhenTheServerDies();
 
 private:
@@ -160,6 +161,21 @@ void TestGstTonePlayer::nothingIsSaidAfterStop()
     player.play(file("sine.wav"));
     QVERIFY(audible.wait(2000));
     QCOMPARE(failed.size(), 0);
+}
+
+void TestGstTonePlayer::chosenSilenceCountsAsHeard()
+{
+    GstTonePlayer player;
+    QSignalSpy audible(&player, &TonePlayer::audible);
+    QSignalSpy failed(&player, &TonePlayer::failed);
+    player.play(file("sine.wav"));
+    QVERIFY(audible.wait(2000));
+    player.play(TonePlayer::Silence);
+    QCOMPARE(audible.size(), 2);
+    QTRY_COMPARE(m_server.peak(200), 0.0f);
+    // Longer than any watchdog.
+    QVERIFY(!failed.wait(4000));
+    QCOMPARE(m_server.peak(200), 0.0f);
 }
 
 void TestGstTonePlayer::failsWhenTheServerDies()

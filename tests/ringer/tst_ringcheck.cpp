@@ -96,6 +96,7 @@ void TestRingCheck::aToneIsProbed_data()
     QTest::newRow("a short file") << file("sine.wav") << "";
     QTest::newRow("a long file") << file("long.wav") << "";
     QTest::newRow("beeps") << QString(TonePlayer::Beeps) << "";
+    QTest::newRow("chosen silence") << QString(TonePlayer::Silence) << "";
     QTest::newRow("missing") << file("missing.aac") << "is missing";
     QTest::newRow("empty") << file("empty.aac") << "is empty";
     QTest::newRow("a folder") << m_folder.path() << "is no file";

@@ -24,10 +24,14 @@ private slots:
     void anEmptyCustomProfileIsPassedOver();
     void theShippedToneIsFoundInTheDataFolders();
     void nothingComesTwice();
+    void silenceThatWasChosenStays();
+    void otherSilenceIsNoChoice_data();
+    void otherSilenceIsNoChoice();
     void theVolumeRisesFromQuietToFull();
 
 private:
     void write(const QString &file, const QString &tone);
+    QString makeFile(const QString &name);
     [[nodiscard]] QStringList tones(const QString &event) const { return ToneOrder(m_folder->path()).tones(event); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -44,6 +48,13 @@ void TestToneOrder::write(const QString &file, const QString &tone)
     QFile profile(m_folder->filePath(file));
     QVERIFY(profile.open(QIODevice::WriteOnly));
     profile.write("[fallback]\nclock.alert.tone=" + tone.toUtf8() + "\n");
+}
+
+QString TestToneOrder::makeFile(const QString &name)
+{
+    QFile file(m_folder->filePath(name));
+    QDir().mkpath(QFileInfo(file).path());
+    return file.open(QIODevice::WriteOnly) ? file.fileName() : QString();
 }
 
 void TestToneOrder::theEventsToneComesFirst()
@@ -82,6 +93,31 @@ void TestToneOrder::nothingComesTwice()
 {
     write("97.custom.ini", "/a.aac");
     QCOMPARE(tones("/a.aac"), QStringList({"/a.aac", TonePlayer::Beeps}));
+}
+
+void TestToneOrder::silenceThatWasChosenStays()
+{
+    write("97.custom.ini", "/a.aac");
+    const auto tone = makeFile("ring-tones/No sound.aac");
+    QCOMPARE(tones(tone), QStringList(TonePlayer::Silence));
+    QCOMPARE(tones(QUrl::fromLocalFile(tone).toString(QUrl::FullyEncoded)), QStringList(TonePlayer::Silence));
+}
+
+void TestToneOrder::otherSilenceIsNoChoice_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("exists");
+    QTest::newRow("not among the tones") << "music/No sound.aac" << true;
+    QTest::newRow("another name") << "ring-tones/No sound at all.aac" << true;
+    QTest::newRow("gone") << "ring-tones/No sound.aac" << false;
+}
+
+void TestToneOrder::otherSilenceIsNoChoice()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, exists);
+    const auto tone = exists ? makeFile(name) : m_folder->filePath(name);
+    QCOMPARE(tones(tone), QStringList({tone, TonePlayer::Beeps}));
 }
 
 void TestToneOrder::theVolumeRisesFromQuietToFull()

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "platform/ringer/soundoutput.h"
+#include "platform/sound/soundoutput.h"
 
-namespace Ringer {
+namespace Sound {
 
 namespace {
 
@@ -66,4 +66,4 @@ void discardSoundOutput(GstElement *output)
     gst_object_unref(output);
 }
 
-} // namespace Ringer
+} // namespace Sound

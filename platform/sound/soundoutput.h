@@ -6,7 +6,7 @@
 
 #include <gst/gst.h>
 
-namespace Ringer {
+namespace Sound {
 
 /**
  * The way to the loudspeaker, opened: the Pulse or PipeWire server with the role "alarm", at full volume whatever
@@ -18,4 +18,4 @@ namespace Ringer {
 /** Closes an output that went into no pipeline. */
 void discardSoundOutput(GstElement *output);
 
-} // namespace Ringer
+} // namespace Sound

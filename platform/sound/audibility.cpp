@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "platform/ringer/audibility.h"
+#include "platform/sound/audibility.h"
 
-namespace Ringer {
+namespace Sound {
 
 namespace {
 
@@ -21,4 +21,4 @@ bool isAudible(const GstStructure *level)
     return false;
 }
 
-} // namespace Ringer
+} // namespace Sound

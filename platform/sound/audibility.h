@@ -6,7 +6,7 @@
 
 #include <chrono>
 
-namespace Ringer {
+namespace Sound {
 
 /** A tone that is not heard by then has failed; the next one can still begin before two seconds have passed. */
 inline constexpr std::chrono::milliseconds FirstSoundTime{1500};
@@ -14,4 +14,4 @@ inline constexpr std::chrono::milliseconds FirstSoundTime{1500};
 /** Whether a message of GStreamer's level element tells of more than silence. */
 [[nodiscard]] bool isAudible(const GstStructure *level);
 
-} // namespace Ringer
+} // namespace Sound

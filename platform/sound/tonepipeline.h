@@ -5,23 +5,26 @@
 #include <QObject>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 
 #include <gst/gst.h>
 
-namespace Ringer {
+namespace Sound {
 
 /**
- * One tone on its way to the loudspeaker: decodes in a loop without a gap and listens to itself before the volume.
- * Owned by GstTonePlayer, one for each attempt. Lives in the main thread; GStreamer's threads only post to it.
+ * One tone on its way to the loudspeaker: decodes in a loop without a gap and listens to itself before the volume,
+ * which is low at first. Needs gst_init(). Lives in the main thread; GStreamer's threads only post to it.
  */
 class TonePipeline : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Null, with a reason, where there is no working sound output or GStreamer lacks a part. */
-    [[nodiscard]] static std::unique_ptr<TonePipeline> create(const QString &tone, QString *reason);
+    /** Plays a file; null, with a reason, where there is no working sound output or GStreamer lacks a part. */
+    [[nodiscard]] static std::unique_ptr<TonePipeline> ofFile(const QString &path, QString *reason);
+    /** Plays two beeps a second, which need no file and no decoder; fails as ofFile() does. */
+    [[nodiscard]] static std::unique_ptr<TonePipeline> ofBeeps(QString *reason);
     ~TonePipeline() override;
 
     void start();
@@ -38,7 +41,10 @@ Q_SIGNALS:
     void endSeen();
 
 private:
-    explicit TonePipeline(GstElement *pipeline);
+    using Build = std::function<GstElement *(GstElement *output, GstElement *filter)>;
+
+    TonePipeline(GstElement *pipeline, GstElement *filter);
+    [[nodiscard]] static std::unique_ptr<TonePipeline> create(const Build &build, QString *reason);
     static GstBusSyncReply onMessage(GstBus *bus, GstMessage *message, void *self);
     void post(GstMessage *message);
     void measure(GstMessage *message);
@@ -49,4 +55,4 @@ private:
     std::atomic<bool> m_playing = false;
 };
 
-} // namespace Ringer
+} // namespace Sound

@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "platform/ringer/tonepipeline.h"
+#include "platform/sound/tonepipeline.h"
 
-#include "platform/ringer/audibility.h"
-#include "platform/ringer/soundoutput.h"
-#include "platform/ringer/toneplayer.h"
+#include "platform/sound/audibility.h"
+#include "platform/sound/soundoutput.h"
 
 #include <QUrl>
 
-namespace Ringer {
+namespace Sound {
 
 namespace {
 
@@ -63,7 +62,18 @@ GstElement *createBeepPipeline(GstElement *output, GstElement *filter)
 
 } // namespace
 
-std::unique_ptr<TonePipeline> TonePipeline::create(const QString &tone, QString *reason)
+std::unique_ptr<TonePipeline> TonePipeline::ofFile(const QString &path, QString *reason)
+{
+    const auto build = [&path](auto *output, auto *filter) { return createFilePipeline(path, output, filter); };
+    return create(build, reason);
+}
+
+std::unique_ptr<TonePipeline> TonePipeline::ofBeeps(QString *reason)
+{
+    return create(createBeepPipeline, reason);
+}
+
+std::unique_ptr<TonePipeline> TonePipeline::create(const Build &build, QString *reason)
 {
     auto *output = createSoundOutput(reason);
     if (!output)
@@ -75,8 +85,7 @@ std::unique_ptr<TonePipeline> TonePipeline::create(const QString &tone, QString 
         discardSoundOutput(output);
         return nullptr;
     }
-    auto *pipeline = tone == QLatin1String(TonePlayer::Beeps) ? createBeepPipeline(output, filter)
-                                                              : createFilePipeline(tone, output, filter);
+    auto *pipeline = build(output, filter);
     if (!pipeline) {
         *reason = QStringLiteral("GStreamer lacks its base plug-ins");
         gst_object_unref(filter);
@@ -84,14 +93,12 @@ std::unique_ptr<TonePipeline> TonePipeline::create(const QString &tone, QString 
         return nullptr;
     }
     gst_object_unref(output);
-    std::unique_ptr<TonePipeline> created(new TonePipeline(pipeline));
-    created->m_volume = gst_bin_get_by_name(GST_BIN(filter), "volume");
-    return created;
+    return std::unique_ptr<TonePipeline>(new TonePipeline(pipeline, filter));
 }
 
-TonePipeline::TonePipeline(GstElement *pipeline)
+TonePipeline::TonePipeline(GstElement *pipeline, GstElement *filter)
     : m_pipeline(pipeline)
-    , m_volume(nullptr)
+    , m_volume(gst_bin_get_by_name(GST_BIN(filter), "volume"))
 {
     connect(this, &TonePipeline::errorSeen, this, &TonePipeline::failed, Qt::QueuedConnection);
     connect(this, &TonePipeline::levelSeen, this, &TonePipeline::flows, Qt::QueuedConnection);
@@ -177,4 +184,4 @@ void TonePipeline::startAgain()
     gst_element_seek_simple(m_pipeline, GST_FORMAT_TIME, GST_SEEK_FLAG_FLUSH, 0);
 }
 
-} // namespace Ringer
+} // namespace Sound
