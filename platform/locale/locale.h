@@ -13,9 +13,9 @@ namespace Touch {
 class LocalePrivate;
 
 /// The user's language and regional formats, on ICU. A value that can be copied; a copy follows nothing.
-/// A default-constructed one holds the system's settings: the environment, and the file Korvo/Locale.conf
-/// in the user's configuration folder (keys `language`, `region`, `timeFormat` = 12 or 24), which wins over
-/// it. GUI thread only. Nothing here fails: an unknown locale falls back to its parents and in the end to
+/// A default-constructed one holds the system's settings: the environment, the desktop's choice of 12 or 24 hours, and
+/// the file Korvo/Locale.conf in the user's configuration folder (keys `language`, `region`, `timeFormat` = 12 or 24),
+/// which wins over both. GUI thread only. Nothing here fails: an unknown locale falls back to its parents and in the end to
 /// English.
 class Locale : public QObject
 {

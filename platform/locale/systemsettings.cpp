@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/locale/systemsettings_p.h"
 
+#include "platform/locale/desktopsettings_p.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
@@ -72,9 +74,10 @@ void applyFile(LocaleSettings &settings)
         settings.timeFormat = Locale::TwentyFourHour;
 }
 
-LocaleSettings readSettings()
+LocaleSettings readSettings(Locale::TimeFormat24h desktopFormat)
 {
     LocaleSettings settings;
+    settings.timeFormat = desktopFormat;
     settings.names[Locale::MessageCategory] = environmentMessagesName();
     settings.names[Locale::TimeCategory] = environmentName("LC_TIME");
     settings.names[Locale::NumericCategory] = environmentName("LC_NUMERIC");
@@ -111,7 +114,7 @@ SystemSettings &SystemSettings::instance()
 }
 
 SystemSettings::SystemSettings()
-    : m_settings(readSettings())
+    : m_settings(readSettings(Locale::LocaleDefault))
 { }
 
 SystemSettings::~SystemSettings() = default;
@@ -121,7 +124,12 @@ void SystemSettings::watch()
     if (m_watcher || !QCoreApplication::instance())
         return;
     m_watcher = std::make_unique<QFileSystemWatcher>();
-    connect(QCoreApplication::instance(), &QObject::destroyed, this, [this] { m_watcher.reset(); });
+    m_desktop = std::make_unique<DesktopSettings>();
+    connect(QCoreApplication::instance(), &QObject::destroyed, this, [this] {
+        m_watcher.reset();
+        m_desktop.reset();
+    });
+    connect(m_desktop.get(), &DesktopSettings::changed, this, &SystemSettings::readAgain);
     // Files are often written in several steps; the short wait lets them settle.
     auto *settled = new QTimer(m_watcher.get());
     settled->setSingleShot(true);
@@ -148,7 +156,7 @@ void SystemSettings::watchPaths()
 void SystemSettings::readAgain()
 {
     watchPaths();
-    const LocaleSettings now = readSettings();
+    const LocaleSettings now = readSettings(m_desktop->timeFormat());
     if (m_settings == now)
         return;
     m_settings = now;

@@ -22,7 +22,10 @@ struct LocaleSettings
     bool operator==(const LocaleSettings &) const = default;
 };
 
-/// Reads the user's locale settings and watches their file. One for the process, on the GUI thread.
+class DesktopSettings;
+
+/// The user's locale settings: the environment, for the time format the desktop's portal, and a file that wins over
+/// both. Follows the file and the portal. One for the process, on the GUI thread.
 class SystemSettings : public QObject
 {
     Q_OBJECT
@@ -45,6 +48,7 @@ private:
 
     LocaleSettings m_settings;
     std::unique_ptr<QFileSystemWatcher> m_watcher;
+    std::unique_ptr<DesktopSettings> m_desktop;
 };
 
 /// The ICU name of a POSIX locale name: "de_DE.UTF-8" is de_DE, "sr_RS@latin" is sr_Latn_RS, "C" is
