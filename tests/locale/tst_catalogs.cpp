@@ -73,6 +73,11 @@ void tst_Catalogs::showsThePluralForms()
     Locale::setDefault(withPlanets("en_GB"));
     QCOMPARE(qtTrId("planet_count", 1), u"1 planet"_qs);
     QCOMPARE(qtTrId("planet_count", 8), u"8 planets"_qs);
+    Locale::setDefault(withPlanets("ru_RU"));
+    QCOMPARE(qtTrId("planet_count", 1), u"1 планета"_qs);
+    QCOMPARE(qtTrId("planet_count", 2), u"2 планеты"_qs);
+    QCOMPARE(qtTrId("planet_count", 8), u"8 планет"_qs);
+    QCOMPARE(qtTrId("planet_count", 21), u"21 планета"_qs);
 }
 
 void tst_Catalogs::stayWhenAnotherLocaleBecomesTheDefault()

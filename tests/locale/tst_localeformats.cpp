@@ -45,8 +45,6 @@ private Q_SLOTS:
     void arrangesFieldsAsTheLocaleDoes();
     void replacesDirectives_data();
     void replacesDirectives();
-    void writesNumbersWithItsOwnDigits_data();
-    void writesNumbersWithItsOwnDigits();
 };
 
 void tst_LocaleFormats::hasTheTimePatternOfTheLocale_data()
@@ -320,24 +318,6 @@ void tst_LocaleFormats::replacesDirectives()
     QFETCH(QString, format);
     QFETCH(QString, text);
     QCOMPARE(Locale(locale).formatDateTime(afternoon, format), text);
-}
-
-void tst_LocaleFormats::writesNumbersWithItsOwnDigits_data()
-{
-    QTest::addColumn<QString>("number");
-    QTest::newRow("en_US") << "1,234,567";
-    QTest::newRow("de_DE") << "1.234.567";
-    QTest::newRow("fi_FI") << u"1\u00A0234\u00A0567"_qs;
-    QTest::newRow("ar_EG") << u"١٬٢٣٤٬٥٦٧"_qs;
-    QTest::newRow("fa_IR") << u"۱٬۲۳۴٬۵۶۷"_qs;
-    QTest::newRow("hi_IN") << "12,34,567";
-    QTest::newRow("th_TH") << "1,234,567";
-}
-
-void tst_LocaleFormats::writesNumbersWithItsOwnDigits()
-{
-    QFETCH(QString, number);
-    QCOMPARE(Locale(QString::fromLatin1(QTest::currentDataTag())).formatNumber(1234567), number);
 }
 
 QTEST_GUILESS_MAIN(tst_LocaleFormats)
