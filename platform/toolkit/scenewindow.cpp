@@ -19,6 +19,22 @@ namespace {
 
 constexpr int transitionTime = 220;
 
+/** What Tab stops at under an item, in the order in which it was made. */
+void collectTabStops(const QGraphicsItem *item, QList<QGraphicsWidget *> *stops)
+{
+    const QList<QGraphicsItem *> children = item->childItems();
+    for (QGraphicsItem *child : children) {
+        if (!child->isVisible() || !child->isEnabled())
+            continue;
+        if (child->isWidget()) {
+            auto *widget = static_cast<QGraphicsWidget *>(child);
+            if (widget->flags().testFlag(QGraphicsItem::ItemIsFocusable) && widget->focusPolicy() & Qt::TabFocus)
+                stops->append(widget);
+        }
+        collectTabStops(child, stops);
+    }
+}
+
 } // namespace
 
 SceneWindow::SceneWindow(QGraphicsItem *parent)
@@ -207,6 +223,21 @@ void SceneWindow::setTransition(qreal progress)
 void SceneWindow::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     event->setAccepted(takesInput());
+}
+
+bool SceneWindow::focusNextPrevChild(bool next)
+{
+    if (coversWindow())
+        return Widget::focusNextPrevChild(next);
+    QList<QGraphicsWidget *> stops;
+    collectTabStops(this, &stops);
+    if (stops.isEmpty())
+        return true;
+    const qsizetype now = stops.indexOf(static_cast<QGraphicsWidget *>(scene()->focusItem()));
+    const qsizetype count = stops.size();
+    const qsizetype to = next ? (now + 1) % count : (now <= 0 ? count : now) - 1;
+    stops[to]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void SceneWindow::wheelEvent(QGraphicsSceneWheelEvent *event)

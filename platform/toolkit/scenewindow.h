@@ -69,6 +69,8 @@ protected:
 
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void wheelEvent(QGraphicsSceneWheelEvent *event) override;
+    /** Never leads to what can still be seen beneath. */
+    bool focusNextPrevChild(bool next) override;
 
 private:
     friend class Window;
