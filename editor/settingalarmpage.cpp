@@ -87,73 +87,7 @@ void SettingAlarmPage::resetContent()
 void SettingAlarmPage::aboutToLeave()
 {
     stopWaiting();
-}
-
-void SettingAlarmPage::stopWaiting()
-{
-    disconnect(Utility::instance(), &Utility::valueChanged, this, &SettingAlarmPage::onValueChanged);
-}
-
-void SettingAlarmPage::saveAlarm()
-{
-    connect(Utility::instance(), &Utility::valueChanged, this, &SettingAlarmPage::onValueChanged, Qt::UniqueConnection);
-    QmAlarmEvent record = recordFromFields();
-    storeRecord(record);
-    if (isNewAlarm()) {
-        dismiss();
-        showInformationBanner(qtTrId("qtn_cloc_alarm_save_error"));
-    } else {
-        rememberTime(record.alarmTime());
-    }
-    record = QmAlarmEvent(m_cookie);
-    if (!record.isEnabled())
-        dismiss();
-}
-
-QmAlarmEvent SettingAlarmPage::recordFromFields() const
-{
-    QmAlarmEvent record;
-    record.setApplication("clock");
-    const QString title = m_titleField->text();
-    record.setTitle(title.trimmed().isEmpty() ? qtTrId("qtn_cloc_alarm_title") : title);
-    record.setAlarmTime(QTime(m_timePicker->hours(), m_timePicker->minutes()));
-    record.setTone(m_tone);
-    record.setSnooze(static_cast<int>(m_snooze));
-    return record;
-}
-
-void SettingAlarmPage::storeRecord(QmAlarmEvent &record)
-{
-    QmAlarm alarm;
-    if (isNewAlarm()) {
-        m_cookie = alarm.add(record);
-        return;
-    }
-    m_preEditAlarm = QmAlarmEvent();
-    m_preEditAlarm.fromAstelTimedEvent(m_cookie);
-    record.setRepeatDays(m_preEditAlarm.repeatDays());
-    m_cookie = alarm.replace(record, m_cookie);
-}
-
-void SettingAlarmPage::rememberTime(const QTime &time)
-{
-    m_settings.setValue(Settings::DefaultAlarmTimeKey, QTime(time.hour(), time.minute()));
-    m_settings.sync();
-}
-
-void SettingAlarmPage::onValueChanged()
-{
-    qDebug() << "void SettingAlarmPage::onValueChanged()";
-    stopWaiting();
-    time_t trigger = 0;
-    const bool isFound = Utility::instance()->triggerSecondsFromContext(m_cookie, trigger);
-    dismiss();
-    if (!isFound)
-        return;
-    QString timeLeft;
-    Utility::timeLeftForAlarmToTrigger(trigger, timeLeft);
-    showInformationBanner(timeLeft);
-    qDebug() << "Time Left for Alarm to trigger is" << timeLeft;
+    leaveResetDialog();
 }
 
 void SettingAlarmPage::cancelAlarm()

@@ -9,6 +9,8 @@
 #include <QDateTime>
 #include <QSettings>
 
+#include <memory>
+
 class TimePicker;
 
 namespace Touch {
@@ -17,6 +19,7 @@ class Button;
 class Label;
 class Layout;
 class LinearLayoutPolicy;
+class MessageBox;
 class TextEdit;
 class Widget;
 } // namespace Touch
@@ -32,6 +35,7 @@ class SettingAlarmPage : public Touch::Sheet
 
 public:
     SettingAlarmPage();
+    ~SettingAlarmPage() override;
 
     /** The shared sheet, made when it is first asked for. */
     static SettingAlarmPage *instance();
@@ -54,8 +58,11 @@ public slots:
     void timeFormatChanged();
     void resetStyle();
     void setStyle(bool hourTouched, bool minuteTouched);
+    void resetAlarm();
+    void setAgainAlarm();
     void onValueChanged();
     void clearFocus();
+    void showResetAlarmDialog(Clock::QmAlarmEvent evt);
 
 protected:
     void aboutToLeave() override;
@@ -76,6 +83,9 @@ private:
     void storeRecord(Clock::QmAlarmEvent &record);
     /** Nothing but the wait that follows a save listens to the triggers. */
     void stopWaiting();
+    void buildResetDialog();
+    void leaveResetDialog();
+    void restorePreEditAlarm();
     void refreshAfterDeletion(bool wasEnabled);
 
     TimePicker *m_timePicker = nullptr;
@@ -95,8 +105,10 @@ private:
     QString m_defaultTone; ///< empty: the default with which the preference is read
     unsigned int m_snooze = 10;
     Touch::Button *m_deleteButton = nullptr;
+    std::unique_ptr<Touch::MessageBox> m_resetDialog; ///< made when it is first needed
     QSettings m_settings;
     Touch::BasicSheetHeader *m_header = nullptr;
+    bool m_mayRestore = false;
     Clock::QmAlarmEvent m_preEditAlarm; ///< as the daemon had it before the last save of an existing alarm
     Touch::LinearLayoutPolicy *m_existingAlarmPolicy = nullptr;
     Touch::LinearLayoutPolicy *m_newAlarmPolicy = nullptr;

@@ -10,6 +10,7 @@
 #include "platform/toolkit/label.h"
 #include "platform/toolkit/layout.h"
 #include "platform/toolkit/linearlayoutpolicy.h"
+#include "platform/toolkit/messagebox.h"
 #include "platform/toolkit/separator.h"
 #include "platform/toolkit/stylablewidget.h"
 #include "platform/toolkit/textedit.h"
@@ -57,6 +58,8 @@ SettingAlarmPage::SettingAlarmPage()
     buildContent();
     followLocale();
 }
+
+SettingAlarmPage::~SettingAlarmPage() = default;
 
 void SettingAlarmPage::buildTimePicker()
 {

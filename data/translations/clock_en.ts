@@ -60,9 +60,27 @@
         <source>The alarm could not be deleted</source>
         <translation>The alarm could not be deleted</translation>
     </message>
+    <message id="qtn_cloc_reset_alarm">
+        <source>Clocks go forward</source>
+        <extracomment>Title of the question about an alarm at a time that summer time skips.</extracomment>
+        <translation>Clocks go forward</translation>
+    </message>
+    <message id="qtn_cloc_dst_transition_warning">
+        <source>The clocks change before this alarm, so it would not ring at the time you chose. Set it to %1 instead?</source>
+        <extracomment>%1 is the time one hour earlier.</extracomment>
+        <translation>The clocks change before this alarm, so it would not ring at the time you chose. Set it to %1 instead?</translation>
+    </message>
+    <message id="qtn_cloc_set_manually">
+        <source>Choose another time</source>
+        <translation>Choose another time</translation>
+    </message>
     <message id="qtn_comm_time_am">
         <source>AM</source>
         <translation>AM</translation>
+    </message>
+    <message id="qtn_comm_ok">
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
     <message id="qtn_comm_save">
         <source>Save</source>

@@ -536,8 +536,8 @@ void TestSettingAlarmPage::theSlotsKeepTheirOrder()
         names.append(meta.method(i).name());
     QCOMPARE(names,
              (QStringList{"saveAlarm", "cancelAlarm", "removeAlarm", "getAlarmCookie", "timeChangedInTimePicker",
-                          "verifyAlarmTitle", "timeFormatChanged", "resetStyle", "setStyle", "onValueChanged",
-                          "clearFocus"}));
+                          "verifyAlarmTitle", "timeFormatChanged", "resetStyle", "setStyle", "resetAlarm",
+                          "setAgainAlarm", "onValueChanged", "clearFocus", "showResetAlarmDialog"}));
 }
 
 QTEST_MAIN(TestSettingAlarmPage)
