@@ -2,29 +2,16 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/button.h"
 
+#include "platform/toolkit/press_p.h"
 #include "platform/toolkit/text_p.h"
 #include "platform/toolkit/theme.h"
 
 #include <QGraphicsSceneMouseEvent>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QWidget>
 
 namespace Touch {
-
-namespace {
-
-/** How far a finger may slip off the edge and still press. */
-constexpr qreal slip = 12;
-
-bool isPressKey(const QKeyEvent *event)
-{
-    return event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
-        || event->key() == Qt::Key_Select;
-}
-
-} // namespace
 
 Button::Button(const QString &text, QGraphicsItem *parent)
     : Widget(parent)
@@ -125,7 +112,7 @@ void Button::mousePressEvent(QGraphicsSceneMouseEvent *)
 
 void Button::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
-    setDown(rect().adjusted(-slip, -slip, slip, slip).contains(event->pos()));
+    setDown(Press::holds(rect(), event->pos()));
 }
 
 void Button::mouseReleaseEvent(QGraphicsSceneMouseEvent *)
@@ -146,7 +133,7 @@ void Button::ungrabMouseEvent(QEvent *event)
 
 void Button::keyPressEvent(QKeyEvent *event)
 {
-    if (!isPressKey(event)) {
+    if (!Press::isKey(event)) {
         Widget::keyPressEvent(event);
         return;
     }
@@ -156,7 +143,7 @@ void Button::keyPressEvent(QKeyEvent *event)
 
 void Button::keyReleaseEvent(QKeyEvent *event)
 {
-    if (!isPressKey(event) || event->isAutoRepeat() || !m_isDown) {
+    if (!Press::isKey(event) || event->isAutoRepeat() || !m_isDown) {
         Widget::keyReleaseEvent(event);
         return;
     }

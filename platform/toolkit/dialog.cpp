@@ -12,6 +12,7 @@
 #include "platform/toolkit/stylablewidget.h"
 
 #include <QGraphicsSceneMouseEvent>
+#include <QKeyEvent>
 #include <QPointer>
 
 namespace Touch {
@@ -143,10 +144,28 @@ void Dialog::aboutToAppear()
     m_viewport->setPosition(QPointF(0, 0));
 }
 
+void Dialog::startAt(QGraphicsWidget *item)
+{
+    // The places of new items are known only once they are laid out.
+    if (m_centralWidget->layout())
+        m_centralWidget->layout()->activate();
+    arrange();
+    m_viewport->ensureVisible(m_centralWidget->mapRectFromItem(item, item->rect()));
+    item->setFocus(Qt::ActiveWindowFocusReason);
+}
+
 void Dialog::setTransition(qreal progress)
 {
     setOpacity(progress);
     m_panel->setTransform(QTransform::fromTranslate(0, qRound((1 - progress) * rise)));
+}
+
+void Dialog::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Down || event->key() == Qt::Key_Up)
+        focusNextPrevChild(event->key() == Qt::Key_Down);
+    else
+        SceneWindow::keyPressEvent(event);
 }
 
 void Dialog::styleChanged()

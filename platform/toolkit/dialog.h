@@ -48,6 +48,9 @@ public:
     /** Adds a button of one's own after those there are; pressing it accepts the dialog, then emits clicked(). */
     Button *addButton(const QString &text);
 
+    /** Pans to something in the central widget and lets the keyboard start there. */
+    void startAt(QGraphicsWidget *item);
+
     QAccessible::Role accessibleRole() const override { return QAccessible::Dialog; }
 
 public slots:
@@ -69,6 +72,8 @@ protected:
     void setTransition(qreal progress) override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    /** The arrows lead from control to control as Tab does. */
+    void keyPressEvent(QKeyEvent *event) override;
     void styleChanged() override;
 
 private:

@@ -69,6 +69,8 @@ void Layout::adopt(QGraphicsLayoutItem *item)
     if (!m_items.contains(item)) {
         addChildLayoutItem(item);
         m_items.append(item);
+        // Some items build what is in them when they are first laid out.
+        item->updateGeometry();
     }
     showActiveItems();
 }

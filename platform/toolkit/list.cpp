@@ -5,6 +5,7 @@
 #include "platform/toolkit/abstractitemmodel.h"
 #include "platform/toolkit/cellcreator.h"
 #include "platform/toolkit/motion_p.h"
+#include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/pannableviewport.h"
 
 #include <QGraphicsScene>
@@ -107,7 +108,7 @@ void List::rebuild()
     finishAnimation();
     // From the last to the first: the recycler gives them out in the order of the rows again.
     for (auto it = m_cells.end(); it != m_cells.begin();)
-        m_recycler.recycle(*--it);
+        giveBack(*--it);
     m_cells.clear();
     m_outdated.clear();
     m_rows.setCount(m_model ? m_model->rowCount() : 0);
@@ -115,6 +116,13 @@ void List::rebuild()
     updateGeometry();
     update();
     scheduleUpdate();
+}
+
+// Its menu was opened on a row that the cell no longer stands for.
+void List::giveBack(Widget *cell)
+{
+    ObjectMenu::closeFor(cell);
+    m_recycler.recycle(cell);
 }
 
 void List::rekey(int first, int by)
@@ -147,7 +155,7 @@ void List::rowsRemoved(int first, int last)
     Widget *leaving = isChangeAnimated(first, last) ? m_cells.take(first) : nullptr;
     for (int row = last; row >= first; --row) {
         if (Widget *cell = m_cells.take(row))
-            m_recycler.recycle(cell);
+            giveBack(cell);
         m_outdated.remove(row);
     }
     rekey(first, first - last - 1);
@@ -207,7 +215,7 @@ void List::finishAnimation()
     if (m_change.cell)
         m_change.cell->setOpacity(1);
     if (m_change.cell && !m_change.appears)
-        m_recycler.recycle(m_change.cell);
+        giveBack(m_change.cell);
     m_change = {};
     m_rows.setShift(0, 0);
     updateGeometry();
@@ -252,7 +260,7 @@ void List::updateCells()
     const QList<int> rows = m_cells.keys();
     for (auto row = rows.crbegin(); row != rows.crend(); ++row) {
         if (*row < first || *row > last)
-            m_recycler.recycle(m_cells.take(*row));
+            giveBack(m_cells.take(*row));
     }
     for (int row = first; row <= last; ++row) {
         Widget *&cell = m_cells[row];

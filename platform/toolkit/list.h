@@ -69,6 +69,7 @@ private:
     void rebuild();
     void followCellSize();
     void rekey(int first, int by);
+    void giveBack(Widget *cell);
 
     bool isChangeAnimated(int first, int last) const;
     void animateFrom(int row, qreal shift, Widget *cell, bool appears);

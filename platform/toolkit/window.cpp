@@ -4,6 +4,8 @@
 
 #include "platform/toolkit/accessiblewindow_p.h"
 #include "platform/toolkit/application.h"
+#include "platform/toolkit/longpress_p.h"
+#include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/scenewindow.h"
 #include "platform/toolkit/theme.h"
 
@@ -40,6 +42,7 @@ void forEachWidget(const QGraphicsScene *scene, Function function)
 
 Window::Window(QWidget *parent)
     : QGraphicsView(parent)
+    , m_longPress(new LongPress(this))
 {
     installAccessibility();
     allWindows().append(this);
@@ -231,11 +234,21 @@ void Window::closeEvent(QCloseEvent *event)
 void Window::keyPressEvent(QKeyEvent *event)
 {
     finishTransitions();
+    if (event->key() == Qt::Key_Menu && openMenuOfFocus())
+        return;
     QGraphicsView::keyPressEvent(event);
     if (!event->isAccepted() && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Back)) {
         event->accept();
         close();
     }
+}
+
+bool Window::openMenuOfFocus()
+{
+    Widget *owner = ObjectMenu::ownerOf(scene()->focusItem());
+    if (owner)
+        ObjectMenu::open(owner);
+    return owner;
 }
 
 SceneWindow *Window::sceneWindowAt(const QPoint &place) const
@@ -265,8 +278,30 @@ bool Window::isStrayTap(const QMouseEvent *event)
 void Window::mousePressEvent(QMouseEvent *event)
 {
     finishTransitions();
-    if (!isStrayTap(event))
-        QGraphicsView::mousePressEvent(event);
+    if (isStrayTap(event))
+        return;
+    QGraphicsView::mousePressEvent(event);
+    if (event->button() == Qt::LeftButton)
+        m_longPress->press(event->position().toPoint());
+}
+
+void Window::mouseMoveEvent(QMouseEvent *event)
+{
+    m_longPress->moveTo(event->position().toPoint());
+    QGraphicsView::mouseMoveEvent(event);
+}
+
+void Window::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_longPress->release();
+    QGraphicsView::mouseReleaseEvent(event);
+}
+
+// The menu key comes as a key as well.
+void Window::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() != QContextMenuEvent::Mouse || !m_longPress->openAt(event->pos()))
+        QGraphicsView::contextMenuEvent(event);
 }
 
 void Window::mouseDoubleClickEvent(QMouseEvent *event)

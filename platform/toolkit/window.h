@@ -8,6 +8,7 @@
 
 namespace Touch {
 
+class LongPress;
 class SceneWindow;
 
 /**
@@ -63,7 +64,10 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
@@ -80,6 +84,7 @@ private:
     void finishTransitions();
     SceneWindow *sceneWindowAt(const QPoint &place) const;
     bool isStrayTap(const QMouseEvent *event);
+    bool openMenuOfFocus();
     void applyOrientation(Qt::Orientation orientation);
     void applyStyle();
     void refreshDisplay();
@@ -96,6 +101,7 @@ private:
     std::optional<quint64> m_pressTime; ///< in milliseconds
     QPoint m_pressPlace;
     QPointer<SceneWindow> m_pressed;
+    LongPress *m_longPress;
 };
 
 } // namespace Touch

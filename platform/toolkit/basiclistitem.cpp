@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/toolkit/basiclistitem.h"
+
+#include "platform/toolkit/gridlayoutpolicy.h"
+#include "platform/toolkit/imagewidget.h"
+#include "platform/toolkit/label.h"
+#include "platform/toolkit/layout.h"
+#include "platform/toolkit/press_p.h"
+
+#include <QGraphicsSceneMouseEvent>
+
+namespace Touch {
+
+BasicListItem::BasicListItem(ItemStyle itemStyle, QGraphicsItem *parent)
+    : Widget(parent)
+    , m_itemStyle(itemStyle)
+    , m_titleLabel(new Label(this))
+    , m_subtitleLabel(new Label(this))
+    , m_imageWidget(new ImageWidget(this))
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::TabFocus);
+    setAcceptedMouseButtons(Qt::LeftButton);
+}
+
+BasicListItem::~BasicListItem() = default;
+
+QString BasicListItem::title() const
+{
+    return m_titleLabel->text();
+}
+
+void BasicListItem::setTitle(const QString &title)
+{
+    m_titleLabel->setText(title);
+}
+
+QString BasicListItem::subtitle() const
+{
+    return m_subtitleLabel->text();
+}
+
+void BasicListItem::setSubtitle(const QString &subtitle)
+{
+    m_subtitleLabel->setText(subtitle);
+}
+
+void BasicListItem::setImage(const QString &iconId)
+{
+    m_imageWidget->setImage(iconId);
+}
+
+QGraphicsLayout *BasicListItem::createLayout()
+{
+    auto *layout = new Layout(this);
+    auto *grid = new GridLayoutPolicy(layout);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setStyleName(QStringLiteral("BasicListItemLayout"));
+    const int column = hasIcon() ? 1 : 0;
+    m_titleLabel->setStyleName(hasSubtitle() ? QStringLiteral("CommonTitleTop") : QStringLiteral("CommonSingleTitle"));
+    m_subtitleLabel->setStyleName(QStringLiteral("CommonSubTitle"));
+    m_imageWidget->setStyleName(QStringLiteral("CommonListItemIcon"));
+    if (hasIcon())
+        grid->addItem(m_imageWidget, 0, 0, hasSubtitle() ? 2 : 1, 1, Qt::AlignCenter);
+    grid->addItem(m_titleLabel, 0, column, 1, 1, Qt::AlignLeft | Qt::AlignVCenter);
+    if (hasSubtitle())
+        grid->addItem(m_subtitleLabel, 1, column, 1, 1, Qt::AlignLeft | Qt::AlignVCenter);
+    grid->setColumnStretchFactor(column, 1);
+    return layout;
+}
+
+// Not in the constructor, where no override would be reached.
+void BasicListItem::ensureLayout()
+{
+    if (m_isLayoutCreated)
+        return;
+    m_isLayoutCreated = true;
+    QGraphicsLayout *created = createLayout();
+    if (layout() != created)
+        setLayout(created);
+    for (Widget *part : {static_cast<Widget *>(m_titleLabel), static_cast<Widget *>(m_subtitleLabel),
+                         static_cast<Widget *>(m_imageWidget)}) {
+        if (!part->parentLayoutItem())
+            part->setVisible(false);
+    }
+}
+
+void BasicListItem::polishEvent()
+{
+    ensureLayout();
+    Widget::polishEvent();
+}
+
+QSizeF BasicListItem::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
+{
+    // A layout that it lies in measures it before it is polished; what measures it while it is constructed is no layout.
+    if (parentLayoutItem() && parentLayoutItem()->isLayout())
+        const_cast<BasicListItem *>(this)->ensureLayout();
+    return Widget::sizeHint(which, constraint);
+}
+
+void BasicListItem::setDown(bool isDown)
+{
+    if (m_isDown == isDown)
+        return;
+    m_isDown = isDown;
+    update();
+}
+
+void BasicListItem::mousePressEvent(QGraphicsSceneMouseEvent *)
+{
+    setDown(true);
+}
+
+void BasicListItem::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
+{
+    setDown(Press::holds(rect(), event->pos()));
+}
+
+void BasicListItem::mouseReleaseEvent(QGraphicsSceneMouseEvent *)
+{
+    if (!m_isDown)
+        return;
+    setDown(false);
+    emit clicked();
+}
+
+void BasicListItem::ungrabMouseEvent(QEvent *event)
+{
+    setDown(false);
+    Widget::ungrabMouseEvent(event);
+}
+
+void BasicListItem::keyPressEvent(QKeyEvent *event)
+{
+    if (!Press::isKey(event))
+        Widget::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        setDown(true);
+}
+
+void BasicListItem::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!Press::isKey(event) || event->isAutoRepeat() || !m_isDown) {
+        Widget::keyReleaseEvent(event);
+        return;
+    }
+    setDown(false);
+    emit clicked();
+}
+
+void BasicListItem::focusOutEvent(QFocusEvent *event)
+{
+    setDown(false);
+    Widget::focusOutEvent(event);
+}
+
+QString BasicListItem::shownText() const
+{
+    const bool hasBoth = !title().isEmpty() && !subtitle().isEmpty() && m_subtitleLabel->isVisibleTo(this);
+    return hasBoth ? title() + QLatin1String(", ") + subtitle() : title();
+}
+
+QStringList BasicListItem::accessibleActions() const
+{
+    return {QAccessibleActionInterface::pressAction()};
+}
+
+void BasicListItem::doAccessibleAction(const QString &)
+{
+    emit clicked();
+}
+
+void BasicListItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
+{
+    const Style &look = style();
+    paintBackground(painter, m_isDown && look.pressedBackground.isValid() ? look.pressedBackground : look.background);
+    paintFocusRing(painter);
+}
+
+} // namespace Touch
