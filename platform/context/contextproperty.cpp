@@ -6,28 +6,36 @@
 #include "platform/context/plainvalue_p.h"
 #include "platform/context/propertyaddress_p.h"
 
-#include <optional>
-#include <QDBusPendingCallWatcher>
+#include <QDBusError>
+#include <QDBusMessage>
 #include <QDBusServiceWatcher>
 #include <utility>
 
-/** The connection to the provider between subscribe() and unsubscribe(). */
-class ContextProperty::Subscription
+/**
+ * The connection to the provider between subscribe() and unsubscribe(). What it hears comes in the order in which it
+ * was sent, answers among changes: the last of it holds.
+ */
+class ContextProperty::Subscription : public QObject
 {
+    Q_OBJECT
+
 public:
     explicit Subscription(ContextProperty *property);
 
+private slots:
+    void answered(const QDBusVariant &value);
+    void refused(const QDBusError &error);
+
 private:
     void read();
-    void readFinished(const QDBusPendingReply<QDBusVariant> &reply);
+    void readFinished();
     void changed(const QDBusVariant &value);
-    void ownerChanged(const QString &before, const QString &now);
 
     ContextProperty *m_property;
     ContextPropertyProxy m_proxy;
     QDBusServiceWatcher m_watcher;
-    std::unique_ptr<QDBusPendingCallWatcher> m_pendingRead;
-    std::optional<QVariant> m_sentMeanwhile; ///< the last change since the pending read began
+    int m_readsUnderWay = 0;
+    QVariant m_heard; ///< since the first of the reads under way; invalid where nothing was
 };
 
 ContextProperty::Subscription::Subscription(ContextProperty *property)
@@ -36,50 +44,51 @@ ContextProperty::Subscription::Subscription(ContextProperty *property)
     , m_watcher(Context::serviceOf(property->key()), QDBusConnection::sessionBus(),
                 QDBusServiceWatcher::WatchForOwnerChange)
 {
-    QObject::connect(&m_proxy, &ContextPropertyProxy::changed, &m_proxy,
-                     [this](const QDBusVariant &value) { changed(value); });
-    QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, &m_watcher,
-                     [this](const QString &, const QString &before, const QString &now) { ownerChanged(before, now); });
+    connect(&m_proxy, &ContextPropertyProxy::changed, this, &Subscription::changed);
+    connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString &, const QString &, const QString &now) {
+                // A read that is under way may have gone to the provider before.
+                if (!now.isEmpty())
+                    read();
+            });
     read();
 }
 
 void ContextProperty::Subscription::read()
 {
-    m_sentMeanwhile.reset();
-    m_pendingRead = std::make_unique<QDBusPendingCallWatcher>(m_proxy.get());
-    QObject::connect(m_pendingRead.get(), &QDBusPendingCallWatcher::finished, &m_proxy,
-                     [this](QDBusPendingCallWatcher *call) { readFinished(*call); });
+    // Not with a watcher: one that is made after the answer came tells of it behind the changes that followed it.
+    const auto question = QDBusMessage::createMethodCall(m_proxy.service(), m_proxy.path(), m_proxy.interface(), "get");
+    if (m_proxy.connection().callWithCallback(question, this, SLOT(answered(QDBusVariant)), SLOT(refused(QDBusError))))
+        ++m_readsUnderWay;
 }
 
-void ContextProperty::Subscription::readFinished(const QDBusPendingReply<QDBusVariant> &reply)
+void ContextProperty::Subscription::answered(const QDBusVariant &value)
 {
-    // The watcher is the sender of this very signal.
-    m_pendingRead.release()->deleteLater();
-    const auto sentMeanwhile = std::exchange(m_sentMeanwhile, std::nullopt);
-    // An error means that nobody provides the value now, or nobody had the time to answer; the watched name tells
-    // when somebody else does, and a change that came before the error is as good as an answer.
-    if (!reply.isError())
-        m_property->accept(reply.value().variant());
-    else if (sentMeanwhile)
-        m_property->accept(*sentMeanwhile);
+    m_heard = value.variant();
+    readFinished();
+}
+
+void ContextProperty::Subscription::refused(const QDBusError &)
+{
+    // Nobody provides the value now, or nobody had the time to answer; the watched name tells when somebody else does,
+    // and a change that came before is as good as an answer.
+    readFinished();
+}
+
+void ContextProperty::Subscription::readFinished()
+{
+    --m_readsUnderWay;
+    if (m_readsUnderWay == 0 && m_heard.isValid())
+        m_property->accept(std::exchange(m_heard, {}));
 }
 
 void ContextProperty::Subscription::changed(const QDBusVariant &value)
 {
-    // What is sent before an answer on its way is contained in that answer, if there will be one.
-    if (m_pendingRead)
-        m_sentMeanwhile = value.variant();
+    // It is contained in the answer under way, if there will be one.
+    if (m_readsUnderWay > 0)
+        m_heard = value.variant();
     else
         m_property->accept(value.variant());
-}
-
-void ContextProperty::Subscription::ownerChanged(const QString &before, const QString &now)
-{
-    // A read that started the provider reaches it as it takes the name; any other one may have gone to the
-    // old one.
-    const bool startedByRead = before.isEmpty() && m_pendingRead;
-    if (!now.isEmpty() && !startedByRead)
-        read();
 }
 
 ContextProperty::ContextProperty(const QString &key, QObject *parent)
@@ -112,3 +121,5 @@ void ContextProperty::accept(const QVariant &value)
     m_value = Context::plainValue(value);
     emit valueChanged();
 }
+
+#include "contextproperty.moc"
