@@ -1,9 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/context/contextproperty.h"
+#include "platform/timed/busringer.h"
+#include "platform/timed/eventbook.h"
 #include "platform/timed/eventcodec.h"
+#include "platform/timed/eventservice.h"
+#include "platform/timed/lifecycle.h"
+#include "platform/timed/localzone.h"
 #include "platform/timed/moments.h"
+#include "platform/timed/ringing.h"
 #include "platform/timed/rules/zone.h"
+#include "platform/timed/schedule.h"
 #include "platform/timed/sqlitestore.h"
+#include "platform/timed/systemclock.h"
+#include "platform/timed/timerfdwaketimer.h"
 #include "platform/timedclient/wire.h"
 
 #include <algorithm>
@@ -29,6 +39,7 @@ namespace {
 
 constexpr int ManyCommits = 1000;
 constexpr int StartTimeout = 10000;
+constexpr qint64 RingTime = 120000;
 
 Wire::Event weekdayAlarm()
 {
@@ -90,6 +101,15 @@ public:
         return reply.isValid();
     }
 
+    bool ask() const
+    {
+        auto call = QDBusMessage::createMethodCall(Wire::Service, Wire::Path, Wire::Interface, "query_attributes");
+        call.setArguments({0u});
+        QDBusPendingReply<QVariantMap> reply = QDBusConnection::sessionBus().asyncCall(call);
+        reply.waitForFinished();
+        return reply.isValid();
+    }
+
     double proportionalSetKilobytes() const
     {
         QFile file(QStringLiteral("/proc/%1/smaps_rollup").arg(m_process.processId()));
@@ -105,6 +125,29 @@ public:
 private:
     QTemporaryDir m_home;
     QProcess m_process;
+};
+
+/** The daemon's parts that turn a decoded event into one that is stored and scheduled, in this process. */
+struct Inside
+{
+    explicit Inside(Store &store)
+        : book(store)
+        , schedule(clock, timer)
+        , ringer(QDBusConnection::sessionBus())
+        , ringing(book, schedule, clock, ringer)
+        , lifeCycle(book, schedule, ringing, clock, zone, RingTime)
+        , events(book, lifeCycle)
+    { }
+
+    SystemClock clock;
+    LocalZone zone;
+    EventBook book;
+    TimerFdWakeTimer timer;
+    Schedule schedule;
+    BusRinger ringer;
+    Ringing ringing;
+    LifeCycle lifeCycle;
+    EventService events;
 };
 
 /** What SQLite alone takes for the same bytes, with the same durability. */
@@ -123,6 +166,13 @@ public:
             m_insert.exec(statement);
         m_insert.prepare("INSERT INTO events (event) VALUES (?)");
     }
+
+    ~BareStore()
+    {
+        m_insert = QSqlQuery();
+        QSqlDatabase::removeDatabase(QSqlDatabase::defaultConnection);
+    }
+    Q_DISABLE_COPY(BareStore)
 
     bool add()
     {
@@ -151,26 +201,72 @@ double median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
-/** One call over the bus, answered when the event is on the disk, in turn with a bare commit: both meet the same load. */
-void addEvent(benchmark::State &state)
+/**
+ * One way of adding an event in turn with a bare commit: both meet the same load. "settle" waits for what still goes on
+ * once an event was added.
+ */
+void compareWithBareCommit(
+    benchmark::State &state, const std::function<bool(const Wire::Event &)> &add,
+    const std::function<void()> &settle = [] {})
 {
-    Daemon daemon;
-    if (!daemon.start())
-        state.SkipWithError("the daemon does not start");
     BareStore bare;
     const Wire::Event event = weekdayAlarm();
     std::vector<double> added;
     std::vector<double> committed;
     for (auto _ : state) {
-        added.push_back(microseconds([&] { return daemon.add(event); }, state));
+        added.push_back(microseconds([&] { return add(event); }, state));
+        settle();
         committed.push_back(microseconds([&] { return bare.add(); }, state));
     }
-    daemon.stop();
     state.counters["add us"] = median(added);
     state.counters["bare us"] = median(committed);
     state.counters["ratio"] = median(added) / median(committed);
 }
+
+/** One call over the bus, from the question to the answer: the event is on the disk, and the timer is armed. */
+void addEvent(benchmark::State &state)
+{
+    Daemon daemon;
+    if (!daemon.start())
+        state.SkipWithError("the daemon does not start");
+    // The next one finds a daemon that has published the one before.
+    ContextProperty triggers(Wire::TriggerProperty);
+    triggers.subscribe();
+    qsizetype count = 0;
+    const auto settle = [&] {
+        ++count;
+        while (triggers.value().toMap().size() < count)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    };
+    compareWithBareCommit(
+        state, [&](const Wire::Event &event) { return daemon.add(event); }, settle);
+    daemon.stop();
+}
 BENCHMARK(addEvent)->Iterations(ManyCommits)->UseRealTime()->Unit(benchmark::kMicrosecond);
+
+/** The daemon's part of that: checks, the commit, the schedule. Without the two ways over the bus. */
+void addEventInside(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const auto store = SqliteStore::create(folder.path(), SystemClock().now());
+    Inside inside(**store);
+    compareWithBareCommit(state, [&](const Wire::Event &event) { return bool(inside.events.add(event)); });
+}
+BENCHMARK(addEventInside)->Iterations(ManyCommits)->UseRealTime()->Unit(benchmark::kMicrosecond);
+
+/** A question that needs no disk: what the two ways over the bus take by themselves. */
+void askOverTheBus(benchmark::State &state)
+{
+    Daemon daemon;
+    if (!daemon.start())
+        state.SkipWithError("the daemon does not start");
+    std::vector<double> asked;
+    for (auto _ : state)
+        asked.push_back(microseconds([&] { return daemon.ask(); }, state));
+    daemon.stop();
+    state.counters["ask us"] = median(asked);
+}
+BENCHMARK(askOverTheBus)->Iterations(ManyCommits)->UseRealTime()->Unit(benchmark::kMicrosecond);
 
 /** From the start of the process to the published triggers of many events. */
 void startWithManyEvents(benchmark::State &state)

@@ -35,6 +35,11 @@ namespace {
 // The standard name for an error of the bus itself.
 constexpr auto BusError = "org.freedesktop.DBus.Error.Failed";
 
+// Many changes in a row are copied together, and do not share the disk with the copy.
+constexpr std::chrono::milliseconds PauseBeforeSnapshot = std::chrono::seconds(2);
+// Should no other change come.
+constexpr std::chrono::milliseconds LongestWithoutSnapshot = std::chrono::hours(24);
+
 } // namespace
 
 struct Daemon::Parts
@@ -87,7 +92,6 @@ Daemon::Daemon(const Settings &settings, std::unique_ptr<SqliteStore> store)
 {
     m_snapshotTimer.setSingleShot(true);
     m_snapshotTimer.setTimerType(Qt::VeryCoarseTimer);
-    m_snapshotTimer.setInterval(std::chrono::hours(24));
     QObject::connect(&m_snapshotTimer, &QTimer::timeout, &m_snapshotTimer,
                      [this] { m_store->takeSnapshot(m_parts->clock.now()); });
 }
@@ -144,14 +148,11 @@ void Daemon::follow()
 
 void Daemon::keepSnapshot()
 {
-    const qint64 now = m_parts->clock.now();
-    if (m_store->wantsSnapshot(now))
-        m_store->takeSnapshot(now);
-    // Should no other change come, what is here is copied within a day.
     if (!m_store->isAheadOfSnapshot())
-        m_snapshotTimer.stop();
-    else if (!m_snapshotTimer.isActive())
-        m_snapshotTimer.start();
+        return;
+    const auto delay = m_store->wantsSnapshot(m_parts->clock.now()) ? PauseBeforeSnapshot : LongestWithoutSnapshot;
+    if (!m_snapshotTimer.isActive() || m_snapshotTimer.intervalAsDuration() > delay)
+        m_snapshotTimer.start(delay);
 }
 
 } // namespace Astel::Timed

@@ -56,6 +56,18 @@ Error Database::failure(const QString &what, const QString &why)
     return {Wire::StorageError, QStringLiteral("%1: %2").arg(what, why)};
 }
 
+Result<> Database::run(QSqlQuery &statement, const QVariantList &values)
+{
+    for (qsizetype i = 0; i < values.size(); ++i)
+        statement.bindValue(int(i), values[i]);
+    const bool done = statement.exec();
+    const QString why = statement.lastError().text();
+    statement.finish();
+    if (!done)
+        return failure(QStringLiteral("cannot write the change"), why);
+    return Done{};
+}
+
 Result<std::shared_ptr<Database>> Database::open(const QString &folder)
 {
     QDir().mkpath(folder);

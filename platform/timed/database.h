@@ -7,6 +7,7 @@
 #include <memory>
 #include <QSqlDatabase>
 #include <QTemporaryDir>
+#include <QVariant>
 
 namespace Astel::Timed {
 
@@ -33,6 +34,8 @@ public:
 
     /** The error that a failed statement ended with. */
     static Error failure(const QString &what, const QString &why);
+    /** Executes a prepared statement that writes, with these values. */
+    static Result<> run(QSqlQuery &statement, const QVariantList &values);
 
 private:
     enum class Condition {

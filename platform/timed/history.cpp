@@ -6,7 +6,6 @@
 #include "platform/timed/eventcodec.h"
 #include "platform/timed/logging.h"
 
-#include <QSqlError>
 #include <QVariant>
 
 namespace Astel::Timed {
@@ -60,15 +59,15 @@ void History::begin(qint64 now)
 
 Result<> History::write(const Wire::JournalEntry &entry)
 {
-    if (auto done = run(m_note, {entry.moment, entry.cookie, entry.what, notNull(entry.detail)}); !done)
+    if (auto done = Database::run(m_note, {entry.moment, entry.cookie, entry.what, notNull(entry.detail)}); !done)
         return done;
     return entry.moment - m_forgot >= Day ? forgetOld(entry.moment) : Done{};
 }
 
 Result<> History::write(const Miss &miss)
 {
-    return run(m_miss,
-               {miss.cookie, miss.due, miss.noticed, missReasonName(miss.reason), miss.told, encodeEvent(miss.event)});
+    return Database::run(
+        m_miss, {miss.cookie, miss.due, miss.noticed, missReasonName(miss.reason), miss.told, encodeEvent(miss.event)});
 }
 
 Result<> History::forgetOld(qint64 now)
@@ -78,9 +77,9 @@ Result<> History::forgetOld(qint64 now)
     // A clock that jumped by years may be wrong, and makes everything look old.
     if (passed > Year)
         return Done{};
-    if (auto done = run(m_dropEntries, {now - Year}); !done)
+    if (auto done = Database::run(m_dropEntries, {now - Year}); !done)
         return done;
-    return run(m_dropMisses, {now - Week});
+    return Database::run(m_dropMisses, {now - Week});
 }
 
 QList<Wire::JournalEntry> History::journal(qint64 since) const
@@ -113,18 +112,6 @@ QList<Miss> History::missed() const
     }
     m_missed.finish();
     return result;
-}
-
-Result<> History::run(QSqlQuery &query, const QVariantList &values)
-{
-    for (qsizetype i = 0; i < values.size(); ++i)
-        query.bindValue(int(i), values[i]);
-    const bool done = query.exec();
-    const QString why = query.lastError().text();
-    query.finish();
-    if (!done)
-        return Database::failure(QStringLiteral("cannot write the change"), why);
-    return Done{};
 }
 
 } // namespace Astel::Timed

@@ -29,7 +29,6 @@ public:
     QList<Miss> missed() const;
 
 private:
-    Result<> run(QSqlQuery &query, const QVariantList &values);
     Result<> forgetOld(qint64 now);
 
     QSqlQuery m_note;

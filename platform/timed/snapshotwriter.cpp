@@ -113,7 +113,9 @@ QString SnapshotWriter::copy(const QString &target)
     if (QString copied = written.check(); copied != QLatin1String("ok"))
         return copied;
     // Ready to be restored: it does not give the cookies again that are given after it.
-    return written.run("UPDATE counter SET last_cookie = last_cookie + ?", {CookiesToStepOver});
+    return written.run("UPDATE counter SET last_cookie ="
+                       " max(last_cookie, (SELECT ifnull(max(cookie), 0) FROM events)) + ?",
+                       {CookiesToStepOver});
 }
 
 } // namespace Astel::Timed

@@ -75,7 +75,7 @@ Result<> SqliteStore::begin(qint64 now)
     QSqlQuery query(m_database->connection());
     if (m_database->wasRestored()) {
         query.prepare("UPDATE counter SET restored = ?");
-        if (auto done = run(query, {now}); !done)
+        if (auto done = Database::run(query, {now}); !done)
             return done;
     }
     m_history.begin(now);
@@ -109,7 +109,7 @@ Result<> SqliteStore::write(const Change &change)
     for (qsizetype i = 0; result && i < change.put.size(); ++i)
         result = put(change.put[i]);
     for (qsizetype i = 0; result && i < change.erased.size(); ++i)
-        result = run(m_erase, {change.erased[i]});
+        result = erase(change.erased[i]);
     for (qsizetype i = 0; result && i < change.journal.size(); ++i)
         result = m_history.write(change.journal[i]);
     for (qsizetype i = 0; result && i < change.missed.size(); ++i)
@@ -120,24 +120,18 @@ Result<> SqliteStore::write(const Change &change)
 Result<> SqliteStore::put(const AlarmEvent &event)
 {
     const Standing &standing = event.standing();
-    auto counted = run(m_count, {event.cookie()});
-    if (!counted)
-        return counted;
-    return run(m_put,
-               {event.cookie(), stateName(standing.state), orNull(standing.moment), standing.since,
-                orNull(standing.lastDue), standing.timeoutSnoozes, encodeEvent(event.wire())});
+    return Database::run(m_put,
+                         {event.cookie(), stateName(standing.state), orNull(standing.moment), standing.since,
+                          orNull(standing.lastDue), standing.timeoutSnoozes, encodeEvent(event.wire())});
 }
 
-Result<> SqliteStore::run(QSqlQuery &query, const QVariantList &values)
+Result<> SqliteStore::erase(quint32 cookie)
 {
-    for (qsizetype i = 0; i < values.size(); ++i)
-        query.bindValue(int(i), values[i]);
-    const bool done = query.exec();
-    const QString why = query.lastError().text();
-    query.finish();
-    if (!done)
-        return Database::failure(QStringLiteral("cannot write the change"), why);
-    return Done{};
+    // A stored event shows by itself that its cookie was given; counting only here saves every new one a page.
+    auto counted = Database::run(m_count, {cookie});
+    if (!counted)
+        return counted;
+    return Database::run(m_erase, {cookie});
 }
 
 QList<AlarmEvent> SqliteStore::events() const

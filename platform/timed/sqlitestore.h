@@ -44,7 +44,7 @@ private:
     Result<> begin(qint64 now);
     Result<> write(const Change &change);
     Result<> put(const AlarmEvent &event);
-    Result<> run(QSqlQuery &query, const QVariantList &values);
+    Result<> erase(quint32 cookie);
 
     std::shared_ptr<Database> m_database;
     QSqlQuery m_put;
