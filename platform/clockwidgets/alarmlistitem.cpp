@@ -6,7 +6,9 @@
 #include "platform/clockwidgets/timetext_p.h"
 #include "platform/locale/locale.h"
 #include "platform/toolkit/switch.h"
+#include "platform/toolkit/theme.h"
 
+#include <cmath>
 #include <QGraphicsSceneMouseEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -14,6 +16,10 @@
 using Touch::Locale;
 
 namespace {
+
+constexpr qreal lineGap = 2;
+/** With larger text than that, what the alarm is called stands below its time. */
+constexpr qreal largestScaleInLine = 1.25;
 
 /** Says which alarm it switches. */
 class RowSwitch : public Touch::Switch
@@ -158,6 +164,29 @@ qreal AlarmListItem::timeWidth() const
     return textWidth(*digits, widest.digits) + markerWidth + 1;
 }
 
+// Large texts have no room beside the time.
+bool AlarmListItem::isStacked() const
+{
+    return Touch::Theme::instance().textScale() > largestScaleInLine;
+}
+
+qreal AlarmListItem::lineHeight(const char *part) const
+{
+    return std::ceil(
+        QFontMetricsF(partStyle(*this, QStringLiteral("AlarmItem") + QLatin1String(part))->font()).height());
+}
+
+QSizeF AlarmListItem::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
+{
+    QSizeF size = Widget::sizeHint(which, constraint);
+    if (which == Qt::MaximumSize || !isStacked())
+        return size;
+    const qreal texts = lineHeight("Title") + lineGap + lineHeight("Repeat");
+    const QMarginsF padding = style().padding;
+    size.setHeight(qMax(size.height(), lineHeight("Time") + texts + padding.top() + padding.bottom()));
+    return size;
+}
+
 void AlarmListItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     const Touch::Style &look = style();
@@ -165,11 +194,16 @@ void AlarmListItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, Q
     painter->save();
     painter->setLayoutDirection(layoutDirection());
     const QRectF content = rect().marginsRemoved(look.padding);
-    const QRectF time(content.left(), content.top(), timeWidth(), content.height());
-    const qreal textsLeft = time.right() + look.spacing;
     const qreal textsRight = content.right() - m_switch->size().width() - look.spacing;
+    QRectF time(content.left(), content.top(), timeWidth(), content.height());
+    QRectF texts(time.right() + look.spacing, content.top(), 0, content.height());
+    if (isStacked()) {
+        time.setHeight(lineHeight("Time"));
+        texts = QRectF(content.left(), time.bottom(), 0, content.bottom() - time.bottom());
+    }
+    texts.setRight(textsRight);
     paintTime(*painter, mirrored(time));
-    paintTexts(*painter, mirrored({textsLeft, content.top(), textsRight - textsLeft, content.height()}));
+    paintTexts(*painter, mirrored(texts));
     painter->restore();
     paintFocusRing(painter);
 }
@@ -215,11 +249,10 @@ void AlarmListItem::paintTexts(QPainter &painter, const QRectF &rect) const
     }
     const qreal titleHeight = QFontMetricsF(title->font()).height();
     const qreal repeatHeight = QFontMetricsF(repeat->font()).height();
-    const qreal gap = 2;
-    const qreal top = rect.center().y() - (titleHeight + gap + repeatHeight) / 2;
+    const qreal top = rect.center().y() - (titleHeight + lineGap + repeatHeight) / 2;
     drawPart(painter, {rect.left(), top, rect.width(), titleHeight}, Qt::AlignLeft | Qt::AlignVCenter, *title,
              m_subTitle);
-    drawPart(painter, {rect.left(), top + titleHeight + gap, rect.width(), repeatHeight},
+    drawPart(painter, {rect.left(), top + titleHeight + lineGap, rect.width(), repeatHeight},
              Qt::AlignLeft | Qt::AlignVCenter, *repeat, m_subText);
 }
 

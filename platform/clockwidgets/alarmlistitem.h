@@ -68,8 +68,11 @@ protected:
     void ungrabMouseEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void styleChanged() override;
+    QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
 
 private:
+    bool isStacked() const;
+    qreal lineHeight(const char *part) const;
     void setPressed(bool pressed);
     void placeSwitch();
     QRectF mirrored(const QRectF &rect) const;

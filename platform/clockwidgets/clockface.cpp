@@ -10,6 +10,8 @@ namespace {
 
 // Room around the face for its shadow, as a part of the radius.
 constexpr qreal ShadowRoom = 0.08;
+// The size of a numeral, as a part of the radius, at which it still stands clear of the hands' middle.
+constexpr qreal largestNumeral = 0.23;
 
 QPointF onCircle(qreal degrees, qreal radius)
 {
@@ -113,7 +115,9 @@ void ClockFace::paintTicks(QPainter &painter, qreal radius) const
 
 void ClockFace::paintNumerals(QPainter &painter, qreal radius) const
 {
-    painter.setFont(m_look.numerals);
+    QFont font = m_look.numerals;
+    font.setPixelSize(qMin(font.pixelSize(), qRound(radius * largestNumeral)));
+    painter.setFont(font);
     painter.setPen(m_look.numeralColor);
     const QSizeF box(radius * 0.4, radius * 0.3);
     for (int i = 0; i < m_numerals.size(); ++i) {

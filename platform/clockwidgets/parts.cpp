@@ -53,7 +53,8 @@ void loadClockTheme()
     // Loading announces a changed theme, on which a list may make its first row and come here again.
     loading = true;
     QString error;
-    const bool ok = Touch::Theme::instance().load(QStringLiteral(":/theme/clockwidgets.json"), &error);
+    const bool ok = Touch::Theme::instance().load(QStringLiteral(":/theme/clockwidgets.json"), &error,
+                                                  Touch::Theme::Layer::Widgets);
     // The file is built in; a test reads it.
     Q_ASSERT_X(ok, "loadClockTheme", qPrintable(error));
     Q_UNUSED(ok)
@@ -92,4 +93,11 @@ void drawPart(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, co
         painter.drawText(cell, Qt::AlignCenter | Qt::TextDontClip, QString(c));
         cell.moveLeft(cell.right());
     }
+}
+
+void drawBounded(QPainter &painter, const QRectF &rect, const Style &style, const QString &text, qreal largestShare)
+{
+    Style bounded = style;
+    bounded.pixelSize = qMin(style.pixelSize, qRound(rect.height() * largestShare));
+    drawPart(painter, rect, Qt::AlignCenter, bounded, text);
 }

@@ -19,6 +19,9 @@ class Widget;
 void loadClockTheme();
 std::shared_ptr<const Touch::Style> partStyle(const Touch::Widget &widget, const QString &styleName);
 qreal textWidth(const Touch::Style &style, const QString &text);
+/// One line in a place that does not grow with the user's size of text: no larger than a share of its height.
+void drawBounded(QPainter &painter, const QRectF &rect, const Touch::Style &style, const QString &text,
+                 qreal largestShare);
 /// One line, elided where it is too long; digits of equal width, where the style says so, are centred.
 void drawPart(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, const Touch::Style &style,
               const QString &text);

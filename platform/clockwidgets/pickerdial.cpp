@@ -15,6 +15,8 @@ namespace {
 constexpr qreal TouchRadius = 30;
 // Around a handle in use, as a part of its radius; it stays within the widget.
 constexpr qreal HaloSize = 1.15;
+// The size of a text, as a part of the height of its place.
+constexpr qreal largestShare = 0.5;
 
 QPointF onCircle(qreal degrees, qreal radius)
 {
@@ -146,7 +148,7 @@ void PickerDial::paintNumbers(QPainter &painter, ClockHand hand) const
     const QStringList &texts = isMinute ? m_texts.minutes : m_texts.hours;
     for (int i = 0; i < texts.size(); ++i) {
         const QRectF box = around(onCircle(i * 30, ringRadius(hand)), ringWidth() / 2);
-        drawPart(painter, box, Qt::AlignCenter, isMinute ? *m_minuteLook : *m_hourLook, texts[i]);
+        drawBounded(painter, box, isMinute ? *m_minuteLook : *m_hourLook, texts[i], largestShare);
     }
 }
 
@@ -161,7 +163,7 @@ void PickerDial::paintHalves(QPainter &painter) const
             painter.setBrush(m_look->pressedBackground);
             painter.drawRoundedRect(box, size.height() / 2, size.height() / 2);
         }
-        drawPart(painter, box, Qt::AlignCenter, half == m_half ? *m_halfNowLook : *m_halfLook, m_texts.halves[half]);
+        drawBounded(painter, box, half == m_half ? *m_halfNowLook : *m_halfLook, m_texts.halves[half], largestShare);
     }
 }
 
@@ -190,5 +192,5 @@ void PickerDial::paintHandle(QPainter &painter, ClockHand hand, const Handle &ha
     painter.drawEllipse(place + QPointF(0, 1.5), radius - 0.5, radius - 0.5);
     painter.setBrush(m_look->accentColor);
     painter.drawEllipse(place, radius - 1, radius - 1);
-    drawPart(painter, around(place, radius), Qt::AlignCenter, *m_handleLook, handle.text);
+    drawBounded(painter, around(place, radius), *m_handleLook, handle.text, largestShare);
 }

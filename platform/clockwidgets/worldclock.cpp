@@ -104,7 +104,9 @@ void WorldClock::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWid
 {
     painter->save();
     QRectF area = paddedRect();
-    const QRectF date(area.left(), area.bottom() - DateHeight, area.width(), DateHeight);
+    const auto dateStyle = partStyle(*this, QStringLiteral("ClockDate"));
+    const qreal dateHeight = qMax(DateHeight, QFontMetricsF(dateStyle->font()).height());
+    const QRectF date(area.left(), area.bottom() - dateHeight, area.width(), dateHeight);
     area.setBottom(date.top() - style().spacing);
     if (m_face == Face::Analogue)
         m_clockFace->paint(*painter, area.center(), qMin(area.width(), area.height()), m_now.time(), isOnDisplay());
@@ -140,7 +142,11 @@ void WorldClock::paintDigits(QPainter &painter, const QRectF &rect) const
 
 void WorldClock::paintDate(QPainter &painter, const QRectF &rect) const
 {
-    drawPart(painter, rect, Qt::AlignCenter, *partStyle(*this, QStringLiteral("ClockDate")), dateText());
+    Touch::Style style = *partStyle(*this, QStringLiteral("ClockDate"));
+    const QString text = dateText();
+    // Rather smaller than cut off.
+    style.pixelSize = int(style.pixelSize * qMin(1.0, rect.width() / textWidth(style, text)));
+    drawPart(painter, rect, Qt::AlignCenter, style, text);
 }
 
 QString WorldClock::dateText() const

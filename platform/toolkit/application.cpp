@@ -5,6 +5,7 @@
 #include "platform/locale/locale.h"
 #include "platform/toolkit/applicationservice.h"
 #include "platform/toolkit/applicationwindow.h"
+#include "platform/toolkit/desktoplook.h"
 #include "platform/toolkit/theme.h"
 
 #include <QEvent>
@@ -36,6 +37,7 @@ Application::Application(int &argc, char **argv, const QString &appIdentifier, A
     setApplicationName(appIdentifier);
     setDesktopFileName(appIdentifier);
     loadTheme();
+    new DesktopLook(this);
     if (const QString icon = QStringLiteral(":/icons/%1.svg").arg(appIdentifier); QFile::exists(icon))
         setWindowIcon(QIcon(icon));
     Locale &locale = Locale::getDefault();

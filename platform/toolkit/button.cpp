@@ -190,6 +190,7 @@ PreparedText &Button::prepared() const
     if (!m_isStyled) {
         m_isStyled = true;
         m_text->setStyle(style());
+        m_text->setFit(PreparedText::Fit::Shrink);
     }
     return *m_text;
 }
@@ -197,6 +198,12 @@ PreparedText &Button::prepared() const
 bool Button::showsText() const
 {
     return m_viewType != QLatin1String("icon") && !m_text->text().isEmpty();
+}
+
+bool Button::showsWholeText() const
+{
+    const qreal beside = m_iconId.isEmpty() ? 0 : style().iconSize.width() + style().spacing;
+    return !showsText() || prepared().fits(paddedRect().size() - QSizeF(beside, 0));
 }
 
 QSizeF Button::contentSize() const

@@ -42,6 +42,9 @@ public:
     void setChecked(bool isChecked);
     bool isDown() const { return m_isDown; }
 
+    /** The text, if it shows one, is neither elided nor cut off. */
+    bool showsWholeText() const;
+
     /** As if the user had pressed it. */
     void click();
 

@@ -63,6 +63,11 @@ void Label::setWordWrap(bool wraps)
     updateFit();
 }
 
+bool Label::showsWholeText() const
+{
+    return prepared().fits(paddedRect().size());
+}
+
 void Label::updateFit()
 {
     m_isStyled = false;

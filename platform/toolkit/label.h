@@ -34,6 +34,8 @@ public:
     void setTextElide(bool elides);
     bool wordWrap() const { return m_wraps; }
     void setWordWrap(bool wraps);
+    /** Neither elided nor cut off. */
+    bool showsWholeText() const;
 
     QAccessible::Role accessibleRole() const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;

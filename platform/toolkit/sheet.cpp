@@ -22,9 +22,19 @@ void Sheet::setHeaderWidget(QGraphicsWidget *header)
         return;
     delete m_headerWidget;
     m_headerWidget = header;
-    if (header)
+    if (header) {
         header->setParentItem(this);
+        // It asks for more room by itself only where it lies in a layout.
+        header->installEventFilter(this);
+    }
     arrange();
+}
+
+bool Sheet::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+    return SceneWindow::eventFilter(watched, event);
 }
 
 void Sheet::stepBack()

@@ -32,6 +32,7 @@ protected:
     void stepBack() override;
     void setTransition(qreal progress) override;
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void resizeEvent(QGraphicsSceneResizeEvent *event) override;
 
 private:

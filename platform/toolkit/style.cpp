@@ -4,6 +4,28 @@
 
 namespace Touch {
 
+namespace {
+
+/** Text of this size, and smaller, takes the whole factor. */
+constexpr qreal fullyScaledSize = 20;
+
+/** Headings and clocks are read as they are: what they gain falls to nothing at five times the size above. */
+qreal gain(qreal pixelSize)
+{
+    return qMax(0.0, qMin(pixelSize, fullyScaledSize - (pixelSize - fullyScaledSize) / 4));
+}
+
+/** An icon beside a text keeps up with it, up to a point: it is a picture, not to be read. */
+constexpr qreal maxIconFactor = 1.5;
+
+void scaleHeight(QSizeF &size, qreal factor)
+{
+    if (size.height() > 0)
+        size.rheight() *= factor;
+}
+
+} // namespace
+
 QFont Style::font() const
 {
     QFont font;
@@ -14,6 +36,19 @@ QFont Style::font() const
         font.setLetterSpacing(QFont::AbsoluteSpacing, letterSpacing);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
+}
+
+void Style::scaleText(qreal factor)
+{
+    pixelSize += qRound(gain(pixelSize) * (factor - 1));
+    if (!scalesWithText)
+        return;
+    // The room above and below the text stays as it is.
+    const qreal heightFactor = 1 + (factor - 1) / 2;
+    scaleHeight(minimumSize, heightFactor);
+    scaleHeight(preferredSize, heightFactor);
+    scaleHeight(maximumSize, heightFactor);
+    iconSize *= qMin(factor, maxIconFactor);
 }
 
 } // namespace Touch

@@ -50,9 +50,12 @@ struct Style
     QSizeF preferredSize{-1, -1};
     QSizeF maximumSize{-1, -1};
     QSizeF iconSize{24, 24};
+    bool scalesWithText = false; ///< the heights and the icon grow with the user's size of text
     Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
 
     QFont font() const;
+    /** Makes text larger by the user's factor, large text by less of it; see scalesWithText. */
+    void scaleText(qreal factor);
 };
 
 } // namespace Touch

@@ -10,82 +10,111 @@ namespace Touch {
 
 namespace {
 
-using Setter = bool (*)(Style &, const QJsonValue &, const Palette &);
+using Setter = StyleProblem (*)(Style &, const QJsonValue &, const Palette &);
 
-template <auto Member>
-bool setNumber(Style &style, const QJsonValue &value, const Palette &)
+/** The longest that a length of a theme may be, in logical pixels. */
+constexpr double maxLength = 10000;
+
+StyleProblem checkNumber(const QJsonValue &value, double least, double most)
+{
+    if (!value.isDouble())
+        return StyleProblem::WrongType;
+    return value.toDouble() < least || value.toDouble() > most ? StyleProblem::BadNumber : StyleProblem::None;
+}
+
+StyleProblem checkNumbers(const QJsonValue &value, int count, double least)
+{
+    const QJsonArray numbers = value.toArray();
+    if (numbers.size() != count)
+        return StyleProblem::WrongType;
+    for (const QJsonValue &number : numbers) {
+        const StyleProblem problem = checkNumber(number, least, maxLength);
+        if (problem != StyleProblem::None)
+            return problem;
+    }
+    return StyleProblem::None;
+}
+
+template <auto Member, int Least, int Most>
+StyleProblem setNumber(Style &style, const QJsonValue &value, const Palette &)
 {
     using Type = std::remove_reference_t<decltype(style.*Member)>;
     style.*Member = Type(value.toDouble());
-    return value.isDouble();
+    return checkNumber(value, Least, Most);
 }
 
 template <QColor Style::*Member>
-bool setColor(Style &style, const QJsonValue &value, const Palette &palette)
+StyleProblem setColor(Style &style, const QJsonValue &value, const Palette &palette)
 {
+    if (!value.isString())
+        return StyleProblem::WrongType;
     style.*Member = readColor(value.toString(), palette);
-    return (style.*Member).isValid() || value.toString() == QLatin1String("none");
+    const bool isKnown = (style.*Member).isValid() || value.toString() == QLatin1String("none");
+    return isKnown ? StyleProblem::None : StyleProblem::UnknownColor;
 }
 
 template <QMarginsF Style::*Member>
-bool setMargins(Style &style, const QJsonValue &value, const Palette &)
+StyleProblem setMargins(Style &style, const QJsonValue &value, const Palette &)
 {
     const QJsonArray sides = value.toArray();
-    if (sides.size() != 4)
-        return false;
     style.*Member = QMarginsF(sides[0].toDouble(), sides[1].toDouble(), sides[2].toDouble(), sides[3].toDouble());
-    return true;
+    return checkNumbers(value, 4, 0);
 }
 
 template <QSizeF Style::*Member>
-bool setSize(Style &style, const QJsonValue &value, const Palette &)
+StyleProblem setSize(Style &style, const QJsonValue &value, const Palette &)
 {
     const QJsonArray size = value.toArray();
-    if (size.size() != 2)
-        return false;
-    style.*Member = QSizeF(size[0].toDouble(-1), size[1].toDouble(-1));
-    return true;
+    style.*Member = QSizeF(size[0].toDouble(), size[1].toDouble());
+    return checkNumbers(value, 2, -1);
 }
 
-bool setTabularDigits(Style &style, const QJsonValue &value, const Palette &)
+template <bool Style::*Member>
+StyleProblem setFlag(Style &style, const QJsonValue &value, const Palette &)
 {
-    style.tabularDigits = value.toBool();
-    return value.isBool();
+    style.*Member = value.toBool();
+    return value.isBool() ? StyleProblem::None : StyleProblem::WrongType;
 }
 
-bool setFamilies(Style &style, const QJsonValue &value, const Palette &)
+StyleProblem setFamilies(Style &style, const QJsonValue &value, const Palette &)
 {
     style.fontFamilies.clear();
-    for (const QJsonValue &family : value.toArray())
+    const QJsonArray families = value.toArray();
+    for (const QJsonValue &family : families) {
+        if (!family.isString())
+            return StyleProblem::WrongType;
         style.fontFamilies << family.toString();
-    return !style.fontFamilies.isEmpty();
+    }
+    return families.isEmpty() ? StyleProblem::WrongType : StyleProblem::None;
 }
 
-bool setAlignment(Style &style, const QJsonValue &value, const Palette &)
+StyleProblem setAlignment(Style &style, const QJsonValue &value, const Palette &)
 {
     static const QHash<QString, Qt::Alignment> names{
         {QStringLiteral("left"), Qt::AlignLeft},       {QStringLiteral("right"), Qt::AlignRight},
         {QStringLiteral("hcenter"), Qt::AlignHCenter}, {QStringLiteral("top"), Qt::AlignTop},
         {QStringLiteral("bottom"), Qt::AlignBottom},   {QStringLiteral("vcenter"), Qt::AlignVCenter},
         {QStringLiteral("center"), Qt::AlignCenter}};
+    if (!value.isString())
+        return StyleProblem::WrongType;
     style.alignment = {};
     const QStringList words = value.toString().split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (const QString &word : words) {
         if (!names.contains(word))
-            return false;
+            return StyleProblem::UnknownWord;
         style.alignment |= names[word];
     }
-    return !words.isEmpty();
+    return words.isEmpty() ? StyleProblem::UnknownWord : StyleProblem::None;
 }
 
 const QHash<QString, Setter> &setters()
 {
     static const QHash<QString, Setter> table{
         {QStringLiteral("fontFamilies"), setFamilies},
-        {QStringLiteral("pixelSize"), setNumber<&Style::pixelSize>},
-        {QStringLiteral("weight"), setNumber<&Style::weight>},
-        {QStringLiteral("letterSpacing"), setNumber<&Style::letterSpacing>},
-        {QStringLiteral("tabularDigits"), setTabularDigits},
+        {QStringLiteral("pixelSize"), setNumber<&Style::pixelSize, 1, 1000>},
+        {QStringLiteral("weight"), setNumber<&Style::weight, 1, 1000>},
+        {QStringLiteral("letterSpacing"), setNumber<&Style::letterSpacing, -100, 100>},
+        {QStringLiteral("tabularDigits"), setFlag<&Style::tabularDigits>},
         {QStringLiteral("color"), setColor<&Style::color>},
         {QStringLiteral("pressedColor"), setColor<&Style::pressedColor>},
         {QStringLiteral("checkedColor"), setColor<&Style::checkedColor>},
@@ -99,15 +128,16 @@ const QHash<QString, Setter> &setters()
         {QStringLiteral("focusColor"), setColor<&Style::focusColor>},
         {QStringLiteral("accentColor"), setColor<&Style::accentColor>},
         {QStringLiteral("promptColor"), setColor<&Style::promptColor>},
-        {QStringLiteral("borderWidth"), setNumber<&Style::borderWidth>},
-        {QStringLiteral("radius"), setNumber<&Style::radius>},
+        {QStringLiteral("borderWidth"), setNumber<&Style::borderWidth, 0, 1000>},
+        {QStringLiteral("radius"), setNumber<&Style::radius, 0, 1000>},
         {QStringLiteral("padding"), setMargins<&Style::padding>},
         {QStringLiteral("margins"), setMargins<&Style::margins>},
-        {QStringLiteral("spacing"), setNumber<&Style::spacing>},
+        {QStringLiteral("spacing"), setNumber<&Style::spacing, 0, 1000>},
         {QStringLiteral("minimumSize"), setSize<&Style::minimumSize>},
         {QStringLiteral("preferredSize"), setSize<&Style::preferredSize>},
         {QStringLiteral("maximumSize"), setSize<&Style::maximumSize>},
         {QStringLiteral("iconSize"), setSize<&Style::iconSize>},
+        {QStringLiteral("scalesWithText"), setFlag<&Style::scalesWithText>},
         {QStringLiteral("alignment"), setAlignment},
     };
     return table;
@@ -136,7 +166,7 @@ StyleProblem applyProperty(Style &style, const QString &property, const QJsonVal
     const Setter setter = setters().value(property);
     if (!setter)
         return StyleProblem::UnknownProperty;
-    return setter(style, value, palette) ? StyleProblem::None : StyleProblem::WrongValue;
+    return setter(style, value, palette);
 }
 
 } // namespace Touch

@@ -18,7 +18,7 @@ using Palette = QHash<QString, QColor>;
  * none. */
 QColor readColor(const QString &text, const Palette &palette);
 
-enum class StyleProblem { None, UnknownProperty, WrongValue };
+enum class StyleProblem { None, UnknownProperty, WrongType, BadNumber, UnknownColor, UnknownWord };
 
 /** Sets the one property of a style that a theme rule names. */
 [[nodiscard]] StyleProblem applyProperty(Style &style, const QString &property, const QJsonValue &value,

@@ -10,12 +10,15 @@
 #include <QPainter>
 #include <QRawFont>
 #include <QTextOption>
+#include <QtMath>
 
 namespace Touch {
 
 namespace {
 
 constexpr ushort firstComplexCharacter = 0x0250;
+/** How small, as a share of its size, a text gets to fit. */
+constexpr qreal smallestShare = 0.7;
 
 /** Glyphs of a plain text in which each digit takes the width of the widest digit. */
 QGlyphRun tabularGlyphs(const QString &text, const QFont &font, qreal *width)
@@ -90,22 +93,39 @@ qreal PreparedText::minimumWidth() const
     return m_fit == Fit::Clip ? naturalSize().width() : qMin(ellipsis, naturalSize().width());
 }
 
+bool PreparedText::fits(const QSizeF &size) const
+{
+    const QSizeF natural = naturalSize(size.width());
+    const qreal share = m_fit == Fit::Shrink ? smallestShare : 1;
+    return natural.width() * share <= std::ceil(size.width()) && natural.height() <= std::ceil(size.height());
+}
+
+QFont PreparedText::fittedFont(qreal width) const
+{
+    QFont font = m_font;
+    const qreal natural = naturalSize().width();
+    if (m_fit == Fit::Shrink && natural > width)
+        font.setPixelSize(qFloor(font.pixelSize() * qMax(smallestShare, width / natural)));
+    return font;
+}
+
 void PreparedText::prepare(qreal width) const
 {
     if (m_width == width)
         return;
     m_width = width;
     m_glyphs = {};
-    const QFontMetricsF metrics(m_font);
+    m_fittedFont = fittedFont(width);
+    const QFontMetricsF metrics(m_fittedFont);
     if (isTabular()) {
         qreal natural = 0;
-        m_glyphs = tabularGlyphs(m_text, m_font, &natural);
+        m_glyphs = tabularGlyphs(m_text, m_fittedFont, &natural);
         m_size = {natural, metrics.height()};
         if (m_fit == Fit::Clip || natural <= width)
             return;
         m_glyphs = {};
     }
-    const bool elides = m_fit == Fit::Elide && metrics.horizontalAdvance(m_text) > width;
+    const bool elides = (m_fit == Fit::Elide || m_fit == Fit::Shrink) && metrics.horizontalAdvance(m_text) > width;
     m_static.setText(elides ? metrics.elidedText(m_text, Qt::ElideRight, width) : m_text);
     m_static.setTextFormat(Qt::PlainText);
     QTextOption option;
@@ -113,7 +133,7 @@ void PreparedText::prepare(qreal width) const
     option.setAlignment(m_lines);
     m_static.setTextOption(option);
     m_static.setTextWidth(m_fit == Fit::Wrap ? width : -1);
-    m_static.prepare(QTransform(), m_font);
+    m_static.prepare(QTransform(), m_fittedFont);
     m_size = m_static.size();
 }
 
@@ -133,7 +153,7 @@ void PreparedText::draw(QPainter *painter, const QRectF &rect, Qt::Alignment ali
         at.ry() += (rect.height() - m_size.height()) / 2;
     at = {std::round(at.x()), std::round(at.y())};
     painter->setPen(color);
-    painter->setFont(m_font);
+    painter->setFont(m_fittedFont);
     if (m_glyphs.isEmpty())
         painter->drawStaticText(at, m_static);
     else

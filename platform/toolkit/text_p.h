@@ -20,7 +20,8 @@ struct Style;
 class PreparedText
 {
 public:
-    enum class Fit { Elide, Clip, Wrap };
+    /** What is done about a text that is too wide; one that shrinks is elided where it would get too small. */
+    enum class Fit { Elide, Shrink, Clip, Wrap };
 
     void setText(const QString &text);
     void setStyle(const Style &style);
@@ -33,10 +34,13 @@ public:
     QSizeF naturalSize(qreal width = -1) const;
     /** The narrowest that still says something. */
     qreal minimumWidth() const;
+    /** Whether all of it is seen in a place of this size. */
+    bool fits(const QSizeF &size) const;
     void draw(QPainter *painter, const QRectF &rect, Qt::Alignment alignment, const QColor &color) const;
 
 private:
     void prepare(qreal width) const;
+    QFont fittedFont(qreal width) const;
     bool isTabular() const;
 
     QString m_text;
@@ -47,6 +51,7 @@ private:
 
     // Cached for one width
     mutable qreal m_width = -1;
+    mutable QFont m_fittedFont;
     mutable QSizeF m_size;
     mutable QStaticText m_static;
     mutable QGlyphRun m_glyphs;

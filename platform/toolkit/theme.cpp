@@ -4,6 +4,7 @@
 
 #include "platform/toolkit/themefile_p.h"
 
+#include <algorithm>
 #include <QFile>
 #include <QGuiApplication>
 #include <QLoggingCategory>
@@ -26,6 +27,7 @@ namespace {
 
 constexpr int maxExtends = 8;
 constexpr int maxIcons = 200;
+constexpr qreal maxTextScale = 2;
 
 /** ":Widget", ":Button", ":Switch" for a switch: base first, without namespaces. */
 QStringList classRules(const QMetaObject *type)
@@ -73,22 +75,44 @@ Theme::Theme()
 {
     initToolkitResources();
     QString error;
-    if (!load(QStringLiteral(":/touch/theme/base.json"), &error))
+    if (!load(QStringLiteral(":/touch/theme/base.json"), &error, Layer::Toolkit))
         qCCritical(lcTheme).noquote() << "The toolkit's own theme is damaged:" << error;
     followDesktop();
+    setTextScale(1);
     // Pixmaps must not outlive the application object.
     qAddPostRoutine([] { Theme::instance().m_icons.clear(); });
 }
 
 Theme::~Theme() = default;
 
-bool Theme::load(const QString &jsonFile, QString *error)
+bool Theme::load(const QString &jsonFile, QString *error, Layer layer)
 {
-    if (!m_file->merge(jsonFile, error))
+    QFile file(jsonFile);
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (error)
+            *error = QStringLiteral("%1: %2").arg(jsonFile, file.errorString());
         return false;
+    }
+    QList<Source> sources = m_sources;
+    sources.removeIf([&](const Source &source) { return source.fileName == jsonFile; });
+    const auto above
+        = std::find_if(sources.begin(), sources.end(), [layer](const Source &source) { return source.layer > layer; });
+    sources.insert(above, {layer, jsonFile, file.readAll()});
+    auto merged = std::make_unique<ThemeFile>();
+    for (const Source &source : std::as_const(sources)) {
+        if (!merged->merge(source.fileName, source.text, error))
+            return false;
+    }
+    m_sources = sources;
+    m_file = std::move(merged);
+    announce();
+    return true;
+}
+
+void Theme::announce()
+{
     m_styles.clear();
     emit changed();
-    return true;
 }
 
 void Theme::setVariant(Variant variant)
@@ -96,8 +120,13 @@ void Theme::setVariant(Variant variant)
     if (m_variant == variant)
         return;
     m_variant = variant;
-    m_styles.clear();
-    emit changed();
+    announce();
+}
+
+void Theme::setDesktopVariant(std::optional<Variant> variant)
+{
+    m_desktopVariant = variant;
+    followDesktop();
 }
 
 void Theme::followDesktop()
@@ -108,7 +137,18 @@ void Theme::followDesktop()
         return;
     }
     const QColor window = QGuiApplication::palette().color(QPalette::Window);
-    setVariant(window.lightness() < 128 ? Variant::Dark : Variant::Light);
+    setVariant(m_desktopVariant.value_or(window.lightness() < 128 ? Variant::Dark : Variant::Light));
+}
+
+void Theme::setTextScale(qreal factor)
+{
+    bool isGiven = false;
+    const qreal given = qEnvironmentVariable("CLOCK_TEXT_SCALE").toDouble(&isGiven);
+    const qreal scale = qBound(1.0, isGiven ? given : factor, maxTextScale);
+    if (qFuzzyCompare(m_textScale, scale))
+        return;
+    m_textScale = scale;
+    announce();
 }
 
 std::shared_ptr<const Style> Theme::style(const QString &styleName, const QString &objectName, const QMetaObject *type,
@@ -137,6 +177,14 @@ bool Theme::hasStyle(const QString &styleName) const
     return m_file->rules().contains(styleName);
 }
 
+QStringList Theme::styleNames() const
+{
+    QStringList names = m_file->rules().keys();
+    names.removeIf([](const QString &name) { return name.startsWith(QLatin1Char(':')); });
+    names.sort();
+    return names;
+}
+
 QColor Theme::color(const QString &name, bool inverted) const
 {
     return m_file->palette(isDark(inverted)).value(name);
@@ -147,6 +195,8 @@ std::shared_ptr<const Style> Theme::resolve(const QStringList &rules, bool inver
     auto style = std::make_shared<Style>();
     for (const QString &rule : rules)
         applyRule(*style, rule, inverted, 0);
+    if (m_textScale != 1)
+        style->scaleText(m_textScale);
     return style;
 }
 
@@ -156,7 +206,10 @@ void Theme::applyRule(Style &style, const QString &name, bool inverted, int dept
     if (found == m_file->rules().constEnd() || depth > maxExtends)
         return;
     const QString extends = QStringLiteral("extends");
-    applyRule(style, (*found)[extends].toString(), inverted, depth + 1);
+    const QString base = (*found)[extends].toString();
+    if (!base.isEmpty() && !hasStyle(base))
+        warnUnknown(base);
+    applyRule(style, base, inverted, depth + 1);
     for (auto it = found->begin(); it != found->end(); ++it) {
         // Checked when the file was read.
         if (it.key() != extends)
@@ -164,7 +217,7 @@ void Theme::applyRule(Style &style, const QString &name, bool inverted, int dept
     }
 }
 
-void Theme::warnUnknown(const QString &styleName)
+void Theme::warnUnknown(const QString &styleName) const
 {
     if (m_warned.contains(styleName))
         return;

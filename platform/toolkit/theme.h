@@ -5,6 +5,7 @@
 #include "platform/toolkit/style.h"
 
 #include <memory>
+#include <optional>
 #include <QHash>
 #include <QObject>
 #include <QPixmap>
@@ -17,8 +18,8 @@ class ThemeFile;
  * The look of everything: styles resolved from JSON files, and icons. One object for the process, made on
  * first use with the toolkit's own theme (theme/base.json, the example to read) loaded. GUI thread only.
  *
- * A theme file is one object with up to three sections, each may be left out; a later file wins over an
- * earlier one: "palettes": { "dark": { "accent": "#FFB454" }, "light": { … } }   named colours of both
+ * A theme file is one object with up to three sections, each may be left out; a file wins over those of the
+ * layers below and over an earlier one of its own layer: "palettes": { "dark": { "accent": "#FFB454" }, "light": { … } }   named colours of both
  * variants "classes":  { "Button": { "radius": 12, "color": "text" } }       defaults, a derived class after
  * its base "styles":   { "StyleName": { … }, "#objectName": { … }, "StyleName#objectName": { … } } A rule
  * holds the properties of Style by their names. Colours are "#RRGGBB", "#AARRGGBB" or palette names, "text
@@ -33,22 +34,34 @@ class Theme : public QObject
 
 public:
     enum class Variant { Light, Dark };
+    /** Whose a theme file is. The application has the last word, whichever file is read first. */
+    enum class Layer { Toolkit, Widgets, Application };
 
     static Theme &instance();
     ~Theme() override;
 
-    /** Adds a file. On failure nothing is changed, and the error names the file, the line and the key. */
-    [[nodiscard]] bool load(const QString &jsonFile, QString *error);
+    /** Adds a file, or reads it again. On failure nothing is changed, and the error names the file, the line and
+     * the key. */
+    [[nodiscard]] bool load(const QString &jsonFile, QString *error, Layer layer = Layer::Application);
 
     Variant variant() const { return m_variant; }
     void setVariant(Variant variant);
-    /** Takes the variant of the desktop's palette, or of CLOCK_THEME ("light", "dark") where that is set. */
+    /** Takes the variant of CLOCK_THEME ("light", "dark") where that is set, the one that the desktop asks for, or
+     * the one of its palette. */
     void followDesktop();
+    /** What the desktop asks for; nothing if it does not say. */
+    void setDesktopVariant(std::optional<Variant> variant);
+
+    /** How much larger than designed text is, from 1 to 2. CLOCK_TEXT_SCALE in the environment wins. */
+    qreal textScale() const { return m_textScale; }
+    void setTextScale(qreal factor);
 
     /** The style of a widget. An unknown style name is as if none was given, and is warned about once. */
     std::shared_ptr<const Style> style(const QString &styleName, const QString &objectName, const QMetaObject *type,
                                        bool inverted = false);
+    /** Also by "#objectName" and "StyleName#objectName". */
     bool hasStyle(const QString &styleName) const;
+    QStringList styleNames() const;
     /** A named colour of the palette; invalid if there is none. */
     QColor color(const QString &name, bool inverted = false) const;
 
@@ -69,15 +82,26 @@ private:
     std::shared_ptr<const Style> resolve(const QStringList &rules, bool inverted) const;
     void applyRule(Style &style, const QString &name, bool inverted, int depth) const;
     bool isDark(bool inverted) const { return (m_variant == Variant::Dark) != inverted; }
-    void warnUnknown(const QString &styleName);
+    void announce();
+    void warnUnknown(const QString &styleName) const;
 
+    struct Source
+    {
+        Layer layer;
+        QString fileName;
+        QByteArray text;
+    };
+
+    QList<Source> m_sources; ///< from the lowest layer up
     std::unique_ptr<ThemeFile> m_file;
     Variant m_variant = Variant::Light;
+    std::optional<Variant> m_desktopVariant;
+    qreal m_textScale = 1;
 
     // Caches
     QHash<QString, std::shared_ptr<const Style>> m_styles;
     QHash<QString, QPixmap> m_icons;
-    QStringList m_warned;
+    mutable QStringList m_warned;
 };
 
 } // namespace Touch

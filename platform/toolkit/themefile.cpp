@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/themefile_p.h"
 
+#include "platform/toolkit/jsonlines_p.h"
 #include "platform/toolkit/style.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 
@@ -12,26 +12,24 @@ namespace Touch {
 
 namespace {
 
-int lineAt(const QByteArray &text, qsizetype offset)
+QString describe(StyleProblem problem, const QJsonValue &value, bool isDark)
 {
-    return 1 + int(text.left(offset).count('\n'));
-}
-
-/** The line of a key, looked for after the key that holds it: JSON documents do not keep positions. */
-int lineOf(const QByteArray &text, const QStringList &path)
-{
-    qsizetype at = 0;
-    for (const QString &key : path) {
-        const qsizetype found = text.indexOf('"' + key.toUtf8() + '"', at);
-        at = found < 0 ? at : found + 1;
+    switch (problem) {
+    case StyleProblem::UnknownProperty:
+        return QStringLiteral("unknown property");
+    case StyleProblem::WrongType:
+        return QStringLiteral("wrong type of value");
+    case StyleProblem::BadNumber:
+        return QStringLiteral("number out of range");
+    case StyleProblem::UnknownColor:
+        return QStringLiteral("\"%1\" is no colour of the %2 palette")
+            .arg(value.toString(), isDark ? QStringLiteral("dark") : QStringLiteral("light"));
+    case StyleProblem::UnknownWord:
+        return QStringLiteral("\"%1\" is no alignment").arg(value.toString());
+    case StyleProblem::None:
+        break;
     }
-    return lineAt(text, at);
-}
-
-bool fail(const QByteArray &text, const QStringList &path, const QString &problem, QString *error)
-{
-    *error = QStringLiteral("line %1: %2: %3").arg(lineOf(text, path)).arg(path.join(QLatin1Char('.')), problem);
-    return false;
+    return {};
 }
 
 void mergeRule(QJsonObject &rule, const QJsonObject &added)
@@ -42,22 +40,12 @@ void mergeRule(QJsonObject &rule, const QJsonObject &added)
 
 } // namespace
 
-bool ThemeFile::merge(const QString &fileName, QString *error)
+bool ThemeFile::merge(const QString &fileName, const QByteArray &text, QString *error)
 {
     QString ignored;
     QString &problem = error ? *error : ignored;
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        problem = QStringLiteral("%1: %2").arg(fileName, file.errorString());
-        return false;
-    }
-    const QByteArray text = file.readAll();
-    QJsonObject root;
     ThemeFile merged = *this;
-    const bool ok = merged.parse(text, &root, &problem) && merged.readPalettes(text, root, &problem)
-        && merged.readRules(text, root, QStringLiteral("classes"), &problem)
-        && merged.readRules(text, root, QStringLiteral("styles"), &problem);
-    if (!ok) {
+    if (!merged.mergeText(text, &problem)) {
         problem.prepend(QFileInfo(fileName).fileName() + QStringLiteral(": "));
         return false;
     }
@@ -65,71 +53,99 @@ bool ThemeFile::merge(const QString &fileName, QString *error)
     return true;
 }
 
-bool ThemeFile::parse(const QByteArray &text, QJsonObject *root, QString *error) const
+bool ThemeFile::mergeText(const QByteArray &text, QString *error)
 {
+    const QString located = QStringLiteral("line %1: %2");
     QJsonParseError parseError;
-    *root = QJsonDocument::fromJson(text, &parseError).object();
+    const QJsonDocument document = QJsonDocument::fromJson(text, &parseError);
     if (parseError.error != QJsonParseError::NoError) {
-        *error = QStringLiteral("line %1: %2").arg(lineAt(text, parseError.offset)).arg(parseError.errorString());
+        *error = located.arg(JsonLines::lineAt(text, parseError.offset)).arg(parseError.errorString());
         return false;
     }
+    if (!document.isObject()) {
+        *error = located.arg(1).arg(QStringLiteral("not an object"));
+        return false;
+    }
+    const JsonLines lines(text);
+    const Problem problem = readRoot(document.object(), lines);
+    if (problem.text.isEmpty())
+        return true;
+    const QString key = problem.path.join(QLatin1Char('.'));
+    *error = located.arg(lines.lineOf(problem.path)).arg(key + QStringLiteral(": ") + problem.text);
+    return false;
+}
+
+ThemeFile::Problem ThemeFile::readRoot(const QJsonObject &root, const JsonLines &lines)
+{
+    if (!lines.repeatedKey().isEmpty())
+        return {lines.repeatedKey(), QStringLiteral("given twice")};
+    // Palettes first: the rules name their colours.
     static const QStringList sections{QStringLiteral("palettes"), QStringLiteral("classes"), QStringLiteral("styles")};
-    for (auto it = root->begin(); it != root->end(); ++it) {
+    for (auto it = root.begin(); it != root.end(); ++it) {
         if (!sections.contains(it.key()) || !it.value().isObject())
-            return fail(text, {it.key()}, QStringLiteral("not a section of a theme"), error);
+            return {{it.key()}, QStringLiteral("not a section of a theme")};
     }
-    return true;
+    Problem problem = readPalettes(root[sections[0]].toObject());
+    for (int i = 1; i < sections.size() && problem.text.isEmpty(); ++i)
+        problem = readRules(sections[i], root[sections[i]].toObject());
+    return problem;
 }
 
-bool ThemeFile::readPalettes(const QByteArray &text, const QJsonObject &root, QString *error)
+ThemeFile::Problem ThemeFile::readPalettes(const QJsonObject &palettes)
 {
-    const QString section = QStringLiteral("palettes");
-    const QJsonObject palettes = root[section].toObject();
-    for (auto variant = palettes.begin(); variant != palettes.end(); ++variant) {
-        const bool isDark = variant.key() == QLatin1String("dark");
-        if (!isDark && variant.key() != QLatin1String("light"))
-            return fail(text, {section, variant.key()}, QStringLiteral("neither light nor dark"), error);
-        Palette &palette = isDark ? m_dark : m_light;
-        const QJsonObject colors = variant.value().toObject();
-        for (auto it = colors.begin(); it != colors.end(); ++it) {
-            const QColor color = readColor(it.value().toString(), {});
-            if (!color.isValid())
-                return fail(text, {section, variant.key(), it.key()}, QStringLiteral("not a colour"), error);
-            palette[it.key()] = color;
-        }
+    for (auto it = palettes.begin(); it != palettes.end(); ++it) {
+        const bool isVariant = it.key() == QLatin1String("dark") || it.key() == QLatin1String("light");
+        if (!isVariant || !it.value().isObject())
+            return {{QStringLiteral("palettes"), it.key()}, QStringLiteral("neither a light nor a dark palette")};
+        const Problem problem = readColors(it.key(), it.value().toObject());
+        if (!problem.text.isEmpty())
+            return problem;
     }
-    return true;
+    return {};
 }
 
-bool ThemeFile::readRules(const QByteArray &text, const QJsonObject &root, const QString &section, QString *error)
+ThemeFile::Problem ThemeFile::readColors(const QString &variant, const QJsonObject &colors)
 {
-    const QJsonObject rules = root[section].toObject();
+    Palette &palette = variant == QLatin1String("dark") ? m_dark : m_light;
+    for (auto it = colors.begin(); it != colors.end(); ++it) {
+        const QColor color = readColor(it.value().toString(), {});
+        if (!color.isValid())
+            return {{QStringLiteral("palettes"), variant, it.key()}, QStringLiteral("not a colour")};
+        palette[it.key()] = color;
+    }
+    return {};
+}
+
+ThemeFile::Problem ThemeFile::readRules(const QString &section, const QJsonObject &rules)
+{
     const QString prefix = section == QLatin1String("classes") ? QStringLiteral(":") : QString();
     for (auto it = rules.begin(); it != rules.end(); ++it) {
         if (!it.value().isObject())
-            return fail(text, {section, it.key()}, QStringLiteral("not a rule"), error);
-        if (!checkRule(text, it.key(), it.value().toObject(), error))
-            return false;
+            return {{section, it.key()}, QStringLiteral("not a rule")};
+        const Problem problem = checkRule({section, it.key()}, it.value().toObject());
+        if (!problem.text.isEmpty())
+            return problem;
         mergeRule(m_rules[prefix + it.key()], it.value().toObject());
     }
-    return true;
+    return {};
 }
 
-bool ThemeFile::checkRule(const QByteArray &text, const QString &name, const QJsonObject &rule, QString *error) const
+ThemeFile::Problem ThemeFile::checkRule(const QStringList &path, const QJsonObject &rule) const
 {
     for (auto it = rule.begin(); it != rule.end(); ++it) {
-        if (it.key() == QLatin1String("extends") && it.value().isString())
+        if (it.key() == QLatin1String("extends")) {
+            if (!it.value().isString())
+                return {path + QStringList(it.key()), describe(StyleProblem::WrongType, it.value(), false)};
             continue;
+        }
         Style scratch;
-        for (const bool dark : {false, true}) {
-            const StyleProblem problem = applyProperty(scratch, it.key(), it.value(), palette(dark));
-            if (problem == StyleProblem::UnknownProperty)
-                return fail(text, {name, it.key()}, QStringLiteral("unknown property"), error);
-            if (problem == StyleProblem::WrongValue)
-                return fail(text, {name, it.key()}, QStringLiteral("wrong value"), error);
+        for (const bool isDark : {false, true}) {
+            const StyleProblem problem = applyProperty(scratch, it.key(), it.value(), palette(isDark));
+            if (problem != StyleProblem::None)
+                return {path + QStringList(it.key()), describe(problem, it.value(), isDark)};
         }
     }
-    return true;
+    return {};
 }
 
 } // namespace Touch

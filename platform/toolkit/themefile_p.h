@@ -4,12 +4,13 @@
 
 #include "platform/toolkit/stylereader_p.h"
 
-#include <QByteArray>
 #include <QHash>
 #include <QJsonObject>
 #include <QString>
 
 namespace Touch {
+
+class JsonLines;
 
 /**
  * The rules of one theme or of several merged ones. Class rules are kept under ":" and the class name.
@@ -18,17 +19,25 @@ namespace Touch {
 class ThemeFile
 {
 public:
-    /** Merges a file into what is there; on failure the error names the file, the line and the key. */
-    [[nodiscard]] bool merge(const QString &fileName, QString *error);
+    /** Merges a file's text into what is there; on failure the error names the file, the line and the key. */
+    [[nodiscard]] bool merge(const QString &fileName, const QByteArray &text, QString *error);
 
     const QHash<QString, QJsonObject> &rules() const { return m_rules; }
     const Palette &palette(bool dark) const { return dark ? m_dark : m_light; }
 
 private:
-    bool parse(const QByteArray &text, QJsonObject *root, QString *error) const;
-    bool readPalettes(const QByteArray &text, const QJsonObject &root, QString *error);
-    bool readRules(const QByteArray &text, const QJsonObject &root, const QString &section, QString *error);
-    bool checkRule(const QByteArray &text, const QString &name, const QJsonObject &rule, QString *error) const;
+    struct Problem
+    {
+        QStringList path; ///< of keys, from the outside in
+        QString text;     ///< empty if there is none
+    };
+
+    bool mergeText(const QByteArray &text, QString *error);
+    Problem readRoot(const QJsonObject &root, const JsonLines &lines);
+    Problem readPalettes(const QJsonObject &palettes);
+    Problem readColors(const QString &variant, const QJsonObject &colors);
+    Problem readRules(const QString &section, const QJsonObject &rules);
+    Problem checkRule(const QStringList &path, const QJsonObject &rule) const;
 
     QHash<QString, QJsonObject> m_rules;
     Palette m_dark;

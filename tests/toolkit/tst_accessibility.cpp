@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "gallery.h"
+#include "tools/gallery/gallery.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/list.h"

@@ -1,18 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "gallery.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/banner.h"
+#include "platform/toolkit/button.h"
+#include "platform/toolkit/label.h"
 #include "platform/toolkit/textedit.h"
 #include "platform/toolkit/theme.h"
+#include "tools/gallery/gallery.h"
 
+#include <QDir>
 #include <QGuiApplication>
-#include <QSignalSpy>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Touch;
 
-/** Takes the pictures of every control, to be looked at. */
+/** Takes the pictures of every control, to be looked at, and holds that no text is cut off in them. */
 class TestGallery : public QObject
 {
     Q_OBJECT
@@ -22,9 +26,12 @@ private slots:
     void cleanup();
     void showsEveryControl_data();
     void showsEveryControl();
+    void isAProgramThatTakesPictures();
 
 private:
-    static bool save(Window &window, const char *what);
+    static void checkPicture(Window &window, const char *scene);
+    static bool save(Window &window, const QString &scene);
+    static QStringList cutOff(const Window &window);
 };
 
 void TestGallery::initTestCase()
@@ -35,29 +42,62 @@ void TestGallery::initTestCase()
 void TestGallery::cleanup()
 {
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    Theme::instance().setTextScale(1);
 }
 
-bool TestGallery::save(Window &window, const char *what)
+bool TestGallery::save(Window &window, const QString &scene)
 {
-    const QString file
-        = QStringLiteral(PICTURE_DIR "/%1-%2.png").arg(QLatin1String(what), QLatin1String(QTest::currentDataTag()));
-    return window.grab().save(file);
+    const QDir folder(QCoreApplication::applicationDirPath() + QStringLiteral("/../screenshots"));
+    QDir().mkpath(folder.path());
+    const QString file = QStringLiteral("gallery-%1-%2.png").arg(scene, QLatin1String(QTest::currentDataTag()));
+    return window.grab().save(folder.filePath(file));
+}
+
+void TestGallery::checkPicture(Window &window, const char *scene)
+{
+    QCoreApplication::processEvents();
+    QVERIFY(save(window, QString::fromLatin1(scene)));
+    QCOMPARE(cutOff(window).join(QLatin1Char('|')), QString());
+}
+
+QStringList TestGallery::cutOff(const Window &window)
+{
+    QStringList texts;
+    const QList<QGraphicsItem *> items = window.scene()->items();
+    for (const QGraphicsItem *item : items) {
+        const auto *label = qobject_cast<const Label *>(item->toGraphicsObject());
+        const bool isElidedOnPurpose = label && label->objectName() == QLatin1String("galleryElided");
+        if (label && label->isVisible() && !isElidedOnPurpose && !label->showsWholeText())
+            texts << label->text();
+        const auto *button = qobject_cast<const Button *>(item->toGraphicsObject());
+        if (button && button->isVisible() && !button->showsWholeText())
+            texts << button->text();
+    }
+    return texts;
 }
 
 void TestGallery::showsEveryControl_data()
 {
     QTest::addColumn<Theme::Variant>("variant");
     QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::newRow("dark") << Theme::Variant::Dark << Qt::LeftToRight;
-    QTest::newRow("light") << Theme::Variant::Light << Qt::LeftToRight;
-    QTest::newRow("mirrored") << Theme::Variant::Light << Qt::RightToLeft;
+    QTest::addColumn<qreal>("textScale");
+    for (const auto variant : {Theme::Variant::Light, Theme::Variant::Dark}) {
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            for (const qreal textScale : {1.0, 2.0})
+                QTest::addRow("%s%s%s", variant == Theme::Variant::Light ? "light" : "dark",
+                              direction == Qt::LeftToRight ? "" : "-mirrored", textScale == 1 ? "" : "-large")
+                    << variant << direction << textScale;
+        }
+    }
 }
 
 void TestGallery::showsEveryControl()
 {
     QFETCH(Theme::Variant, variant);
     QFETCH(Qt::LayoutDirection, direction);
+    QFETCH(qreal, textScale);
     Theme::instance().setVariant(variant);
+    Theme::instance().setTextScale(textScale);
     QGuiApplication::setLayoutDirection(direction);
     ApplicationWindow window;
     Gallery::Page page;
@@ -69,13 +109,36 @@ void TestGallery::showsEveryControl()
     banner.setStyleName(QStringLiteral("InformationBanner"));
     banner.setTitle(QStringLiteral("Alarm in 7 hours 25 minutes"));
     banner.appear(&window);
-    QVERIFY(save(window, "page"));
+    checkPicture(window, "page");
     banner.disappear();
+
+    Gallery::Question question;
+    question.appear(&window);
+    checkPicture(window, "question");
+    question.disappear();
 
     Gallery::Editor editor;
     editor.appear(&window);
     editor.field->setFocus(Qt::TabFocusReason);
-    QVERIFY(save(window, "sheet"));
+    checkPicture(window, "sheet");
+    editor.disappear();
+
+    Gallery::ListPage list;
+    list.appear(&window);
+    checkPicture(window, "list");
+}
+
+void TestGallery::isAProgramThatTakesPictures()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("picture.png"));
+    QProcess gallery;
+    gallery.start(QStringLiteral(GALLERY_PROGRAM),
+                  {QStringLiteral("--variant=dark"), QStringLiteral("--size=360x640"), QStringLiteral("--mirrored"),
+                   QStringLiteral("--text-scale=1.5"), QStringLiteral("--picture"), file});
+    QVERIFY(gallery.waitForFinished());
+    QCOMPARE(gallery.exitCode(), 0);
+    QCOMPARE(QImage(file).size(), QSize(360, 640));
 }
 
 QTEST_MAIN(TestGallery)

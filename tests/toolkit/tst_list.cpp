@@ -4,7 +4,7 @@
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/list.h"
 #include "platform/toolkit/pannableviewport.h"
-#include "rows.h"
+#include "tools/gallery/rows.h"
 #include "touch.h"
 
 #include <QTest>

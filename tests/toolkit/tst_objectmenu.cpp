@@ -6,8 +6,8 @@
 #include "platform/toolkit/list.h"
 #include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/pannableviewport.h"
-#include "rows.h"
 #include "tests/support/look/items.h"
+#include "tools/gallery/rows.h"
 #include "touch.h"
 
 #include <memory>

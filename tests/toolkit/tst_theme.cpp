@@ -23,6 +23,9 @@ private slots:
     void startsFromTheStyleItExtends();
     void givesADerivedClassItsBasesRules();
     void letsALaterFileWin();
+    void givesTheApplicationTheLastWord();
+    void readsAFileAgain();
+    void enlargesTextByTheUsersFactor();
     void readsColours_data();
     void readsColours();
     void readsSizesMarginsAndAlignment();
@@ -130,6 +133,61 @@ void TestTheme::letsALaterFileWin()
     QCOMPARE(label.style().radius, 2.0);
 }
 
+void TestTheme::givesTheApplicationTheLastWord()
+{
+    load(R"({"styles": {"Layered": {"pixelSize": 31}, "OnTop": {"extends": "Below", "pixelSize": 33}}})");
+    Label label;
+    label.setStyleName(QStringLiteral("Layered"));
+    QString error;
+    const QString widgets = write(R"({"styles": {"Layered": {"pixelSize": 30, "radius": 6}, "Below": {"radius": 5}}})");
+    QVERIFY2(Theme::instance().load(widgets, &error, Theme::Layer::Widgets), qPrintable(error));
+    QCOMPARE(label.style().pixelSize, 31);
+    QCOMPARE(label.style().radius, 6.0);
+    label.setStyleName(QStringLiteral("OnTop"));
+    QCOMPARE(label.style().radius, 5.0);
+}
+
+void TestTheme::readsAFileAgain()
+{
+    const QString fileName = write(R"({"styles": {"Live": {"pixelSize": 40, "radius": 2}}})");
+    QString error;
+    QVERIFY(Theme::instance().load(fileName, &error));
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(R"({"styles": {"Live": {"pixelSize": 41}}})");
+    file.close();
+    QVERIFY(Theme::instance().load(fileName, &error));
+    Label label;
+    label.setStyleName(QStringLiteral("Live"));
+    QCOMPARE(label.style().pixelSize, 41);
+    QCOMPARE(label.style().radius, Label().style().radius);
+}
+
+void TestTheme::enlargesTextByTheUsersFactor()
+{
+    load(R"({"styles": {"Body": {"pixelSize": 16, "minimumSize": [48, 40], "scalesWithText": true},
+                        "Heading": {"pixelSize": 60, "minimumSize": [48, 40]}, "Clock": {"pixelSize": 112}}})");
+    const auto sizeOf = [](const char *styleName) {
+        Label label;
+        label.setStyleName(QString::fromLatin1(styleName));
+        return label.style();
+    };
+    Theme::instance().setTextScale(2);
+    QCOMPARE(sizeOf("Body").pixelSize, 32);
+    QCOMPARE(sizeOf("Body").minimumSize, QSizeF(48, 60));
+    QCOMPARE(sizeOf("Heading").pixelSize, 70);
+    QCOMPARE(sizeOf("Heading").minimumSize, QSizeF(48, 40));
+    QCOMPARE(sizeOf("Clock").pixelSize, 112);
+    Theme::instance().setTextScale(9);
+    QCOMPARE(Theme::instance().textScale(), 2.0);
+    qputenv("CLOCK_TEXT_SCALE", "1.5");
+    Theme::instance().setTextScale(1);
+    QCOMPARE(sizeOf("Body").pixelSize, 24);
+    qunsetenv("CLOCK_TEXT_SCALE");
+    Theme::instance().setTextScale(1);
+    QCOMPARE(sizeOf("Body").pixelSize, 16);
+}
+
 void TestTheme::readsColours_data()
 {
     QTest::addColumn<QByteArray>("text");
@@ -210,17 +268,44 @@ void TestTheme::refusesAFileWithAnError_data()
     QTest::newRow("no JSON") << QByteArray("{\n\"styles\": {\n\"A\" 1}}") << "line 3: missing name separator";
     QTest::newRow("section") << QByteArray("{\n\"looks\": {}}") << "line 2: looks: not a section of a theme";
     QTest::newRow("property") << QByteArray("{\"styles\": {\n\"A\": {\"radius\": 1},\n\"B\": {\n\"radios\": 1}}}")
-                              << "line 4: B.radios: unknown property";
+                              << "line 4: styles.B.radios: unknown property";
     QTest::newRow("kind of value") << QByteArray("{\"styles\": {\n\"A\": {\"radius\": \"big\"}}}")
-                                   << "line 2: A.radius: wrong value";
+                                   << "line 2: styles.A.radius: wrong type of value";
     QTest::newRow("colour") << QByteArray("{\"styles\": {\"A\": {\n\n\"color\": \"mauve-ish\"}}}")
-                            << "line 3: A.color: wrong value";
+                            << "line 3: styles.A.color: \"mauve-ish\" is no colour of the light palette";
     QTest::newRow("strength") << QByteArray("{\"styles\": {\"A\": {\"color\": \"text 120%\"}}}")
-                              << "line 1: A.color: wrong value";
+                              << "line 1: styles.A.color: \"text 120%\" is no colour of the light palette";
     QTest::newRow("margins") << QByteArray("{\"styles\": {\"A\": {\"padding\": [1, 2]}}}")
-                             << "line 1: A.padding: wrong value";
+                             << "line 1: styles.A.padding: wrong type of value";
+    QTest::newRow("a style named in a value first")
+        << QByteArray("{\"styles\": {\"A\": {\"extends\": \"B\"},\n\"B\": {\n\"radius\": true}}}")
+        << "line 3: styles.B.radius: wrong type of value";
+    QTest::newRow("the same key elsewhere")
+        << QByteArray("{\"styles\": {\"A\": {\"color\": \"text\"},\n\"B\": {\"color\": 7}}}")
+        << "line 2: styles.B.color: wrong type of value";
+    QTest::newRow("number") << QByteArray("{\"styles\": {\"A\": {\n\"weight\": -3}}}")
+                            << "line 2: styles.A.weight: number out of range";
+    QTest::newRow("number in a list") << QByteArray("{\"classes\": {\"A\": {\n\"padding\": [1, 2, -3, 4]}}}")
+                                      << "line 2: classes.A.padding: number out of range";
+    QTest::newRow("word in a list") << QByteArray("{\"styles\": {\"A\": {\n\"iconSize\": [1, \"2\"]}}}")
+                                    << "line 2: styles.A.iconSize: wrong type of value";
+    QTest::newRow("flag") << QByteArray("{\"styles\": {\"A\": {\n\"scalesWithText\": 1}}}")
+                          << "line 2: styles.A.scalesWithText: wrong type of value";
+    QTest::newRow("alignment") << QByteArray("{\"styles\": {\"A\": {\"alignment\": \"left middle\"}}}")
+                               << "line 1: styles.A.alignment: \"left middle\" is no alignment";
+    QTest::newRow("no base") << QByteArray("{\"styles\": {\"A\": {\"extends\": 1}}}")
+                             << "line 1: styles.A.extends: wrong type of value";
+    QTest::newRow("key given twice") << QByteArray("{\"styles\": {\"A\": {\"radius\": 1},\n\"A\": {}}}")
+                                     << "line 2: styles.A: given twice";
+    QTest::newRow("colour of one palette only") << QByteArray(
+        "{\"palettes\": {\"light\": {\"dusk\": \"#111111\"}},\n\"styles\": {\"A\": {\"color\": \"dusk\"}}}")
+                                                << "line 2: styles.A.color: \"dusk\" is no colour of the dark palette";
+    QTest::newRow("no object") << QByteArray("[]") << "line 1: not an object";
+    QTest::newRow("rule") << QByteArray("{\"styles\": {\n\"A\": 1}}") << "line 2: styles.A: not a rule";
+    QTest::newRow("palette") << QByteArray("{\"palettes\": {\"dark\": 1}}")
+                             << "line 1: palettes.dark: neither a light nor a dark palette";
     QTest::newRow("variant") << QByteArray("{\"palettes\": {\n\"sepia\": {}}}")
-                             << "line 2: palettes.sepia: neither light nor dark";
+                             << "line 2: palettes.sepia: neither a light nor a dark palette";
     QTest::newRow("palette colour") << QByteArray("{\"palettes\": {\"dark\": {\n\"text\": \"bright\"}}}")
                                     << "line 2: palettes.dark.text: not a colour";
 }

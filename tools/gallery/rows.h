@@ -45,7 +45,7 @@ class RowCreator : public Touch::CellCreator
 public:
     Touch::Widget *createCell(const QModelIndex &index, Touch::WidgetRecycler &recycler) override;
     void updateCell(const QModelIndex &index, Touch::Widget *cell) override;
-    QSizeF cellSize() const override { return {0, 64}; }
+    QSizeF cellSize() const override;
 
     int made = 0;
     int updated = 0;

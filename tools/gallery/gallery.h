@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/toolkit/applicationpage.h"
+#include "platform/toolkit/messagebox.h"
 #include "platform/toolkit/sheet.h"
 
 namespace Touch {
@@ -31,6 +32,28 @@ private:
     QGraphicsWidget *makeHeader();
     QGraphicsWidget *makeButtons();
     QGraphicsWidget *makeSwitches();
+};
+
+/** A page with nothing but a list of 1,000 rows. */
+class ListPage : public Touch::ApplicationPage
+{
+    Q_OBJECT
+
+public:
+    ListPage();
+    void createContent() override;
+
+    Touch::List *list = nullptr;
+    Touch::PannableViewport *viewport = nullptr;
+};
+
+/** A question with a text and three answers. */
+class Question : public Touch::MessageBox
+{
+    Q_OBJECT
+
+public:
+    Question();
 };
 
 /** A sheet with a header and a field. */

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "gallery.h"
+#include "tools/gallery/gallery.h"
 
 #include "platform/toolkit/basicsheetheader.h"
 #include "platform/toolkit/button.h"
@@ -15,7 +15,7 @@
 #include "platform/toolkit/stylablewidget.h"
 #include "platform/toolkit/switch.h"
 #include "platform/toolkit/textedit.h"
-#include "rows.h"
+#include "tools/gallery/rows.h"
 
 #include <QAction>
 
@@ -31,6 +31,16 @@ Control *make(const char *styleName, Arguments... arguments)
     auto *control = new Control(arguments...);
     control->setStyleName(QString::fromLatin1(styleName));
     return control;
+}
+
+List *makeList(QObject *owner)
+{
+    auto *list = make<List>("CommonListWithSeparators");
+    list->setCellCreator(new RowCreator);
+    auto *rows = new Rows(owner);
+    rows->fill(1000);
+    list->setItemModel(rows);
+    return list;
 }
 
 } // namespace
@@ -51,12 +61,7 @@ void Page::createContent()
     column->addItem(makeSwitches());
     column->addItem(make<Separator>("CommonItemDivider"));
     viewport = new PannableViewport;
-    list = new List;
-    list->setStyleName(QStringLiteral("CommonListWithSeparators"));
-    list->setCellCreator(new RowCreator);
-    auto *rows = new Rows(this);
-    rows->fill(1000);
-    list->setItemModel(rows);
+    list = makeList(this);
     viewport->setWidget(list);
     column->addItem(viewport);
 }
@@ -83,16 +88,17 @@ QGraphicsWidget *Page::makeButtons()
                                              "width that it is given."));
     wrapped->setWordWrap(true);
     grid->addItem(wrapped, 0, 0, 1, 2);
-    grid->addItem(new Button(QStringLiteral("Plain")), 1, 0);
-    grid->addItem(make<Button>("CommonPrimaryButton", QStringLiteral("Primary")), 1, 1);
+    grid->addItem(make<Button>("CommonPrimaryButton", QStringLiteral("Primary")), 1, 0, 1, 2);
     auto *checked = new Button(QStringLiteral("Checked"));
     checked->setCheckable(true);
     checked->setChecked(true);
     checked->setIconID(QStringLiteral("icon-m-common-done"));
     grid->addItem(checked, 2, 0);
+    grid->addItem(new Button(QStringLiteral("Plain")), 2, 1);
     auto *disabled = new Button(QStringLiteral("Disabled"));
     disabled->setEnabled(false);
-    grid->addItem(disabled, 2, 1);
+    grid->addItem(disabled, 3, 0);
+    grid->addItem(make<Button>("CommonSheetHeaderButtonAccent", QStringLiteral("Flat")), 3, 1);
     return panel;
 }
 
@@ -101,8 +107,9 @@ QGraphicsWidget *Page::makeSwitches()
     auto *panel = make<StylableWidget>("CommonPanel");
     auto *grid = new GridLayoutPolicy(new Layout(panel));
     grid->addItem(make<Label>("CommonSubTitleTop", QStringLiteral("Repeat")), 0, 0);
-    grid->addItem(make<Label>("CommonTitleBottom", QStringLiteral("Monday, Tuesday, Wednesday, Thursday, Friday")), 1,
-                  0);
+    auto *elided = make<Label>("CommonTitleBottom", QStringLiteral("Monday, Tuesday, Wednesday, Thursday, Friday"));
+    elided->setObjectName(QStringLiteral("galleryElided"));
+    grid->addItem(elided, 1, 0);
     grid->addItem(new Switch, 0, 1, 2, 1);
     toggle = new Switch;
     toggle->setChecked(true);
@@ -110,6 +117,29 @@ QGraphicsWidget *Page::makeSwitches()
     grid->addItem(make<ImageWidget>("CommonDrillDownIcon", QStringLiteral("icon-m-common-drilldown-arrow")), 0, 3, 2,
                   1);
     return panel;
+}
+
+ListPage::ListPage()
+{
+    setTitle(QStringLiteral("List"));
+}
+
+void ListPage::createContent()
+{
+    ApplicationPage::createContent();
+    auto *column = new LinearLayoutPolicy(new Layout(centralWidget()), Qt::Vertical);
+    viewport = new PannableViewport;
+    list = makeList(this);
+    viewport->setWidget(list);
+    column->addItem(viewport);
+}
+
+Question::Question()
+    : MessageBox(QStringLiteral("Delete the alarm?"),
+                 QStringLiteral("It would have rung tomorrow at 7:05. What is deleted cannot be brought back."), Cancel)
+{
+    addButton(QStringLiteral("Switch off"));
+    addButton(QStringLiteral("Delete"))->setStyleName(QStringLiteral("CommonDestructiveButton"));
 }
 
 Editor::Editor()

@@ -1,8 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "rows.h"
+#include "tools/gallery/rows.h"
 
+#include "platform/toolkit/theme.h"
 #include "platform/toolkit/widgetrecycler.h"
+
+#include <cmath>
 
 namespace Gallery {
 
@@ -68,6 +71,11 @@ Touch::Widget *RowCreator::createCell(const QModelIndex &index, Touch::WidgetRec
     }
     updateCell(index, cell);
     return cell;
+}
+
+QSizeF RowCreator::cellSize() const
+{
+    return {0, std::round(64 * Touch::Theme::instance().textScale())};
 }
 
 void RowCreator::updateCell(const QModelIndex &index, Touch::Widget *cell)
