@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/clockwidgets/alerttonebrowsersheet.h"
+
+#include "platform/clockwidgets/alerttone.h"
+#include "platform/clockwidgets/parts_p.h"
+#include "platform/clockwidgets/toneitem_p.h"
+#include "platform/clockwidgets/tonemodel_p.h"
+#include "platform/clockwidgets/tonepreview_p.h"
+#include "platform/tones/tonefiles.h"
+#include "platform/toolkit/basicsheetheader.h"
+#include "platform/toolkit/cellcreator.h"
+#include "platform/toolkit/list.h"
+#include "platform/toolkit/pannableviewport.h"
+#include "platform/toolkit/widgetrecycler.h"
+
+#include <functional>
+#include <QAction>
+#include <QGraphicsLinearLayout>
+
+namespace {
+
+class ToneCreator : public Touch::CellCreator
+{
+public:
+    using Chosen = std::function<void(const QString &path)>;
+
+    explicit ToneCreator(const Chosen &chosen)
+        : m_chosen(chosen)
+    { }
+
+    Touch::Widget *createCell(const QModelIndex &index, Touch::WidgetRecycler &recycler) override
+    {
+        auto *item = dynamic_cast<ToneItem *>(recycler.take("ToneItem"));
+        if (!item) {
+            item = new ToneItem;
+            QObject::connect(item, &ToneItem::clicked, item, m_chosen);
+        }
+        updateCell(index, item);
+        return item;
+    }
+
+    void updateCell(const QModelIndex &index, Touch::Widget *cell) override
+    {
+        auto *item = dynamic_cast<ToneItem *>(cell);
+        if (!item)
+            return;
+        const bool isOwn = index.data(ToneModel::IsOwnRole).toBool();
+        item->setTone(index.data(ToneModel::PathRole).toString(), index.data().toString(),
+                      isOwn ? qtTrId("qtn_sond_own_music") : QString());
+        item->setState(index.data(ToneModel::IsSelectedRole).toBool(), index.data(ToneModel::IsPlayingRole).toBool());
+    }
+
+    QSizeF cellSize() const override { return m_pattern.effectiveSizeHint(Qt::PreferredSize); }
+
+private:
+    const Chosen m_chosen;
+    const ToneItem m_pattern;
+};
+
+} // namespace
+
+AlertToneBrowserSheet::AlertToneBrowserSheet(AlertTone *tone, QGraphicsItem *parent)
+    : Sheet(parent)
+    , m_tone(tone)
+    , m_model(new ToneModel(this))
+    , m_preview(new TonePreview(this))
+{
+    loadClockTheme();
+    connect(m_preview, &TonePreview::stopped, this, [this] { m_model->setPlaying({}); });
+    makeHeader();
+    makeList();
+}
+
+AlertToneBrowserSheet::~AlertToneBrowserSheet() = default;
+
+void AlertToneBrowserSheet::makeHeader()
+{
+    auto *header = new Touch::BasicSheetHeader;
+    auto *cancel = new QAction(qtTrId("qtn_sond_cancel"), header);
+    auto *done = new QAction(qtTrId("qtn_sond_done"), header);
+    header->setNegativeAction(cancel);
+    header->setPositiveAction(done);
+    setHeaderWidget(header);
+    connect(cancel, &QAction::triggered, this, &AlertToneBrowserSheet::dismiss);
+    connect(done, &QAction::triggered, this, &AlertToneBrowserSheet::take);
+}
+
+void AlertToneBrowserSheet::makeList()
+{
+    m_list = new Touch::List;
+    m_list->setStyleName("CommonListWithSeparators");
+    m_list->setCellCreator(new ToneCreator([this](const QString &path) { choose(path); }));
+    m_list->setItemModel(m_model);
+    auto *viewport = new Touch::PannableViewport;
+    viewport->setWidget(m_list);
+    auto *layout = new QGraphicsLinearLayout(Qt::Vertical, centralWidget());
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addItem(viewport);
+}
+
+QString AlertToneBrowserSheet::selectedFile() const
+{
+    return m_model->selected();
+}
+
+QString AlertToneBrowserSheet::playedFile() const
+{
+    return m_model->playing();
+}
+
+QString AlertToneBrowserSheet::shownText() const
+{
+    return qtTrId("qtn_sond_browser_title");
+}
+
+void AlertToneBrowserSheet::aboutToAppear()
+{
+    Sheet::aboutToAppear();
+    m_model->setSelected(m_tone->fileName());
+    m_model->refresh();
+}
+
+void AlertToneBrowserSheet::aboutToLeave()
+{
+    m_preview->stop();
+    Sheet::aboutToLeave();
+}
+
+void AlertToneBrowserSheet::exitDisplay()
+{
+    m_preview->stop();
+    Sheet::exitDisplay();
+}
+
+void AlertToneBrowserSheet::choose(const QString &path)
+{
+    const bool wasPlaying = m_model->playing() == path;
+    m_preview->stop();
+    m_model->setSelected(path);
+    if (wasPlaying || Tones::nameFromFile(path) == QLatin1String("No sound"))
+        return;
+    m_model->setPlaying(path);
+    m_preview->play(path);
+}
+
+void AlertToneBrowserSheet::take()
+{
+    const QString path = m_model->selected();
+    const QString title = m_model->titleOf(path);
+    dismiss();
+    m_tone->setTone(path, title);
+}

@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/clockwidgets/toneitem_p.h"
+
+#include "platform/clockwidgets/parts_p.h"
+
+#include <QGraphicsSceneMouseEvent>
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr qreal MarkSize = 24;
+constexpr qreal MarkLine = 2;
+constexpr qreal BarWidth = 4;
+
+} // namespace
+
+ToneItem::ToneItem(QGraphicsItem *parent)
+    : Widget(parent)
+{
+    loadClockTheme();
+    setFocusPolicy(Qt::TabFocus);
+}
+
+ToneItem::~ToneItem() = default;
+
+void ToneItem::setTone(const QString &path, const QString &title, const QString &origin)
+{
+    m_path = path;
+    m_title = title;
+    m_origin = origin;
+    update();
+}
+
+void ToneItem::setState(bool isSelected, bool isPlaying)
+{
+    if (m_isSelected == isSelected && m_isPlaying == isPlaying)
+        return;
+    m_isSelected = isSelected;
+    m_isPlaying = isPlaying;
+    update();
+}
+
+QString ToneItem::shownText() const
+{
+    QStringList texts{m_title, m_origin};
+    if (m_isSelected)
+        texts += qtTrId("qtn_sond_selected");
+    texts.removeAll(QString());
+    return texts.join(QLatin1String(", "));
+}
+
+QStringList ToneItem::accessibleActions() const
+{
+    return {QAccessibleActionInterface::pressAction()};
+}
+
+void ToneItem::doAccessibleAction(const QString &)
+{
+    Q_EMIT clicked(m_path);
+}
+
+QRectF ToneItem::mirrored(const QRectF &rect) const
+{
+    if (layoutDirection() != Qt::RightToLeft)
+        return rect;
+    return {size().width() - rect.right(), rect.top(), rect.width(), rect.height()};
+}
+
+void ToneItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
+{
+    const Touch::Style &look = style();
+    paintBackground(painter, m_isPressed ? look.pressedBackground : look.background);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setLayoutDirection(layoutDirection());
+    const QRectF content = rect().marginsRemoved(look.padding);
+    const QRectF mark(content.left(), content.center().y() - MarkSize / 2, MarkSize, MarkSize);
+    const QRectF bars(content.right() - MarkSize, mark.top(), MarkSize, MarkSize);
+    const qreal textsLeft = mark.right() + look.spacing;
+    paintMark(*painter, mirrored(mark));
+    paintTexts(*painter,
+               mirrored({textsLeft, content.top(), bars.left() - look.spacing - textsLeft, content.height()}));
+    if (m_isPlaying)
+        paintBars(*painter, mirrored(bars));
+    painter->restore();
+    paintFocusRing(painter);
+}
+
+void ToneItem::paintMark(QPainter &painter, const QRectF &rect) const
+{
+    const QRectF ring = rect.adjusted(MarkLine, MarkLine, -MarkLine, -MarkLine);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(m_isSelected ? style().accentColor : style().promptColor, MarkLine));
+    painter.drawEllipse(ring);
+    if (!m_isSelected)
+        return;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(style().accentColor);
+    painter.drawEllipse(rect.center(), MarkSize / 4, MarkSize / 4);
+}
+
+void ToneItem::paintTexts(QPainter &painter, const QRectF &rect) const
+{
+    const auto title = partStyle(*this, m_isSelected ? QStringLiteral("ToneTitleNow") : QStringLiteral("ToneTitle"));
+    if (m_origin.isEmpty()) {
+        drawPart(painter, rect, Qt::AlignLeft | Qt::AlignVCenter, *title, m_title);
+        return;
+    }
+    const auto origin = partStyle(*this, QStringLiteral("ToneOrigin"));
+    const qreal titleHeight = QFontMetricsF(title->font()).height();
+    const qreal originHeight = QFontMetricsF(origin->font()).height();
+    const qreal top = rect.center().y() - (titleHeight + originHeight) / 2;
+    drawPart(painter, {rect.left(), top, rect.width(), titleHeight}, Qt::AlignLeft | Qt::AlignVCenter, *title, m_title);
+    drawPart(painter, {rect.left(), top + titleHeight, rect.width(), originHeight}, Qt::AlignLeft | Qt::AlignVCenter,
+             *origin, m_origin);
+}
+
+// Three bars of a sound that plays.
+void ToneItem::paintBars(QPainter &painter, const QRectF &rect) const
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(style().accentColor);
+    qreal left = rect.center().x() - 2.5 * BarWidth;
+    for (const qreal share : {0.5, 0.85, 0.35}) {
+        const qreal height = share * rect.height();
+        painter.drawRoundedRect(QRectF(left, rect.bottom() - 2 - height, BarWidth, height), BarWidth / 2, BarWidth / 2);
+        left += 2 * BarWidth;
+    }
+}
+
+void ToneItem::setPressed(bool isPressed)
+{
+    if (m_isPressed == isPressed)
+        return;
+    m_isPressed = isPressed;
+    update();
+}
+
+void ToneItem::mousePressEvent(QGraphicsSceneMouseEvent *event)
+{
+    event->setAccepted(event->button() == Qt::LeftButton);
+    setPressed(event->isAccepted());
+}
+
+void ToneItem::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
+{
+    if (!rect().contains(event->pos()))
+        setPressed(false);
+}
+
+void ToneItem::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
+{
+    const bool isTap = m_isPressed && event->button() == Qt::LeftButton;
+    setPressed(false);
+    if (isTap)
+        Q_EMIT clicked(m_path);
+}
+
+// Whoever takes the press over, such as a viewport that pans, ends it.
+void ToneItem::ungrabMouseEvent(QEvent *event)
+{
+    setPressed(false);
+    Widget::ungrabMouseEvent(event);
+}
+
+void ToneItem::keyPressEvent(QKeyEvent *event)
+{
+    const bool isTap = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+    if (!isTap)
+        Widget::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        Q_EMIT clicked(m_path);
+}

@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/clockwidgets/tonemodel_p.h"
+
+#include "platform/clockwidgets/alerttone.h"
+#include "platform/locale/locale.h"
+#include "platform/sparql/qsparqlresult.h"
+#include "platform/tones/tonefiles.h"
+
+#include <algorithm>
+#include <QCollator>
+#include <QFileInfo>
+#include <QUrl>
+
+ToneModel::ToneModel(QObject *parent)
+    : QAbstractListModel(parent)
+    , m_store(QStringLiteral("QTRACKER"))
+{ }
+
+ToneModel::~ToneModel() = default;
+
+void ToneModel::refresh()
+{
+    m_shipped.clear();
+    QStringList names;
+    for (const QString &folder : Tones::ringToneFolders()) {
+        const QStringList paths = Tones::scanFolders({folder}).files.keys();
+        for (const QString &path : paths) {
+            // The same tone may be installed twice.
+            const QString name = QFileInfo(path).fileName();
+            if (!names.contains(name))
+                m_shipped += path;
+            names += name;
+        }
+    }
+    arrange();
+    auto *titles = m_store.exec(
+        QSparqlQuery(QStringLiteral("select ?url nie:title(?u) where { ?u a nfo:FileDataObject ; nie:url ?url }")));
+    connect(titles, &QSparqlResult::finished, this, [this, titles] { takeTitles(*titles); });
+    connect(titles, &QSparqlResult::finished, titles, &QObject::deleteLater);
+}
+
+void ToneModel::takeTitles(QSparqlResult &result)
+{
+    m_titles.clear();
+    while (result.next()) {
+        const QUrl url = QUrl::fromEncoded(result.stringValue(0).toLatin1());
+        m_titles.insert(url.toLocalFile(), result.stringValue(1));
+    }
+    arrange();
+}
+
+QString ToneModel::bestTitle(const QString &path) const
+{
+    const QString title = m_titles.value(path);
+    return title.isEmpty() || Tones::nameFromFile(path) == QLatin1String("No sound") ? AlertTone::niceNameOf(path)
+                                                                                     : title;
+}
+
+void ToneModel::arrange()
+{
+    QStringList own;
+    const QString music = Tones::musicFolder() + QLatin1Char('/');
+    for (auto file = m_titles.keyBegin(); file != m_titles.keyEnd(); ++file) {
+        if (file->startsWith(music))
+            own += *file;
+    }
+    if (!m_selected.isEmpty() && !m_shipped.contains(m_selected) && !own.contains(m_selected))
+        own += m_selected;
+
+    QList<Tone> tones;
+    for (const QString &path : std::as_const(m_shipped)) {
+        const bool isSilence = Tones::nameFromFile(path) == QLatin1String("No sound");
+        tones += {path, bestTitle(path), isSilence ? Tone::Silence : Tone::Shipped};
+    }
+    for (const QString &path : std::as_const(own))
+        tones += {path, bestTitle(path), Tone::Own};
+    QCollator order(QLocale(Touch::Locale::getDefault().categoryName(Touch::Locale::MessageCategory)));
+    order.setNumericMode(true);
+    order.setCaseSensitivity(Qt::CaseInsensitive);
+    std::sort(tones.begin(), tones.end(), [&order](const Tone &one, const Tone &other) {
+        if (one.kind != other.kind)
+            return one.kind < other.kind;
+        const int compared = order.compare(one.title, other.title);
+        return compared != 0 ? compared < 0 : one.path < other.path;
+    });
+    beginResetModel();
+    m_tones = tones;
+    endResetModel();
+}
+
+void ToneModel::setSelected(const QString &path)
+{
+    if (m_selected == path)
+        return;
+    const QString before = m_selected;
+    m_selected = path;
+    if (rowOf(path) < 0)
+        arrange();
+    rowChanged(before);
+    rowChanged(path);
+}
+
+void ToneModel::setPlaying(const QString &path)
+{
+    if (m_playing == path)
+        return;
+    const QString before = m_playing;
+    m_playing = path;
+    rowChanged(before);
+    rowChanged(path);
+}
+
+void ToneModel::rowChanged(const QString &path)
+{
+    const QModelIndex changed = index(rowOf(path));
+    if (changed.isValid())
+        Q_EMIT dataChanged(changed, changed);
+}
+
+int ToneModel::rowOf(const QString &path) const
+{
+    const auto isIt = [&path](const Tone &tone) { return tone.path == path; };
+    const auto tone = std::find_if(m_tones.begin(), m_tones.end(), isIt);
+    return tone != m_tones.end() ? int(tone - m_tones.begin()) : -1;
+}
+
+QString ToneModel::titleOf(const QString &path) const
+{
+    const int row = rowOf(path);
+    return row < 0 ? AlertTone::niceNameOf(path) : m_tones.at(row).title;
+}
+
+int ToneModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_tones.size());
+}
+
+QVariant ToneModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Tone &tone = m_tones.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return tone.title;
+    case PathRole:
+        return tone.path;
+    case IsOwnRole:
+        return tone.kind == Tone::Own;
+    case IsSelectedRole:
+        return tone.path == m_selected;
+    case IsPlayingRole:
+        return tone.path == m_playing;
+    default:
+        return {};
+    }
+}
