@@ -3,7 +3,9 @@
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/banner.h"
 #include "platform/toolkit/button.h"
+#include "platform/toolkit/combobox.h"
 #include "platform/toolkit/label.h"
+#include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/textedit.h"
 #include "platform/toolkit/theme.h"
 #include "tools/gallery/gallery.h"
@@ -126,6 +128,15 @@ void TestGallery::showsEveryControl()
     Gallery::ListPage list;
     list.appear(&window);
     checkPicture(window, "list");
+
+    Gallery::RowsPage rows;
+    rows.appear(&window);
+    checkPicture(window, "rows");
+    rows.choice->showPopup();
+    checkPicture(window, "choice");
+    rows.choice->dismissPopup();
+    ObjectMenu::open(rows.item);
+    checkPicture(window, "menu");
 }
 
 void TestGallery::isAProgramThatTakesPictures()

@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tools/gallery/gallery.h"
 
+#include "platform/toolkit/action.h"
+#include "platform/toolkit/basiclistitem.h"
 #include "platform/toolkit/basicsheetheader.h"
 #include "platform/toolkit/button.h"
+#include "platform/toolkit/combobox.h"
 #include "platform/toolkit/gridlayoutpolicy.h"
 #include "platform/toolkit/imagewidget.h"
 #include "platform/toolkit/label.h"
@@ -132,6 +135,39 @@ void ListPage::createContent()
     list = makeList(this);
     viewport->setWidget(list);
     column->addItem(viewport);
+}
+
+RowsPage::RowsPage()
+{
+    setTitle(QStringLiteral("Rows"));
+}
+
+void RowsPage::createContent()
+{
+    ApplicationPage::createContent();
+    auto *column = new LinearLayoutPolicy(new Layout(centralWidget()), Qt::Vertical);
+    for (const auto style : {BasicListItem::SingleTitle, BasicListItem::TitleWithSubtitle, BasicListItem::IconWithTitle,
+                             BasicListItem::IconWithTitleAndSubtitle}) {
+        auto *row = make<BasicListItem>("CommonPanel", style);
+        row->setTitle(QStringLiteral("Alarm tone"));
+        row->setSubtitle(QStringLiteral("Early birds"));
+        row->setImage(QStringLiteral("icon-m-common-alarm"));
+        column->addItem(row);
+        column->addItem(make<Separator>("CommonItemDivider"));
+        item = item ? item : row;
+    }
+    for (const char *text : {"Edit", "Delete"}) {
+        auto *action = new Action(QString::fromLatin1(text), item);
+        action->setLocation(Action::ObjectMenuLocation);
+        item->addAction(action);
+    }
+    choice = make<ComboBox>("CommonPanel");
+    choice->setTitle(QStringLiteral("Snooze"));
+    for (const int minutes : {5, 10, 15, 20, 30})
+        choice->addItem(QStringLiteral("%1 minutes").arg(minutes));
+    choice->setCurrentIndex(1);
+    column->addItem(choice);
+    column->addStretch();
 }
 
 Question::Question()

@@ -7,6 +7,8 @@
 #include "platform/toolkit/sheet.h"
 
 namespace Touch {
+class BasicListItem;
+class ComboBox;
 class List;
 class PannableViewport;
 class Switch;
@@ -45,6 +47,19 @@ public:
 
     Touch::List *list = nullptr;
     Touch::PannableViewport *viewport = nullptr;
+};
+
+/** A page of rows to tap: list items of all styles, and a choice; the first one has an object menu. */
+class RowsPage : public Touch::ApplicationPage
+{
+    Q_OBJECT
+
+public:
+    RowsPage();
+    void createContent() override;
+
+    Touch::BasicListItem *item = nullptr;
+    Touch::ComboBox *choice = nullptr;
 };
 
 /** A question with a text and three answers. */
