@@ -8,13 +8,19 @@
 #include "backup/clockbackup.h"
 #include "data/clockdata.h"
 #include "mainview/mashuppage.h"
+#include "platform/tones/tonefiller.h"
 #include "platform/toolkit/application.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/componentcache.h"
 
+#include <chrono>
 #include <QDBusConnection>
+#include <QTimer>
 
 namespace {
+
+// By then the first picture is long on the screen.
+constexpr std::chrono::seconds ToneFillDelay{2};
 
 void openMainPage()
 {
@@ -48,6 +54,8 @@ int runClock(int &argc, char **argv)
     new backupclientAdaptor(&participant);
     QDBusConnection bus = QDBusConnection::sessionBus();
     registerBackup(bus, &participant);
+    Tones::ToneFiller toneFiller;
+    QTimer::singleShot(ToneFillDelay, &toneFiller, &Tones::ToneFiller::start);
     const int status = application->exec();
 
     delete mainPage;
