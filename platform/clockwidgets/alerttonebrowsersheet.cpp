@@ -68,6 +68,7 @@ AlertToneBrowserSheet::AlertToneBrowserSheet(AlertTone *tone, QGraphicsItem *par
 {
     loadClockTheme();
     connect(m_preview, &TonePreview::stopped, this, [this] { m_model->setPlaying({}); });
+    connect(this, &SceneWindow::appeared, this, &AlertToneBrowserSheet::showSelected);
     makeHeader();
     makeList();
 }
@@ -92,11 +93,11 @@ void AlertToneBrowserSheet::makeList()
     m_list->setStyleName("CommonListWithSeparators");
     m_list->setCellCreator(new ToneCreator([this](const QString &path) { choose(path); }));
     m_list->setItemModel(m_model);
-    auto *viewport = new Touch::PannableViewport;
-    viewport->setWidget(m_list);
+    m_viewport = new Touch::PannableViewport;
+    m_viewport->setWidget(m_list);
     auto *layout = new QGraphicsLinearLayout(Qt::Vertical, centralWidget());
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addItem(viewport);
+    layout->addItem(m_viewport);
 }
 
 QString AlertToneBrowserSheet::selectedFile() const
@@ -131,6 +132,12 @@ void AlertToneBrowserSheet::exitDisplay()
 {
     m_preview->stop();
     Sheet::exitDisplay();
+}
+
+void AlertToneBrowserSheet::showSelected()
+{
+    const qreal height = m_list->cellCreator()->cellSize().height();
+    m_viewport->ensureVisible({0, height * m_model->rowOf(m_model->selected()), 1, height});
 }
 
 void AlertToneBrowserSheet::choose(const QString &path)

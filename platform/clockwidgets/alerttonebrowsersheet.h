@@ -6,7 +6,8 @@
 
 namespace Touch {
 class List;
-}
+class PannableViewport;
+} // namespace Touch
 
 class AlertTone;
 class ToneModel;
@@ -38,10 +39,12 @@ private:
     void makeHeader();
     void makeList();
     void choose(const QString &path);
+    void showSelected();
     void take();
 
     AlertTone *const m_tone;
     ToneModel *m_model;
     TonePreview *m_preview;
     Touch::List *m_list = nullptr;
+    Touch::PannableViewport *m_viewport = nullptr;
 };

@@ -53,8 +53,7 @@ void ToneModel::takeTitles(QSparqlResult &result)
 QString ToneModel::bestTitle(const QString &path) const
 {
     const QString title = m_titles.value(path);
-    return title.isEmpty() || Tones::nameFromFile(path) == QLatin1String("No sound") ? AlertTone::niceNameOf(path)
-                                                                                     : title;
+    return title.isEmpty() ? AlertTone::niceNameOf(path) : title;
 }
 
 void ToneModel::arrange()

@@ -36,7 +36,7 @@ void ToneFiller::start()
     connect(&m_thread, &QThread::finished, work, &QObject::deleteLater);
     connect(work, &ToneFillWork::filled, this, &ToneFiller::filled);
     connect(work, &ToneFillWork::failed, this, &ToneFiller::failed);
-    m_thread.start(QThread::LowestPriority);
+    m_thread.start();
 }
 
 } // namespace Tones

@@ -11,8 +11,8 @@ namespace Tones {
 
 /**
  * Keeps the store of tones in step with the files: reads the titles of what is new or has changed, forgets what is gone,
- * and does so again when files change. Works in a thread of its own at the lowest priority; a file that cannot be read
- * has no title, a folder that is missing is waited for. Owned by the program.
+ * and does so again when files change. Works in a thread of its own. A file that cannot be read has no title; a folder
+ * that is missing is waited for. Owned by the program.
  */
 class ToneFiller : public QObject
 {

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void noSoundComesFirstThenTonesThenMusic();
     void theTonesAreThereBeforeTheStoreAnswers();
     void aFileOfAnotherFolderIsListedWhileItIsChosen();
+    void theChosenToneIsInSight();
     void aTapChoosesAndPlays();
     void anotherTapPlaysAnotherToneAlone();
     void aSecondTapOnAToneEndsItsSound();
@@ -204,6 +205,16 @@ void tst_AlertToneBrowserSheet::aFileOfAnotherFolderIsListedWhileItIsChosen()
     QCOMPARE(sheet.selectedFile(), "/elsewhere/My_own.ogg");
 }
 
+void tst_AlertToneBrowserSheet::theChosenToneIsInSight()
+{
+    AlertTone last(shipped("Village Bells"));
+    AlertToneBrowserSheet sheet(&last);
+    sheet.appear(m_window.get());
+    auto *tones = Support::itemIn<Touch::List>(&sheet);
+    QTRY_VERIFY(tones->cellAt(13));
+    QTRY_VERIFY(m_window->sceneRect().contains(tones->cellAt(13)->sceneBoundingRect()));
+}
+
 void tst_AlertToneBrowserSheet::aTapChoosesAndPlays()
 {
     QCOMPARE(m_sheet->selectedFile(), shipped("Clock alert 1"));
@@ -325,7 +336,9 @@ void tst_AlertToneBrowserSheet::looks()
     QFETCH(Theme::Variant, variant);
     QFETCH(Qt::LayoutDirection, direction);
     Theme::instance().setVariant(variant);
+    cleanup();
     QApplication::setLayoutDirection(direction);
+    init();
     const QImage before = m_window->grab().toImage();
     tap("Dewdrops");
     QImage image;

@@ -144,7 +144,7 @@ void TestToneFiller::theTonesThatShipHaveTheirTitles()
         QVERIFY(QFile::copy(shipped.filePath(name), file(name)));
     QCOMPARE(fill(), names.size());
     for (const auto &name : names)
-        QCOMPARE(title(name) + ".aac", name);
+        QCOMPARE(title(name), name == "No sound.aac" ? NoTitle : name.chopped(4));
 }
 
 void TestToneFiller::theSecondFillReadsNothing()

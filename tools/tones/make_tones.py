@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The Clock authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
-"""Makes the tones that ship, each with its title as a tag, and the silent "No sound".
+"""Makes the tones that ship, each with its title as a tag, and the silent "No sound", whose name is translated.
 
     tools/tones/make_tones.py data/sounds/ring-tones [TITLE]...
 
@@ -87,7 +87,7 @@ def encode(samples, title, target):
             ["gst-launch-1.0", "-q", "filesrc", f"location={source}", "!", "wavparse", "!", "audioconvert", "!",
              "voaacenc", "bitrate=96000", "!", "aacparse", "!", "audio/mpeg,stream-format=adts", "!", "filesink",
              f"location={encoded}"], check=True)
-        target.write_bytes(title_tag(title) + encoded.read_bytes())
+        target.write_bytes((title_tag(title) if title else b"") + encoded.read_bytes())
 
 
 def main():
@@ -99,7 +99,7 @@ def main():
         if not wanted or tune.title in wanted:
             encode(perform(tune), tune.title, folder / f"{tune.title}.aac")
     if not wanted or "No sound" in wanted:
-        encode(array.array("h", bytes(2 * 44 * FRAME)), "No sound", folder / "No sound.aac")
+        encode(array.array("h", bytes(2 * 44 * FRAME)), None, folder / "No sound.aac")
 
 
 if __name__ == "__main__":

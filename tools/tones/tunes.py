@@ -99,7 +99,8 @@ TUNES = [
     ], room=0.5),
     Tune("Pulse", 4, 64, [
         (BEEP, 1, 0.80, "A5 A5 A5 A5 . . . . A5 A5 A5 A5 . . . . C6 C6 C6 C6 . . . . C6 C6 C6 C6 . . . . "
-                        "A5! A5! A5! A5! . . A5 A5 A5! A5! A5! A5! . . . . E6! E6! E6! E6! . . E6 E6 E6! E6! E6! E6! . . . ."),
+                        "A5! A5! A5! A5! . . A5 A5 A5! A5! A5! A5! . . . . "
+                        "E6! E6! E6! E6! . . E6 E6 E6! E6! E6! E6! . . . ."),
         (BASS, 4, 0.55, "A3 A3 A3 A3 F3 F3 F3 F3 A3 A3 A3 A3 E3 E3 E3 E3"),
     ], room=0.2, fade=0.25),
 ]
