@@ -2,13 +2,21 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/motion_p.h"
 
-#include <QByteArray>
+#include "platform/toolkit/desktopmotion_p.h"
+
+#include <QCoreApplication>
+#include <QPointer>
 
 namespace Touch {
 
 bool hasReducedMotion()
 {
-    return qgetenv("CLOCK_REDUCED_MOTION") == "1";
+    if (qEnvironmentVariableIsSet("CLOCK_REDUCED_MOTION"))
+        return qgetenv("CLOCK_REDUCED_MOTION") == "1";
+    static QPointer<DesktopMotion> desktop;
+    if (!desktop)
+        desktop = new DesktopMotion(QCoreApplication::instance());
+    return desktop->isReduced();
 }
 
 } // namespace Touch

@@ -4,7 +4,7 @@
 
 namespace Touch {
 
-/** Whether the user wants changes without movement: CLOCK_REDUCED_MOTION is 1. */
+/** Whether transitions are left out: CLOCK_REDUCED_MOTION says so by 1 and denies it by 0, otherwise the desktop does. */
 bool hasReducedMotion();
 
 } // namespace Touch

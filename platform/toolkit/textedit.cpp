@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/textedit.h"
 
+#include "platform/toolkit/inputmethodstate.h"
+#include "platform/toolkit/lineedit_p.h"
 #include "platform/toolkit/lineeditproxy_p.h"
 #include "platform/toolkit/theme.h"
 
 #include <QGraphicsSceneMouseEvent>
-#include <QLineEdit>
 #include <QPainter>
 
 namespace Touch {
@@ -31,7 +32,7 @@ QPalette editPalette(const Style &style)
 TextEdit::TextEdit(const QString &text, QGraphicsItem *parent)
     : Widget(parent)
     , m_proxy(new LineEditProxy(this))
-    , m_edit(new QLineEdit(text))
+    , m_edit(new LineEdit(text))
 {
     m_edit->setFrame(false);
     m_edit->setAttribute(Qt::WA_TranslucentBackground);
@@ -41,6 +42,7 @@ TextEdit::TextEdit(const QString &text, QGraphicsItem *parent)
     setFlag(ItemIsFocusable);
     setFocusProxy(m_proxy);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(&InputMethodState::instance(), &InputMethodState::extendedAttributeChanged, this, &TextEdit::followToolbar);
     connect(m_edit, &QLineEdit::textChanged, this, &TextEdit::textChanged);
     connect(m_edit, &QLineEdit::returnPressed, this, &TextEdit::returnPressed);
     connect(m_proxy, &LineEditProxy::gainedFocus, this, [this](Qt::FocusReason reason) {
@@ -102,6 +104,17 @@ void TextEdit::setCursorPosition(int position)
 QString TextEdit::selectedText() const
 {
     return m_edit->selectedText();
+}
+
+void TextEdit::attachToolbar(int id)
+{
+    m_toolbar = id;
+    followToolbar();
+}
+
+void TextEdit::followToolbar()
+{
+    m_edit->setEnterKeyType(InputMethodState::instance().enterKeyType(m_toolbar));
 }
 
 QAccessible::Role TextEdit::accessibleRole() const

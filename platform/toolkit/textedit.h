@@ -4,10 +4,9 @@
 
 #include "platform/toolkit/widget.h"
 
-class QLineEdit;
-
 namespace Touch {
 
+class LineEdit;
 class LineEditProxy;
 
 /** A line of text to edit. The editing is Qt's own line edit, so input methods, selection and clipboard work. */
@@ -36,6 +35,10 @@ public:
     void setCursorPosition(int position);
     QString selectedText() const;
 
+    /** What it asks of the software keyboard, a set of InputMethodState; 0 for nothing. */
+    int attachedToolbar() const { return m_toolbar; }
+    void attachToolbar(int id);
+
     QAccessible::Role accessibleRole() const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
@@ -56,10 +59,12 @@ protected:
 private:
     void applyStyle();
     void placeEdit();
+    void followToolbar();
 
     LineEditProxy *m_proxy;
-    QLineEdit *m_edit; ///< owned by the proxy
+    LineEdit *m_edit; ///< owned by the proxy
     bool m_isStyled = false;
+    int m_toolbar = 0;
 };
 
 } // namespace Touch

@@ -4,6 +4,7 @@
 
 #include "platform/toolkit/accessiblewindow_p.h"
 #include "platform/toolkit/application.h"
+#include "platform/toolkit/keyboardroom_p.h"
 #include "platform/toolkit/longpress_p.h"
 #include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/scenewindow.h"
@@ -47,6 +48,7 @@ Window::Window(QWidget *parent)
     installAccessibility();
     allWindows().append(this);
     setScene(new QGraphicsScene(this));
+    m_keyboardRoom = new KeyboardRoom(this);
     // Few items, many of them moving: an index costs more than it finds.
     scene()->setItemIndexMethod(QGraphicsScene::NoIndex);
     setFrameShape(QFrame::NoFrame);
@@ -80,6 +82,8 @@ void Window::setStyleName(const QString &styleName)
     if (m_styleName == styleName)
         return;
     m_styleName = styleName;
+    if (styleName.endsWith(QLatin1String("Inverted")))
+        setInverted(true);
     applyStyle();
 }
 
@@ -137,7 +141,7 @@ bool Window::stepBack()
 {
     finishTransitions();
     SceneWindow *top = topSceneWindow();
-    if (!top || top == m_stack.constFirst())
+    if (!top || (top == m_stack.constFirst() && closesInsteadOfLast()))
         return false;
     top->stepBack();
     return true;
@@ -327,6 +331,7 @@ void Window::resizeEvent(QResizeEvent *event)
         applyOrientation(width() > height() ? Qt::Horizontal : Qt::Vertical);
     for (SceneWindow *sceneWindow : std::as_const(m_known))
         sceneWindow->place(viewport()->size());
+    m_keyboardRoom->update();
 }
 
 void Window::showEvent(QShowEvent *event)
@@ -339,6 +344,9 @@ void Window::showEvent(QShowEvent *event)
 
 void Window::hideEvent(QHideEvent *event)
 {
+    // Another one that is still shown is the one to work in.
+    allWindows().removeAll(this);
+    allWindows().prepend(this);
     QGraphicsView::hideEvent(event);
     refreshDisplay();
 }

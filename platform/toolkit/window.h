@@ -8,6 +8,7 @@
 
 namespace Touch {
 
+class KeyboardRoom;
 class LongPress;
 class SceneWindow;
 
@@ -29,6 +30,7 @@ public:
     static Window *active();
 
     QString styleName() const { return m_styleName; }
+    /** A name that ends in "Inverted" inverts the window as well. */
     void setStyleName(const QString &styleName);
 
     /** Shows the contents in the colours of the other theme variant. */
@@ -61,6 +63,8 @@ signals:
     void stackChanged();
 
 protected:
+    /** Whether going back from the only thing it shows closes it at once, rather than leaving that thing. */
+    virtual bool closesInsteadOfLast() const { return true; }
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -102,6 +106,7 @@ private:
     QPoint m_pressPlace;
     QPointer<SceneWindow> m_pressed;
     LongPress *m_longPress;
+    KeyboardRoom *m_keyboardRoom = nullptr;
 };
 
 } // namespace Touch
