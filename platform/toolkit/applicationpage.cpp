@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/applicationpage.h"
 
+#include "platform/toolkit/pannableviewport.h"
+
 #include <QGraphicsSceneResizeEvent>
 
 namespace Touch {
@@ -39,6 +41,19 @@ ApplicationPage::DisplayMode ApplicationPage::componentDisplayMode(Component com
     return m_displayModes.value(component, Show);
 }
 
+void ApplicationPage::setPannable(bool isPannable)
+{
+    if (m_isPannable == isPannable)
+        return;
+    m_isPannable = isPannable;
+    if (!m_viewport) {
+        m_viewport = new PannableViewport(this);
+        m_viewport->setWidget(m_centralWidget);
+    }
+    m_viewport->setPanDirection(isPannable ? Qt::Vertical : Qt::Orientations());
+    arrange();
+}
+
 void ApplicationPage::aboutToAppear()
 {
     if (m_isContentCreated)
@@ -55,7 +70,8 @@ void ApplicationPage::resizeEvent(QGraphicsSceneResizeEvent *event)
 
 void ApplicationPage::arrange()
 {
-    m_centralWidget->setGeometry(paddedRect());
+    QGraphicsWidget *content = m_viewport ? static_cast<QGraphicsWidget *>(m_viewport) : m_centralWidget;
+    content->setGeometry(paddedRect());
 }
 
 } // namespace Touch

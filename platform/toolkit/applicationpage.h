@@ -8,9 +8,11 @@
 
 namespace Touch {
 
+class PannableViewport;
+
 /**
- * A page that fills its window. Its content is made once, when it first appears. The page itself does not
- * pan: what shall, lies in a viewport on the central widget.
+ * A page that fills its window. Its content is made once, when it first appears. The page pans its central widget only
+ * where it is told to; mostly a part of the page pans, in a viewport on the central widget.
  */
 class ApplicationPage : public SceneWindow
 {
@@ -34,6 +36,10 @@ public:
 
     Widget *centralWidget() const { return m_centralWidget; }
 
+    bool isPannable() const { return m_isPannable; }
+    /** Whether the central widget may be higher than the page and is panned then. */
+    void setPannable(bool isPannable);
+
     /** How the window's own parts are shown with this page; the mask is made of Component. */
     void setComponentsDisplayMode(int componentMask, DisplayMode mode);
     DisplayMode componentDisplayMode(Component component) const;
@@ -56,6 +62,8 @@ private:
     bool m_isContentCreated = false;
     QHash<int, DisplayMode> m_displayModes;
     Widget *m_centralWidget = nullptr;
+    bool m_isPannable = false;
+    PannableViewport *m_viewport = nullptr; ///< made when the page is first pannable
 };
 
 } // namespace Touch
