@@ -5,14 +5,12 @@
 #include "platform/toolkit/basicsheetheader.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/sheet.h"
-#include "platform/toolkit/textedit.h"
 #include "touch.h"
 
 #include <QAction>
 #include <QGraphicsScene>
 #include <QPointer>
 #include <QSignalSpy>
-#include <QStyleHints>
 #include <QTest>
 
 using namespace Touch;
@@ -72,20 +70,11 @@ private slots:
     void isDeletedByItsPolicy_data();
     void isDeletedByItsPolicy();
     void survivesItsWindowIfKept();
-    void keepsInputFromWhatASheetCovers();
-    void takesInputDuringItsTransition();
-    void takesNoInputOnceItGoes();
-    void goesOneStepBackOnEscapeAndClose();
-    void leavesASheetAsItsNegativeAction();
-    void closesAtOnceWhenTold();
-    void givesTheSecondTapToNothingNew_data();
-    void givesTheSecondTapToNothingNew();
-    void givesTheSecondTapToWhatTookTheFirst();
-    void givesTheFocusBack();
     void stopsWhatTicksWhileItIsCovered();
     void remembersTheDisplayModesOfComponents();
     void showsTheActionsOfItsHeader();
     void canAppearAgainWhileItGoes();
+    void pansItsPageOnlyIfItMay();
 
 private:
     ApplicationWindow *m_window = nullptr;
@@ -231,170 +220,6 @@ void TestSceneWindow::survivesItsWindowIfKept()
     delete kept;
 }
 
-void TestSceneWindow::keepsInputFromWhatASheetCovers()
-{
-    const QSignalSpy clicked(m_page->button, &Button::clicked);
-    Finger::tap(*m_window, m_page->button);
-    QCOMPARE(clicked.count(), 1);
-    Sheet sheet;
-    sheet.appear(m_window);
-    QTRY_VERIFY(!sheet.isInTransition());
-    QVERIFY(!m_page->isVisible());
-    Finger::tap(*m_window, m_page->button);
-    QCOMPARE(clicked.count(), 1);
-    sheet.dismiss();
-    QVERIFY(m_page->isVisible());
-}
-
-void TestSceneWindow::takesInputDuringItsTransition()
-{
-    Sheet sheet;
-    auto *button = new Button(QStringLiteral("Save"), sheet.centralWidget());
-    button->setGeometry(QRectF(100, 100, 100, 60));
-    const QSignalSpy clicked(button, &Button::clicked);
-    const QSignalSpy below(m_page->button, &Button::clicked);
-    sheet.appear(m_window);
-    QVERIFY(sheet.isInTransition());
-    QTest::mouseClick(m_window->viewport(), Qt::LeftButton, {}, QPoint(150, 130));
-    QCOMPARE(clicked.count(), 1);
-    QCOMPARE(below.count(), 0);
-    QVERIFY(!sheet.isInTransition());
-}
-
-void TestSceneWindow::takesNoInputOnceItGoes()
-{
-    Sheet sheet;
-    auto *button = new Button(QStringLiteral("Save"), sheet.centralWidget());
-    button->setGeometry(QRectF(100, 100, 100, 60));
-    const QSignalSpy clicked(button, &Button::clicked);
-    const QSignalSpy below(m_page->button, &Button::clicked);
-    sheet.appear(m_window);
-    QTRY_VERIFY(!sheet.isInTransition());
-    sheet.dismiss();
-    QTest::mouseClick(m_window->viewport(), Qt::LeftButton, {}, QPoint(150, 130));
-    QCOMPARE(clicked.count(), 0);
-    QCOMPARE(below.count(), 1);
-}
-
-void TestSceneWindow::goesOneStepBackOnEscapeAndClose()
-{
-    Sheet first;
-    Sheet second;
-    const QSignalSpy firstDismissed(&first, &SceneWindow::dismissed);
-    const QSignalSpy secondDismissed(&second, &SceneWindow::dismissed);
-    first.appear(m_window);
-    second.appear(m_window);
-    QTest::keyClick(m_window, Qt::Key_Escape);
-    QTRY_COMPARE(secondDismissed.count(), 1);
-    QCOMPARE(firstDismissed.count(), 0);
-    m_window->close();
-    QTRY_COMPARE(firstDismissed.count(), 1);
-    QVERIFY(m_window->isVisible());
-    QTest::keyClick(m_window, Qt::Key_Escape);
-    QVERIFY(!m_window->isVisible());
-}
-
-void TestSceneWindow::leavesASheetAsItsNegativeAction()
-{
-    Sheet sheet;
-    auto *header = new BasicSheetHeader;
-    QAction cancel(QStringLiteral("Cancel"), nullptr);
-    header->setNegativeAction(&cancel);
-    sheet.setHeaderWidget(header);
-    const QSignalSpy cancelled(&cancel, &QAction::triggered);
-    sheet.appear(m_window);
-    QTest::keyClick(m_window, Qt::Key_Escape);
-    QCOMPARE(cancelled.count(), 1);
-    QVERIFY2(sheet.isOnDisplay(), "whether it closes is for the action");
-    m_window->close();
-    QCOMPARE(cancelled.count(), 2);
-    QVERIFY(m_window->isVisible());
-}
-
-void TestSceneWindow::closesAtOnceWhenTold()
-{
-    Sheet sheet;
-    sheet.appear(m_window);
-    m_window->closeAtOnce();
-    QVERIFY(!m_window->isVisible());
-    m_window->show();
-    m_window->close();
-    QVERIFY2(m_window->isVisible(), "only that once");
-}
-
-void TestSceneWindow::givesTheSecondTapToNothingNew_data()
-{
-    QTest::addColumn<QEvent::Type>("second");
-    QTest::addColumn<int>("delay");
-    QTest::addColumn<QPoint>("shift");
-    QTest::addColumn<bool>("isTaken");
-    const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
-    QTest::newRow("double click") << QEvent::MouseButtonDblClick << interval / 2 << QPoint() << false;
-    QTest::newRow("two presses") << QEvent::MouseButtonPress << interval / 2 << QPoint(12, 12) << false;
-    QTest::newRow("later") << QEvent::MouseButtonPress << interval * 2 << QPoint() << true;
-    QTest::newRow("elsewhere") << QEvent::MouseButtonPress << interval / 2 << QPoint(0, 200) << true;
-}
-
-void TestSceneWindow::givesTheSecondTapToNothingNew()
-{
-    QFETCH(QEvent::Type, second);
-    QFETCH(int, delay);
-    QFETCH(QPoint, shift);
-    QFETCH(bool, isTaken);
-    Sheet sheet;
-    auto *above = new Button(QStringLiteral("Save"), sheet.centralWidget());
-    above->setGeometry(QRectF(0, 0, 480, 800));
-    connect(m_page->button, &Button::clicked, &sheet, [this, &sheet] { sheet.appear(m_window); });
-    connect(above, &Button::clicked, &sheet, &Sheet::dismiss);
-    const QSignalSpy taken(above, &Button::clicked);
-    const QPoint place(200, 300);
-    quint64 time = 5000;
-    Finger::send(*m_window, QEvent::MouseButtonPress, place, time);
-    Finger::send(*m_window, QEvent::MouseButtonRelease, place, time + 20);
-    QVERIFY(sheet.isOnDisplay());
-    time += quint64(delay);
-    Finger::send(*m_window, second, place + shift, time);
-    Finger::send(*m_window, QEvent::MouseButtonRelease, place + shift, time + 20);
-    QCOMPARE(taken.count(), isTaken ? 1 : 0);
-    if (isTaken)
-        return;
-    // Once the double tap is over, the sheet's button works; the same goes for what closing it brings up.
-    time += 10000;
-    Finger::send(*m_window, QEvent::MouseButtonPress, place, time);
-    Finger::send(*m_window, QEvent::MouseButtonRelease, place, time + 20);
-    QCOMPARE(taken.count(), 1);
-    Finger::send(*m_window, second, place + shift, time + quint64(delay));
-    Finger::send(*m_window, QEvent::MouseButtonRelease, place + shift, time + quint64(delay) + 20);
-    QVERIFY2(!sheet.isOnDisplay(), "the page's button did not open it again");
-}
-
-void TestSceneWindow::givesTheSecondTapToWhatTookTheFirst()
-{
-    const QSignalSpy clicked(m_page->button, &Button::clicked);
-    const QPoint place(200, 300);
-    Finger::send(*m_window, QEvent::MouseButtonPress, place, 5000);
-    Finger::send(*m_window, QEvent::MouseButtonRelease, place, 5020);
-    Finger::send(*m_window, QEvent::MouseButtonDblClick, place, 5100);
-    Finger::send(*m_window, QEvent::MouseButtonRelease, place, 5120);
-    QCOMPARE(clicked.count(), 2);
-}
-
-void TestSceneWindow::givesTheFocusBack()
-{
-    auto *field = new TextEdit(m_page->centralWidget());
-    field->setGeometry(QRectF(0, 0, 200, 60));
-    field->setFocus(Qt::OtherFocusReason);
-    QVERIFY(field->hasFocus());
-    const QSignalSpy lost(field, &TextEdit::lostFocus);
-    Sheet sheet;
-    sheet.appear(m_window);
-    QCOMPARE(lost.count(), 1);
-    QVERIFY(sheet.hasFocus());
-    QTRY_VERIFY(!sheet.isInTransition());
-    sheet.dismiss();
-    QVERIFY(field->hasFocus());
-}
-
 void TestSceneWindow::stopsWhatTicksWhileItIsCovered()
 {
     auto *ticker = new Ticker(m_page->centralWidget());
@@ -462,6 +287,20 @@ void TestSceneWindow::canAppearAgainWhileItGoes()
                  (QStringList{QStringLiteral("appeared"), QStringLiteral("disappeared"), QStringLiteral("appeared")}));
     QVERIFY(sheet.isVisible());
     QCOMPARE(sheet.y(), 0.0);
+}
+
+void TestSceneWindow::pansItsPageOnlyIfItMay()
+{
+    QVERIFY(!m_page->isPannable());
+    m_page->centralWidget()->setPreferredHeight(2000);
+    QCOMPARE(m_page->centralWidget()->size(), QSizeF(480, 854));
+    m_page->setPannable(true);
+    QTRY_COMPARE(m_page->centralWidget()->size(), QSizeF(480, 2000));
+    const QPoint from(240, 820);
+    Finger::drag(*m_window, m_page, from, QPointF(240, 400));
+    QTRY_VERIFY(m_page->centralWidget()->y() < -300);
+    m_page->setPannable(false);
+    QCOMPARE(m_page->centralWidget()->y(), 0.0);
 }
 
 QTEST_MAIN(TestSceneWindow)
