@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tools/gallery/gallery.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/list.h"
 #include "platform/toolkit/switch.h"
 #include "platform/toolkit/textedit.h"
+#include "tools/gallery/gallery.h"
 
 #include <QAccessible>
 #include <QSignalSpy>
