@@ -133,8 +133,8 @@ struct Inside
     explicit Inside(Store &store)
         : book(store)
         , schedule(clock, timer)
-        , ringer(QDBusConnection::sessionBus())
-        , ringing(book, schedule, clock, ringer)
+        , ringer(Wire::RingerService, QDBusConnection::sessionBus())
+        , ringing(book, schedule, clock, ringer, ringer)
         , lifeCycle(book, schedule, ringing, clock, zone, RingTime)
         , events(book, lifeCycle)
     { }

@@ -11,9 +11,9 @@
 
 namespace Astel::Timed {
 
-BusRinger::BusRinger(const QDBusConnection &bus)
-    : m_proxy(std::make_unique<ComAstelRingerInterface>(Wire::RingerService, Wire::RingerPath, bus))
-    , m_watcher(Wire::RingerService, bus, QDBusServiceWatcher::WatchForUnregistration)
+BusRinger::BusRinger(const QString &service, const QDBusConnection &bus)
+    : m_proxy(std::make_unique<ComAstelRingerInterface>(service, Wire::RingerPath, bus))
+    , m_watcher(service, bus, QDBusServiceWatcher::WatchForUnregistration)
 {
     connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, this, &Ringer::vanished);
 }
@@ -23,9 +23,9 @@ BusRinger::~BusRinger() = default;
 void BusRinger::ring(quint32 cookie, const Wire::Event &event, qint64 due)
 {
     auto *call = new QDBusPendingCallWatcher(m_proxy->ring(cookie, event, toNanoseconds(due)), this);
-    connect(call, &QDBusPendingCallWatcher::finished, this, [cookie, call] {
+    connect(call, &QDBusPendingCallWatcher::finished, this, [this, cookie, call] {
         if (call->isError())
-            qCWarning(lcTimed, "the ringer does not take alarm %u: %ls", cookie,
+            qCWarning(lcTimed, "%ls does not take alarm %u: %ls", qUtf16Printable(m_proxy->service()), cookie,
                       qUtf16Printable(call->error().message()));
         call->deleteLater();
     });

@@ -12,13 +12,13 @@ class QDBusConnection;
 
 namespace Astel::Timed {
 
-/** The ringer on the session bus, started by the bus when it is called. A call that fails is logged. */
+/** A ringer on the session bus, started by the bus when it is called. A call that fails is logged. */
 class BusRinger final : public Ringer
 {
     Q_OBJECT
 
 public:
-    explicit BusRinger(const QDBusConnection &bus);
+    BusRinger(const QString &service, const QDBusConnection &bus);
     ~BusRinger() override;
 
     void ring(quint32 cookie, const Wire::Event &event, qint64 due) override;

@@ -49,8 +49,9 @@ struct Daemon::Parts
         , timedate(systemBus)
         , book(store)
         , schedule(clock, timer)
-        , ringer(bus)
-        , ringing(book, schedule, clock, ringer)
+        , ringer(Wire::RingerService, bus)
+        , fallback(Wire::FallbackRingerService, bus)
+        , ringing(book, schedule, clock, ringer, fallback)
         , sleep(systemBus)
         , sleepGuard(schedule, ringing, sleep)
         , lifeCycle(book, schedule, ringing, clock, zone, settings.ringTime)
@@ -73,6 +74,7 @@ struct Daemon::Parts
     TimerFdWakeTimer timer;
     Schedule schedule;
     BusRinger ringer;
+    BusRinger fallback;
     Ringing ringing;
     Logind sleep;
     SleepGuard sleepGuard;

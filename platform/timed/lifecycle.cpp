@@ -43,7 +43,7 @@ LifeCycle::LifeCycle(EventBook &book, Schedule &schedule, Ringing &ringing, cons
 {
     connect(&schedule, &Schedule::reached, this, &LifeCycle::reached);
     connect(&ringing, &Ringing::ringerSilent, this, [this](quint32 cookie, int calls) {
-        note(cookie, "failed", QStringLiteral("no answer of the ringer to %1 calls").arg(calls));
+        note(cookie, "failed", QStringLiteral("no answer of the ringer to %1 calls, the fallback rings").arg(calls));
     });
 }
 
@@ -88,7 +88,8 @@ Result<> LifeCycle::sounds(quint32 cookie, const QString &tone)
     const auto event = ringingEvent(cookie);
     if (!event)
         return event.error();
-    note(cookie, "sounded", tone);
+    if (m_ringing.acknowledgeSound(cookie))
+        note(cookie, "sounded", tone);
     return Done{};
 }
 

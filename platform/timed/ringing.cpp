@@ -8,6 +8,8 @@
 #include "platform/timed/ringer.h"
 #include "platform/timed/schedule.h"
 
+#include <utility>
+
 namespace Astel::Timed {
 
 namespace {
@@ -18,11 +20,12 @@ constexpr qint64 LongInterval = 15000;
 
 } // namespace
 
-Ringing::Ringing(const EventBook &book, Schedule &schedule, const Clock &clock, Ringer &ringer)
+Ringing::Ringing(const EventBook &book, Schedule &schedule, const Clock &clock, Ringer &ringer, Ringer &fallback)
     : m_book(book)
     , m_schedule(schedule)
     , m_clock(clock)
     , m_ringer(ringer)
+    , m_fallback(fallback)
 {
     connect(&ringer, &Ringer::vanished, this, &Ringing::ringerVanished);
 }
@@ -41,6 +44,7 @@ void Ringing::end(quint32 cookie)
         return;
     m_schedule.clear(cookie, Purpose::Retry);
     m_ringer.stop(cookie);
+    m_fallback.stop(cookie);
     if (m_rings.empty())
         emit ended();
 }
@@ -58,8 +62,16 @@ bool Ringing::acknowledge(quint32 cookie)
     if (ring == m_rings.end() || ring->second.acknowledged)
         return false;
     ring->second.acknowledged = true;
+    ring->second.heard = false;
     m_schedule.clear(cookie, Purpose::Retry);
+    m_fallback.stop(cookie);
     return true;
+}
+
+bool Ringing::acknowledgeSound(quint32 cookie)
+{
+    const auto ring = m_rings.find(cookie);
+    return ring != m_rings.end() && !std::exchange(ring->second.heard, true);
 }
 
 void Ringing::callAgain(quint32 cookie)
@@ -84,13 +96,18 @@ void Ringing::call(quint32 cookie, Ring &ring)
         return;
     ++ring.calls;
     ring.acknowledged = false;
+    ring.heard = ring.heard && ring.calls > QuickCalls + 1;
     if (ring.calls == QuickCalls + 1) {
-        qCCritical(lcTimed, "the ringer does not ring alarm %u after %d calls, calling on", cookie, QuickCalls);
+        qCCritical(lcTimed, "the ringer does not ring alarm %u after %d calls, the fallback does; calling on", cookie,
+                   QuickCalls);
         emit ringerSilent(cookie, QuickCalls);
     }
     const qint64 patience = ring.calls <= QuickCalls ? TimeToAcknowledge : LongInterval;
     m_schedule.set(cookie, Purpose::Retry, m_clock.now() + patience);
-    m_ringer.ring(cookie, event->wire(), event->moment().value_or(m_clock.now()));
+    const qint64 due = event->moment().value_or(m_clock.now());
+    m_ringer.ring(cookie, event->wire(), due);
+    if (ring.calls > QuickCalls)
+        m_fallback.ring(cookie, event->wire(), due);
 }
 
 void Ringing::ringerVanished()

@@ -15,20 +15,22 @@ class Schedule;
 
 /**
  * Sees to it that what is to ring does ring: calls the ringer, and calls it again when it does not say within five
- * seconds that it rings, or goes away.
+ * seconds that it rings, or goes away. When several calls were in vain, the fallback rings until the ringer does.
  */
 class Ringing : public QObject
 {
     Q_OBJECT
 
 public:
-    Ringing(const EventBook &book, Schedule &schedule, const Clock &clock, Ringer &ringer);
+    Ringing(const EventBook &book, Schedule &schedule, const Clock &clock, Ringer &ringer, Ringer &fallback);
 
     /** Starts or ends the ringing of an event according to its state. */
     void follow(const AlarmEvent &event);
     void end(quint32 cookie);
     /** The ringer says that it rings; true for the first time since it was called. */
     bool acknowledge(quint32 cookie);
+    /** The ringer says that it is heard; true for the first time since it was called. */
+    bool acknowledgeSound(quint32 cookie);
     /** The time for acknowledging is over. */
     void callAgain(quint32 cookie);
     /** Moments from before do not count any more. */
@@ -39,13 +41,14 @@ signals:
     void begun();
     /** Nothing rings any more. */
     void ended();
-    /** The ringer was called several times and is silent; it is called on at longer intervals. */
+    /** The ringer was called several times and is silent; it is called on at longer intervals, the fallback rings. */
     void ringerSilent(quint32 cookie, int calls);
 
 private:
     struct Ring
     {
         bool acknowledged = false;
+        bool heard = false;
         int calls = 0;
     };
 
@@ -57,6 +60,7 @@ private:
     Schedule &m_schedule;
     const Clock &m_clock;
     Ringer &m_ringer;
+    Ringer &m_fallback;
     std::map<quint32, Ring> m_rings;
 };
 

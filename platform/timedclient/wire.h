@@ -19,6 +19,8 @@ inline constexpr auto Service = "com.astel.timed";
 inline constexpr auto Path = "/com/astel/timed";
 inline constexpr auto Interface = "com.astel.timed";
 inline constexpr auto RingerService = "com.astel.ringer";
+/** Takes "ring" and "stop" as the ringer does, at the same path, when that one cannot be started. */
+inline constexpr auto FallbackRingerService = "com.astel.ringer.fallback";
 inline constexpr auto RingerPath = "/com/astel/ringer";
 /** The context property that holds every event with a moment ahead. */
 inline constexpr auto TriggerProperty = "Alarm.Trigger";

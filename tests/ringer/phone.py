@@ -109,7 +109,8 @@ class Phone:
     def _leave_out_ringer(self, home):
         services = home / "share" / "dbus-1" / "services"
         services.mkdir(parents=True)
-        shutil.copy(self.build / "share" / "dbus-1" / "services" / "com.astel.timed.service", services)
+        for name in ("com.astel.timed", "com.astel.ringer.fallback"):
+            shutil.copy(self.build / "share" / "dbus-1" / "services" / f"{name}.service", services)
         self.environment["XDG_DATA_DIRS"] = f"{home}/share:/usr/share"
 
     def _start(self, command, **options):

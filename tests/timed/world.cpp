@@ -13,7 +13,7 @@ constexpr qint64 RingTime = 2 * Minute;
 World::Parts::Parts(World &world)
     : book(world.store)
     , schedule(world.clock, world.timer)
-    , ringing(book, schedule, world.clock, world.ringer)
+    , ringing(book, schedule, world.clock, world.ringer, world.fallback)
     , life(book, schedule, ringing, world.clock, world.zone, RingTime)
     , service(book, life)
 {

@@ -70,5 +70,6 @@ public:
     FakeZone zone;
     FakeStore store;
     FakeRinger ringer{store};
+    FakeRinger fallback{store};
     std::unique_ptr<Parts> parts;
 };

@@ -1,0 +1,84 @@
+#!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The Clock authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+"""Alarms of a phone without a ringer, and without a display: beeps and notifications take its place.
+
+    test_fallback_flow.py BUILD-FOLDER
+"""
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+import dbus
+import dbusmock
+
+import phone
+
+BUILD = sys.argv.pop(1)
+SERVER = "org.freedesktop.Notifications"
+
+
+class FallbackFlow(unittest.TestCase):
+    def setUp(self):
+        home = tempfile.TemporaryDirectory()
+        self.addCleanup(home.cleanup)
+        self.phone = phone.Phone(BUILD, home.name, display=False, ringer=False)
+        self.addCleanup(self.phone.close)
+        server = subprocess.Popen([sys.executable, "-m", "dbusmock", "--session", "-t", "notification_daemon"],
+                                  env=self.phone.environment, stdout=subprocess.DEVNULL)
+        self.addCleanup(server.wait)
+        self.addCleanup(server.terminate)
+        phone.wait_for(lambda: self.phone.bus.name_has_owner(SERVER), 10, "notification server")
+        self.server = self.phone.bus.get_object(SERVER, "/org/freedesktop/Notifications")
+
+    def ring(self):
+        due = int(time.time()) + 1
+        cookie = self.phone.add_event("Wake up", due)
+        phone.wait_for(lambda: self.phone.sound.heard_since(due), 40, "beeps")
+        phone.wait_for(lambda: "sounded" in self.words(cookie), 10, "the journal knows")
+        return cookie
+
+    def words(self, cookie):
+        return [str(what) for _, of, what, _ in self.phone.timed("journal", dbus.Int64(0)) if of == cookie]
+
+    def state(self, cookie):
+        return str(self.phone.timed("query_attributes", dbus.UInt32(cookie)).get("STATE", ""))
+
+    def choose(self, action):
+        calls = self.server.GetMethodCalls("Notify", dbus_interface=dbusmock.MOCK_IFACE)
+        [arguments] = [arguments for _, arguments in calls]
+        self.assertEqual(str(arguments[3]), "Wake up")
+        self.assertEqual([str(text) for text in arguments[5][1::2]], ["Snooze", "Stop"])
+        key = {str(label): key for key, label in zip(arguments[5][::2], arguments[5][1::2])}[action]
+        self.server.EmitSignal(SERVER, "ActionInvoked", "us", [dbus.UInt32(1), key],
+                               dbus_interface=dbusmock.MOCK_IFACE)
+
+    def wait_for_end(self):
+        phone.wait_for(self.phone.sound.is_silent, 10, "silence")
+        phone.wait_for(lambda: not self.phone.bus.name_has_owner("com.astel.ringer.fallback"), 10, "end of the program")
+
+    def test_snooze_of_the_notification(self):
+        cookie = self.ring()
+        self.choose("Snooze")
+        phone.wait_for(lambda: self.state(cookie) == "SNOOZED", 10, "snoozed")
+        self.wait_for_end()
+        self.assertEqual(self.words(cookie), ["due", "failed", "sounded", "answered"])
+        closed = self.server.GetMethodCalls("CloseNotification", dbus_interface=dbusmock.MOCK_IFACE)
+        self.assertEqual(len(closed), 1)
+
+    def test_stop_of_the_notification(self):
+        cookie = self.ring()
+        self.choose("Stop")
+        phone.wait_for(lambda: self.state(cookie) == "FINISHED", 10, "stopped")
+        self.wait_for_end()
+
+    def test_it_ends_with_the_daemon(self):
+        self.ring()
+        self.phone.kill("com.astel.timed")
+        self.wait_for_end()
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

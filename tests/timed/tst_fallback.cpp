@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/timed/world.h"
+
+#include <QTest>
+
+using namespace Astel::Timed;
+
+namespace {
+
+const qint64 Start = utc("2026-11-20T05:00:00");
+const qint64 Seven = utc("2026-11-20T06:00:00"); // in Berlin
+
+} // namespace
+
+/** What rings while the ringer does not. */
+class tst_Fallback : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void ringsWhenTheRingerWasCalledInVain();
+    void fallsSilentWhenTheRingerRings();
+    void fallsSilentWhenTheAlarmIsAnswered();
+    void soundIsWrittenDownOnceForEachRinging();
+};
+
+void tst_Fallback::ringsWhenTheRingerWasCalledInVain()
+{
+    World world(Start);
+    const quint32 cookie = world.add(daily(7, 0));
+    world.passTo(Seven + 15 * Second - 1);
+    QVERIFY(world.fallback.rung.isEmpty());
+    world.passTo(Seven + 15 * Second);
+    QCOMPARE(world.fallback.rung, QList<quint32>{cookie});
+    QCOMPARE(world.fallback.moments, QList<qint64>{Seven});
+    QCOMPARE(world.store.entries.last().what, "failed");
+    QVERIFY(world.store.entries.last().detail.contains("fallback"));
+    // One that was killed is called again as well.
+    world.passTo(Seven + 30 * Second);
+    QCOMPARE(world.fallback.rung.size(), 2);
+}
+
+void tst_Fallback::fallsSilentWhenTheRingerRings()
+{
+    World world(Start);
+    const quint32 cookie = world.add(daily(7, 0));
+    world.passTo(Seven + 20 * Second);
+    QVERIFY(world.fallback.stopped.isEmpty());
+    QVERIFY(world.parts->life.rings(cookie));
+    QCOMPARE(world.fallback.stopped, QList<quint32>{cookie});
+    QVERIFY(world.ringer.stopped.isEmpty());
+}
+
+void tst_Fallback::fallsSilentWhenTheAlarmIsAnswered()
+{
+    World world(Start);
+    const quint32 cookie = world.add(daily(7, 0));
+    world.passTo(Seven + 20 * Second);
+    QVERIFY(world.parts->life.snooze(cookie, 0, "notification"));
+    QCOMPARE(world.fallback.stopped, QList<quint32>{cookie});
+    QCOMPARE(world.state(cookie), State::Snoozed);
+}
+
+void tst_Fallback::soundIsWrittenDownOnceForEachRinging()
+{
+    World world(Start);
+    const quint32 cookie = world.add(daily(7, 0));
+    world.passTo(Seven + 40 * Second);
+    for (int call = 0; call < 3; ++call)
+        QVERIFY(world.parts->life.sounds(cookie, "beeps"));
+    world.passTo(Seven + 50 * Second);
+    QVERIFY(world.parts->life.sounds(cookie, "beeps"));
+    QCOMPARE(world.store.words(), (QStringList{"due", "failed", "sounded"}));
+    for (int call = 0; call < 3; ++call) {
+        QVERIFY(world.parts->life.rings(cookie));
+        QVERIFY(world.parts->life.sounds(cookie, "tone.aac"));
+    }
+    QCOMPARE(world.store.words(), (QStringList{"due", "failed", "sounded", "rang", "sounded"}));
+}
+
+QTEST_GUILESS_MAIN(tst_Fallback)
+#include "tst_fallback.moc"
