@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QSaveFile>
 #include <unistd.h>
+#include <utility>
 
 namespace Astel::Timed {
 
@@ -89,7 +90,10 @@ void BootMoment::write(std::optional<qint64> moment)
     m_written = moment;
     const QString path = m_folder + '/' + QString::number(getuid());
     m_problem = moment ? writeFile(path, *moment) : removeFile(path, m_folder);
-    if (moment && !m_problem.isEmpty())
+    // The facts always say so; the log says it once until it is mended.
+    if (m_problem.isEmpty())
+        m_warned = false;
+    else if (moment && !std::exchange(m_warned, true))
         qCWarning(lcTimed, "no alarm turns the device on: %ls", qUtf16Printable(m_problem));
 }
 

@@ -40,6 +40,7 @@ private:
     const QString m_folder;
     QTimer m_soon;
     bool m_known = false;
+    bool m_warned = false;
     std::optional<qint64> m_written;
     QString m_problem;
 };

@@ -37,6 +37,8 @@ constexpr auto BusError = "org.freedesktop.DBus.Error.Failed";
 
 // Many changes in a row are copied together, and do not share the disk with the copy.
 constexpr std::chrono::milliseconds PauseBeforeSnapshot = std::chrono::seconds(2);
+constexpr std::chrono::milliseconds RetryInterval = std::chrono::seconds(2);
+constexpr int MaximalRetries = 3;
 // Should no other change come.
 constexpr std::chrono::milliseconds LongestWithoutSnapshot = std::chrono::hours(24);
 
@@ -125,6 +127,8 @@ Result<> Daemon::start()
         return Error{BusError, QStringLiteral("%1 is taken: another daemon is running").arg(Wire::Service)};
     parts.lifeCycle.start();
     parts.missedTeller.start();
+    m_restorationUntold = m_store->wasRestored();
+    tellOfRestoration();
     parts.boot.update();
     parts.publisher = std::make_unique<ContextPublisher>(Wire::TriggerProperty, triggerMap(parts.book.events()), bus);
     if (!parts.publisher->isPublished())
@@ -145,7 +149,28 @@ void Daemon::follow()
     QObject::connect(&parts.zone, &ZoneSource::changed, &parts.lifeCycle, &LifeCycle::zoneChanged);
     QObject::connect(&parts.sleep, &SleepControl::goesToSleep, &parts.lifeCycle, &LifeCycle::goesToSleep);
     QObject::connect(&parts.sleep, &SleepControl::resumed, &parts.lifeCycle, &LifeCycle::resumed);
+    QObject::connect(&parts.notifier, &Notifier::appeared, &m_snapshotTimer, [this] {
+        m_noticesTried = 0;
+        tellOfRestoration();
+    });
     QObject::connect(&parts.service, &BusService::idle, &m_snapshotTimer, [this] { keepSnapshot(); });
+}
+
+void Daemon::tellOfRestoration()
+{
+    if (!m_restorationUntold)
+        return;
+    m_restorationUntold = false;
+    const Notice notice{QStringLiteral("Alarms were restored"),
+                        QStringLiteral("The file of the alarms was damaged. An earlier copy took its place: the latest"
+                                       " changes may be missing, please look through your alarms."),
+                        {}};
+    m_parts->notifier.show(notice, [this](bool shown) {
+        m_restorationUntold = !shown;
+        // One that has just come may not be ready yet.
+        if (!shown && m_parts->notifier.isPresent() && m_noticesTried++ < MaximalRetries)
+            QTimer::singleShot(RetryInterval, &m_snapshotTimer, [this] { tellOfRestoration(); });
+    });
 }
 
 void Daemon::keepSnapshot()

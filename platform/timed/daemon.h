@@ -39,10 +39,13 @@ private:
     Result<> start();
     void follow();
     void keepSnapshot();
+    void tellOfRestoration();
 
     std::unique_ptr<SqliteStore> m_store;
     std::unique_ptr<Parts> m_parts;
     QTimer m_snapshotTimer;
+    bool m_restorationUntold = false;
+    int m_noticesTried = 0;
 };
 
 } // namespace Astel::Timed

@@ -171,6 +171,11 @@ QVariantMap SqliteStore::facts() const
     return facts;
 }
 
+bool SqliteStore::wasRestored() const
+{
+    return m_database->wasRestored();
+}
+
 bool SqliteStore::wantsSnapshot(qint64 now) const
 {
     return m_commitsSinceSnapshot >= CommitsBetweenSnapshots

@@ -31,6 +31,8 @@ public:
     QList<Miss> missed() const override { return m_history.missed(); }
     QVariantMap facts() const override;
 
+    /** Whether a damaged file was replaced when the store was opened. */
+    bool wasRestored() const;
     /** Whether there were ten commits, or a day with any, since the last snapshot; "now" in milliseconds. */
     bool wantsSnapshot(qint64 now) const;
     /** Whether there were any. */

@@ -88,6 +88,9 @@ void tst_BootMoment::missingFolderIsReported()
     const Support::LogCapture log;
     boot.update();
     QCOMPARE(log.lines(QtWarningMsg).size(), 1);
+    world.add(daily(6, 30, Boots));
+    boot.update();
+    QCOMPARE(log.lines(QtWarningMsg).size(), 1);
     QVERIFY(boot.facts().value("boot_reason").toString().startsWith("/nonexistent/"));
 }
 
