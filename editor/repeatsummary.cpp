@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "editor/repeatsummary.h"
 
+#include "editor/weekdayorder.h"
 #include "platform/locale/calendar.h"
 #include "platform/locale/locale.h"
 
@@ -11,8 +12,6 @@ using Touch::Calendar;
 using Touch::Locale;
 
 namespace {
-
-constexpr int DaysPerWeek = 7;
 
 struct SharedTexts
 {
@@ -72,6 +71,11 @@ const QStringList &weekdayNames()
     if (texts.names.isEmpty())
         texts.names = weekdayNames(texts.locale, texts.calendar);
     return texts.names;
+}
+
+int firstDayOfWeek()
+{
+    return shared().calendar.firstDayOfWeek();
 }
 
 QString repeatSummary(const Locale &locale, const Calendar &calendar, bool isRepeating, const QList<int> &days)

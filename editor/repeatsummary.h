@@ -16,6 +16,9 @@ QStringList weekdayNames(const Touch::Locale &locale, const Touch::Calendar &cal
 /** The weekday names in the user's language as of the first call; the same list until the program ends. */
 const QStringList &weekdayNames();
 
+/** The day that the week starts with, as of the first call, and as the shared names do: 1 = Monday … 7 = Sunday. */
+int firstDayOfWeek();
+
 /**
  * A repeat rule in a few words; empty when nothing repeats. Days are 0 = Sunday … 6 = Saturday. A single day is the
  * entry of weekdayNames() at that number, whichever day the list starts with.

@@ -48,9 +48,42 @@
             <numerusform>about %n days</numerusform>
         </translation>
     </message>
+    <message id="qtn_cloc_set_repeat">
+        <source>Repeat</source>
+        <extracomment>Title of the dialog in which weekdays are chosen.</extracomment>
+        <translation>Repeat</translation>
+    </message>
+    <message id="qtn_cloc_repeatalarm_rulenever">
+        <source>Never</source>
+        <translation>Never</translation>
+    </message>
     <message id="qtn_cloc_repeatalarm_ruleeveryday">
         <source>Every day</source>
         <translation>Every day</translation>
+    </message>
+    <message id="qtn_cloc_more_options">
+        <source>More options</source>
+        <translation>More options</translation>
+    </message>
+    <message id="qtn_cloc_alarm_options">
+        <source>Alarm options</source>
+        <translation>Alarm options</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_repeattitle">
+        <source>Repeat</source>
+        <translation>Repeat</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_snoozesetting">
+        <source>Snooze</source>
+        <translation>Snooze</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_snooze">
+        <source>%1 minutes</source>
+        <translation>%1 minutes</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_tone">
+        <source>Alarm tone</source>
+        <translation>Alarm tone</translation>
     </message>
     <message id="qtn_cloc_alarm_save_error">
         <source>The alarm could not be saved</source>
@@ -90,9 +123,18 @@
         <source>Cancel</source>
         <translation>Cancel</translation>
     </message>
+    <message id="qtn_comm_command_done">
+        <source>Done</source>
+        <extracomment>On the input method's key that ends the editing of the title.</extracomment>
+        <translation>Done</translation>
+    </message>
     <message id="qtn_comm_delete">
         <source>Delete</source>
         <translation>Delete</translation>
+    </message>
+    <message id="qtn_sond_ringtone_nosound">
+        <source>No sound</source>
+        <translation>No sound</translation>
     </message>
 </context>
 </TS>
