@@ -1,45 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "editor/settingalarmpage.h"
+#include "tests/editor/editortest.h"
 
-#include "alarms/qmalarm.h"
-#include "alarms/utility.h"
-#include "platform/clockwidgets/timepicker.h"
-#include "platform/toolkit/applicationpage.h"
-#include "platform/toolkit/applicationwindow.h"
-#include "platform/toolkit/banner.h"
-#include "platform/toolkit/label.h"
 #include "platform/toolkit/separator.h"
-#include "platform/toolkit/textedit.h"
-#include "tests/support/alarms.h"
 #include "tests/support/logcapture.h"
-#include "tests/support/look/items.h"
-#include "tests/support/look/look.h"
-#include "tests/support/privatebus.h"
 
 #include <QDir>
 #include <QFile>
 #include <QMetaMethod>
-#include <QSettings>
-#include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTemporaryDir>
-#include <QTest>
 
-#include <functional>
-
-using Clock::QmAlarm;
-using Clock::QmAlarmEvent;
-using Clock::Utility;
-
-class TestSettingAlarmPage : public QObject
+class TestSettingAlarmPage : public EditorTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase() { startStage(); }
+    void init() { openPage(); }
+    void cleanup() { closePage(); }
     void aNewAlarmStartsWithTheDefaults();
     void aNewAlarmTakesThePreferences();
     void aNewAlarmTakesPreferencesWrittenByHand();
@@ -52,20 +30,6 @@ private slots:
     void theLabelsFollowThePicker();
     void theHourComesFirstFromRightToLeftToo();
     void theTouchedLabelStandsOut();
-    void savingStoresTheFieldsAndClosesWithTheTimeLeft();
-    void savingRemembersTheTimeForTheNextAlarm();
-    void savingWithoutATitleTakesTheStandardOne();
-    void savingAnExistingAlarmKeepsWhatIsNotShown();
-    void aFailedSaveClosesWithAnError();
-    void aFailedSaveIsNotRemembered();
-    void onlyAWaitingSheetFollowsTheTriggers_data();
-    void onlyAWaitingSheetFollowsTheTriggers();
-    void escapeCancels();
-    void cancellingStoresNothingAndRefreshesTheTriggers();
-    void deletingTakesTheAlarmOutOfTheDaemon();
-    void deletingASwitchedOffAlarmRefreshesTheTriggers();
-    void deletingANewAlarmOnlyCloses();
-    void aFailedDeletionClosesWithAnError();
     void resettingDismisses();
     void everythingStandsInItsOrder();
     void itsPartsBearTheirNamesAndStyles();
@@ -73,79 +37,7 @@ private slots:
     void aNewTimeFormatShowsAtOnce();
     void itIsNamedForThoseWhoDoNotSeeIt();
     void theSlotsKeepTheirOrder();
-
-private:
-    void load(quint32 cookie, const QTime &time = QTime(7, 5), const QString &title = "Tea", unsigned int snooze = 20);
-    Touch::Label *label(const QString &name) const { return Support::itemIn<Touch::Label>(m_page.get(), name); }
-    QTime pickedTime() const { return QTime(m_picker->hours(), m_picker->minutes()); }
-    QString shownBanner() const;
-    static QList<quint32> storedCookies();
-
-    Support::PrivateBus m_bus;
-    Support::TimedProcess m_daemon;
-    QTemporaryDir m_folder;
-    QString m_tone;
-    std::unique_ptr<Touch::ApplicationWindow> m_window;
-    std::unique_ptr<Touch::ApplicationPage> m_mainPage;
-    std::unique_ptr<SettingAlarmPage> m_page;
-    TimePicker *m_picker = nullptr;
-    Touch::TextEdit *m_title = nullptr;
 };
-
-void TestSettingAlarmPage::initTestCase()
-{
-    qputenv("CLOCK_REDUCED_MOTION", "1");
-    qputenv("LC_ALL", "en_GB.UTF-8");
-    QVERIFY(Support::loadLook());
-    QVERIFY(m_bus.isRunning());
-    QVERIFY(m_daemon.start());
-    Utility::instance()->subscribeToContextFramework();
-    QTRY_VERIFY(Utility::instance()->isTriggerMapReceived());
-    m_tone = m_folder.filePath("tone.aac");
-    QFile tone(m_tone);
-    QVERIFY(tone.open(QIODevice::WriteOnly));
-    m_window = std::make_unique<Touch::ApplicationWindow>();
-    m_mainPage = std::make_unique<Touch::ApplicationPage>();
-    m_mainPage->appear(m_window.get());
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-}
-
-void TestSettingAlarmPage::init()
-{
-    QSettings("Korvo", "Clock").clear();
-    m_page = std::make_unique<SettingAlarmPage>();
-    m_picker = Support::itemIn<TimePicker>(m_page.get());
-    m_title = Support::itemIn<Touch::TextEdit>(m_page.get());
-    m_page->appear(m_window.get());
-}
-
-void TestSettingAlarmPage::cleanup()
-{
-    m_page.reset();
-    QVERIFY(Support::removeAllAlarms());
-}
-
-void TestSettingAlarmPage::load(quint32 cookie, const QTime &time, const QString &title, unsigned int snooze)
-{
-    m_page->loadAlarm(cookie, time, title, m_tone, true, snooze);
-}
-
-QString TestSettingAlarmPage::shownBanner() const
-{
-    const auto sceneWindows = m_window->sceneWindows();
-    for (const Touch::SceneWindow *sceneWindow : sceneWindows) {
-        if (const auto *banner = qobject_cast<const Touch::Banner *>(sceneWindow))
-            return banner->isOnDisplay() ? banner->title() : QString();
-    }
-    return QString();
-}
-
-QList<quint32> TestSettingAlarmPage::storedCookies()
-{
-    bool failed = false;
-    return QmAlarm().query(failed);
-}
 
 void TestSettingAlarmPage::aNewAlarmStartsWithTheDefaults()
 {
@@ -271,185 +163,6 @@ void TestSettingAlarmPage::theTouchedLabelStandsOut()
     emit m_picker->discReleased();
     QCOMPARE(hour->styleName(), "TimeLabel");
     QCOMPARE(minute->styleName(), "TimeLabel");
-}
-
-void TestSettingAlarmPage::savingStoresTheFieldsAndClosesWithTheTimeLeft()
-{
-    load(QmAlarmEvent::NotStored);
-    m_title->setText(" Tea ");
-    m_picker->setHours(9);
-    m_picker->setMinutes(41);
-    const Support::LogCapture log;
-    m_page->saveAlarm();
-    QVERIFY2(m_page->isOnDisplay(), "it waits for the trigger");
-    QCOMPARE(storedCookies(), QList<quint32>{m_page->getAlarmCookie()});
-    const QmAlarmEvent stored(m_page->getAlarmCookie());
-    QCOMPARE(stored.application(), "clock");
-    QCOMPARE(stored.title(), " Tea ");
-    QCOMPARE(stored.alarmTime(), QTime(9, 41));
-    QVERIFY(stored.isEnabled());
-    QVERIFY(!stored.isRecurring());
-
-    QTRY_VERIFY(!m_page->isOnDisplay());
-    QVERIFY(shownBanner().startsWith("qtn_cloc_time_left_alarm"));
-    const QStringList lines = log.lines(QtDebugMsg);
-    QCOMPARE(lines.filter("void SettingAlarmPage::onValueChanged()").size(), 1);
-    QCOMPARE(lines.filter("Time Left for Alarm to trigger is").size(), 1);
-}
-
-void TestSettingAlarmPage::savingRemembersTheTimeForTheNextAlarm()
-{
-    load(Support::addAlarm(QTime(7, 5)));
-    m_picker->setHours(6);
-    m_picker->setMinutes(45);
-    m_page->saveAlarm();
-    QTRY_VERIFY(!m_page->isOnDisplay());
-    QCOMPARE(QSettings("Korvo", "Clock").value("Clock/DefaultAlarmTime").toTime(), QTime(6, 45));
-    load(QmAlarmEvent::NotStored);
-    QCOMPARE(pickedTime(), QTime(6, 45));
-}
-
-void TestSettingAlarmPage::savingWithoutATitleTakesTheStandardOne()
-{
-    load(QmAlarmEvent::NotStored);
-    m_title->setText("  ");
-    m_page->saveAlarm();
-    QCOMPARE(QmAlarmEvent(m_page->getAlarmCookie()).title(), "qtn_cloc_alarm_title");
-}
-
-void TestSettingAlarmPage::savingAnExistingAlarmKeepsWhatIsNotShown()
-{
-    const quint32 cookie = Support::addAlarm(QTime(7, 5), "Tea", {1, 3});
-    QVERIFY(Support::waitForTrigger(cookie));
-    load(cookie);
-    m_picker->setHours(10);
-    m_page->saveAlarm();
-    const quint32 newCookie = m_page->getAlarmCookie();
-    QVERIFY(newCookie != cookie);
-    QCOMPARE(storedCookies(), QList<quint32>{newCookie});
-    const QmAlarmEvent stored(newCookie);
-    QCOMPARE(stored.alarmTime(), QTime(10, 5));
-    QCOMPARE(stored.repeatDays(), (QList<int>{1, 3}));
-    QCOMPARE(stored.tone(), m_tone);
-    QCOMPARE(stored.snooze(), 20);
-    QTRY_VERIFY(!m_page->isOnDisplay());
-}
-
-void TestSettingAlarmPage::aFailedSaveClosesWithAnError()
-{
-    load(QmAlarmEvent::NotStored);
-    m_daemon.kill();
-    m_page->saveAlarm();
-    QVERIFY(!m_page->isOnDisplay());
-    QCOMPARE(shownBanner(), "qtn_cloc_alarm_save_error");
-    QVERIFY(m_daemon.start());
-    m_page->appear(m_window.get());
-    emit Utility::instance()->valueChanged();
-    QVERIFY2(m_page->isOnDisplay(), "it no longer waits for a trigger");
-}
-
-void TestSettingAlarmPage::aFailedSaveIsNotRemembered()
-{
-    load(QmAlarmEvent::NotStored);
-    m_picker->setHours(6);
-    m_daemon.kill();
-    m_page->saveAlarm();
-    QVERIFY(!QSettings("Korvo", "Clock").contains("Clock/DefaultAlarmTime"));
-    QVERIFY(m_daemon.start());
-}
-
-void TestSettingAlarmPage::onlyAWaitingSheetFollowsTheTriggers_data()
-{
-    QTest::addColumn<std::function<void(SettingAlarmPage *)>>("end");
-    using End = std::function<void(SettingAlarmPage *)>;
-    QTest::newRow("dismissed") << End([](SettingAlarmPage *page) { page->dismiss(); });
-    QTest::newRow("told to go") << End([](SettingAlarmPage *page) { page->disappear(); });
-    QTest::newRow("reset") << End([](SettingAlarmPage *page) { page->resetContent(); });
-    QTest::newRow("cancelled") << End([](SettingAlarmPage *page) { page->cancelAlarm(); });
-    QTest::newRow("Escape") << End([](SettingAlarmPage *page) { page->hostWindow()->stepBack(); });
-}
-
-void TestSettingAlarmPage::onlyAWaitingSheetFollowsTheTriggers()
-{
-    QFETCH(std::function<void(SettingAlarmPage *)>, end);
-    load(QmAlarmEvent::NotStored);
-    m_page->saveAlarm();
-    QVERIFY(m_page->isOnDisplay());
-    const quint32 saved = m_page->getAlarmCookie();
-    const Support::LogCapture log;
-    end(m_page.get());
-    QVERIFY(!m_page->isOnDisplay());
-    QVERIFY(Support::waitForTrigger(saved));
-    m_page->appear(m_window.get());
-    load(saved);
-    emit Utility::instance()->valueChanged();
-    QVERIFY2(m_page->isOnDisplay(), "the next alarm stays open");
-    QCOMPARE(log.lines().filter("SettingAlarmPage::onValueChanged").size(), 0);
-    QCOMPARE(log.lines().filter("timeLeftForAlarmToTrigger").size(), 0);
-}
-
-void TestSettingAlarmPage::escapeCancels()
-{
-    load(QmAlarmEvent::NotStored);
-    m_title->setText("Tea");
-    QSignalSpy refreshed(Utility::instance(), &Utility::valueChanged);
-    QVERIFY(m_window->stepBack());
-    QVERIFY(!m_page->isOnDisplay());
-    QCOMPARE(refreshed.size(), 1);
-    QCOMPARE(storedCookies(), QList<quint32>());
-}
-
-void TestSettingAlarmPage::cancellingStoresNothingAndRefreshesTheTriggers()
-{
-    load(QmAlarmEvent::NotStored);
-    QSignalSpy refreshed(Utility::instance(), &Utility::valueChanged);
-    m_page->cancelAlarm();
-    QVERIFY(!m_page->isOnDisplay());
-    QCOMPARE(refreshed.size(), 1);
-    QCOMPARE(storedCookies(), QList<quint32>());
-}
-
-void TestSettingAlarmPage::deletingTakesTheAlarmOutOfTheDaemon()
-{
-    const quint32 cookie = Support::addAlarm(QTime(7, 5));
-    QVERIFY(Support::waitForTrigger(cookie));
-    load(cookie);
-    const Support::LogCapture log;
-    m_page->removeAlarm();
-    QVERIFY(!m_page->isOnDisplay());
-    QCOMPARE(m_page->getAlarmCookie(), QmAlarmEvent::NotStored);
-    QCOMPARE(storedCookies(), QList<quint32>());
-    QVERIFY2(log.lines().filter("Delete cookie").size() == 2, "it is deleted twice on purpose");
-    QVERIFY(Support::waitForTrigger(cookie, false));
-}
-
-void TestSettingAlarmPage::deletingASwitchedOffAlarmRefreshesTheTriggers()
-{
-    load(Support::addSwitchedOffAlarm(QTime(7, 5)));
-    QSignalSpy refreshed(Utility::instance(), &Utility::valueChanged);
-    m_page->removeAlarm();
-    QCOMPARE(refreshed.size(), 1);
-}
-
-void TestSettingAlarmPage::deletingANewAlarmOnlyCloses()
-{
-    load(QmAlarmEvent::NotStored);
-    QSignalSpy refreshed(Utility::instance(), &Utility::valueChanged);
-    m_page->removeAlarm();
-    QVERIFY(!m_page->isOnDisplay());
-    QCOMPARE(refreshed.size(), 0);
-}
-
-void TestSettingAlarmPage::aFailedDeletionClosesWithAnError()
-{
-    const quint32 cookie = Support::addAlarm(QTime(7, 5));
-    load(cookie);
-    m_daemon.kill();
-    m_page->removeAlarm();
-    QVERIFY(!m_page->isOnDisplay());
-    QCOMPARE(m_page->getAlarmCookie(), cookie);
-    QCOMPARE(shownBanner(), "qtn_cloc_alarm_delete_error");
-    QVERIFY(m_daemon.start());
 }
 
 void TestSettingAlarmPage::resettingDismisses()
