@@ -43,11 +43,15 @@ bool removeAllAlarms()
     const QList<quint32> cookies = QmAlarm().query(failed);
     for (const quint32 cookie : cookies)
         failed |= !QmAlarm().deleteEvent(cookie);
+    return waitForChanges() && !failed;
+}
+
+bool waitForChanges()
+{
     // Changes are heard in their order: with the last one, all are over.
     const quint32 last = addAlarm(QTime(12, 0));
     const bool isHeard = waitForTrigger(last);
-    failed |= !QmAlarm().deleteEvent(last);
-    return !failed && isHeard && waitForTrigger(last, false);
+    return QmAlarm().deleteEvent(last) && isHeard && waitForTrigger(last, false);
 }
 
 bool waitForTrigger(quint32 cookie, bool present)

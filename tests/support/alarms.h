@@ -23,6 +23,9 @@ quint32 addSwitchedOffAlarm(const QTime &time, const QString &title = "Alarm", c
 /** Removes every alarm of the application and waits until all changes so far are heard; false if that fails. */
 bool removeAllAlarms();
 
+/** Waits until all changes so far are heard; false if that fails. */
+bool waitForChanges();
+
 /** Waits until the daemon's triggers hold the cookie, or no longer hold it. */
 bool waitForTrigger(quint32 cookie, bool present = true);
 
