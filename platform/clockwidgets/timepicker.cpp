@@ -4,6 +4,7 @@
 
 #include "platform/clockwidgets/parts_p.h"
 #include "platform/clockwidgets/pickerdial_p.h"
+#include "platform/clockwidgets/pickerhandle_p.h"
 #include "platform/clockwidgets/timetext_p.h"
 #include "platform/locale/locale.h"
 
@@ -42,6 +43,8 @@ TimePicker::TimePicker(int hours, int minutes, QGraphicsItem *parent)
     , m_hours(folded(hours, 24))
     , m_minutes(folded(minutes, 60))
     , m_dial(std::make_unique<PickerDial>())
+    , m_hourHandle(new PickerHandle(this, ClockHand::Hour))
+    , m_minuteHandle(new PickerHandle(this, ClockHand::Minute))
     , m_touched(ClockHand::None)
     , m_keyHand(ClockHand::Hour)
 {
@@ -76,6 +79,7 @@ void TimePicker::setTime(int hours, int minutes)
     if (isOtherHalf)
         updateTexts();
     update();
+    placeHandles();
     announce();
     Q_EMIT timeChanged(m_hours, m_minutes);
 }
@@ -151,6 +155,7 @@ void TimePicker::resizeEvent(QGraphicsSceneResizeEvent *event)
 {
     Widget::resizeEvent(event);
     m_dial->setRect(paddedRect());
+    placeHandles();
 }
 
 void TimePicker::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)

@@ -7,6 +7,7 @@
 #include <memory>
 
 class PickerDial;
+class PickerHandle;
 enum class ClockHand;
 
 /// A round dial to set a time of day: a handle on the outer ring is the minute, one on the inner ring the hour, a tap
@@ -70,6 +71,7 @@ private:
     QVariant minimumValue() const override;
     QVariant minimumStepSize() const override;
     void announce();
+    void placeHandles();
 
     void setTime(int hours, int minutes);
     void step(ClockHand hand, int steps);
@@ -84,6 +86,8 @@ private:
     int m_hours;
     int m_minutes;
     std::unique_ptr<PickerDial> m_dial;
+    PickerHandle *m_hourHandle;
+    PickerHandle *m_minuteHandle;
 
     // While a finger is down
     ClockHand m_touched;

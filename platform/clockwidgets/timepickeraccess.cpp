@@ -3,6 +3,7 @@
 #include "platform/clockwidgets/timepicker.h"
 
 #include "platform/clockwidgets/pickerdial_p.h"
+#include "platform/clockwidgets/pickerhandle_p.h"
 #include "platform/clockwidgets/timetext_p.h"
 #include "platform/locale/locale.h"
 
@@ -24,8 +25,15 @@ void TimePicker::announce()
         return;
     QAccessibleValueChangeEvent value(this, currentValue());
     QAccessible::updateAccessibility(&value);
-    QAccessibleEvent name(this, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&name);
+    announceName();
+    m_hourHandle->announceValue();
+    m_minuteHandle->announceValue();
+}
+
+void TimePicker::placeHandles()
+{
+    m_hourHandle->moveTo(hourHandle());
+    m_minuteHandle->moveTo(minuteHandle());
 }
 
 QVariant TimePicker::currentValue() const

@@ -30,7 +30,7 @@ public:
     /// What is shown now.
     QDateTime shownTime() const { return m_now; }
 
-    QAccessible::Role accessibleRole() const override { return QAccessible::Clock; }
+    QAccessible::Role accessibleRole() const override { return QAccessible::Button; }
     QStringList accessibleActions() const override;
     void doAccessibleAction(const QString &name) override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;

@@ -159,6 +159,17 @@ QString patternOfFields(const QByteArray &locale, const QString &fields)
                    [&] { return new QString(fromIcu(bestPattern(icu::Locale(locale.constData()), toIcu(fields)))); });
 }
 
+QString fieldName(const QByteArray &locale, Locale::TimeField field)
+{
+    UErrorCode error = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+        icu::DateTimePatternGenerator::createInstance(icu::Locale(locale.constData()), error));
+    if (U_FAILURE(error))
+        return {};
+    return fromIcu(generator->getFieldDisplayName(field == Locale::HourField ? UDATPG_HOUR_FIELD : UDATPG_MINUTE_FIELD,
+                                                  UDATPG_WIDE));
+}
+
 bool isTwelveHourPattern(const QString &pattern)
 {
     bool twelveHour = false;

@@ -16,6 +16,7 @@ QByteArray withCalendar(const QByteArray &locale, Locale::CalendarType calendar)
 /// The locale's pattern for these lengths, in the hours asked for.
 QString pattern(const QByteArray &locale, Locale::DateType date, Locale::TimeType time, Locale::TimeFormat24h hours);
 QString patternOfFields(const QByteArray &locale, const QString &fields);
+QString fieldName(const QByteArray &locale, Locale::TimeField field);
 bool isTwelveHourPattern(const QString &pattern);
 
 QString format(const QByteArray &locale, const QString &pattern, const QDateTime &dateTime);

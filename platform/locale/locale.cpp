@@ -214,6 +214,11 @@ QString Locale::formatNumber(qlonglong number) const
     return Icu::format(d->settings.names[NumericCategory], number);
 }
 
+QString Locale::timeFieldName(TimeField field) const
+{
+    return Icu::fieldName(d->settings.names[MessageCategory], field);
+}
+
 QString Locale::toUpper(const QString &text) const
 {
     icu::UnicodeString upper(reinterpret_cast<const char16_t *>(text.utf16()), int(text.size()));

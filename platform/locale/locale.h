@@ -27,6 +27,7 @@ public:
     /// Default is the one that is usual in the locale, for instance the Buddhist one in Thailand.
     enum CalendarType { DefaultCalendar, GregorianCalendar };
     enum TimeFormat24h { LocaleDefault, TwelveHour, TwentyFourHour };
+    enum TimeField { HourField, MinuteField };
     /// Times, dates and calendars follow TimeCategory, texts and writing direction MessageCategory.
     enum Category { MessageCategory, TimeCategory, NumericCategory };
 
@@ -80,6 +81,8 @@ public:
     QString formatDateTimeICU(const QDateTime &dateTime, const QString &pattern) const;
     /// With the locale's digits and grouping.
     QString formatNumber(qlonglong number) const;
+    /// What the language calls it, in the form of a label: "hour".
+    QString timeFieldName(TimeField field) const;
     QString toUpper(const QString &text) const;
 
     /// Adds the catalogues `<name>_<locale>.qm` from `:/translations`, else from `clock/translations` in the

@@ -3,8 +3,15 @@
 #include "platform/toolkit/accessiblewidget_p.h"
 
 #include "platform/toolkit/button.h"
+#include "platform/toolkit/list.h"
 #include "platform/toolkit/textedit.h"
 #include "platform/toolkit/window.h"
+
+#include <QAction>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsScene>
+#include <QGraphicsSceneContextMenuEvent>
+#include <QLineEdit>
 
 namespace Touch {
 
@@ -23,6 +30,42 @@ QList<Widget *> accessibleChildren(const QGraphicsItem *item)
     return found;
 }
 
+QLineEdit *lineEditOf(const Widget *widget)
+{
+    if (!qobject_cast<const TextEdit *>(widget))
+        return nullptr;
+    const QList<QGraphicsItem *> children = widget->childItems();
+    for (QGraphicsItem *child : children) {
+        if (auto *proxy = qobject_cast<QGraphicsProxyWidget *>(child->toGraphicsObject()))
+            return qobject_cast<QLineEdit *>(proxy->widget());
+    }
+    return nullptr;
+}
+
+QAccessibleInterface *accessibleOf(Widget *widget)
+{
+    if (QLineEdit *edit = lineEditOf(widget))
+        return QAccessible::queryAccessibleInterface(edit);
+    return QAccessible::queryAccessibleInterface(widget);
+}
+
+Widget *accessibleWidgetOf(const QAccessibleInterface *interface)
+{
+    QObject *object = interface->object();
+    const auto *edit = qobject_cast<const QLineEdit *>(object);
+    const QGraphicsProxyWidget *proxy = edit ? edit->graphicsProxyWidget() : nullptr;
+    return qobject_cast<Widget *>(proxy && proxy->parentItem() ? proxy->parentItem()->toGraphicsObject() : object);
+}
+
+QAccessibleInterface *accessibleParentOf(const Widget *widget)
+{
+    for (QGraphicsItem *item = widget->parentItem(); item; item = item->parentItem()) {
+        if (auto *above = qobject_cast<Widget *>(item->toGraphicsObject()))
+            return accessibleOf(above);
+    }
+    return QAccessible::queryAccessibleInterface(widget->hostWindow());
+}
+
 AccessibleWidget::AccessibleWidget(Widget *widget)
     : QAccessibleObject(widget)
 { }
@@ -34,9 +77,25 @@ Widget *AccessibleWidget::widget() const
     return static_cast<Widget *>(object());
 }
 
+List *AccessibleWidget::list() const
+{
+    const QGraphicsItem *above = widget()->parentItem();
+    return above ? qobject_cast<List *>(const_cast<QGraphicsItem *>(above)->toGraphicsObject()) : nullptr;
+}
+
 QAccessible::Role AccessibleWidget::role() const
 {
     return widget()->accessibleRole();
+}
+
+bool AccessibleWidget::isPannedAway() const
+{
+    for (const QGraphicsItem *item = widget()->parentItem(); item; item = item->parentItem()) {
+        if (item->flags().testFlag(QGraphicsItem::ItemClipsChildrenToShape)
+            && !item->sceneBoundingRect().intersects(widget()->sceneBoundingRect()))
+            return true;
+    }
+    return false;
 }
 
 QAccessible::State AccessibleWidget::state() const
@@ -44,14 +103,16 @@ QAccessible::State AccessibleWidget::state() const
     QAccessible::State state;
     state.disabled = !widget()->isEnabled();
     state.invisible = !widget()->isVisible();
+    state.offscreen = isPannedAway();
     state.focusable = widget()->flags().testFlag(QGraphicsItem::ItemIsFocusable);
     state.focused = widget()->hasFocus();
+    state.modal = role() == QAccessible::Dialog;
+    state.hasPopup = !widget()->actions().isEmpty();
     if (const auto *button = qobject_cast<const Button *>(object())) {
         state.checkable = button->isCheckable();
         state.checked = button->isChecked();
         state.pressed = button->isDown();
     }
-    state.editable = qobject_cast<const TextEdit *>(object()) != nullptr;
     return state;
 }
 
@@ -59,8 +120,8 @@ QString AccessibleWidget::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Name)
         return widget()->accessibleName();
-    const auto *edit = qobject_cast<const TextEdit *>(object());
-    return kind == QAccessible::Value && edit ? edit->text() : QString();
+    QAccessibleValueInterface *value = kind == QAccessible::Value ? widget()->accessibleValue() : nullptr;
+    return value ? value->currentValue().toString() : QString();
 }
 
 QRect AccessibleWidget::rect() const
@@ -74,11 +135,7 @@ QRect AccessibleWidget::rect() const
 
 QAccessibleInterface *AccessibleWidget::parent() const
 {
-    for (QGraphicsItem *item = widget()->parentItem(); item; item = item->parentItem()) {
-        if (auto *above = qobject_cast<Widget *>(item->toGraphicsObject()))
-            return QAccessible::queryAccessibleInterface(above);
-    }
-    return QAccessible::queryAccessibleInterface(widget()->hostWindow());
+    return accessibleParentOf(widget());
 }
 
 int AccessibleWidget::childCount() const
@@ -89,12 +146,12 @@ int AccessibleWidget::childCount() const
 QAccessibleInterface *AccessibleWidget::child(int index) const
 {
     Widget *found = accessibleChildren(widget()).value(index);
-    return found ? QAccessible::queryAccessibleInterface(found) : nullptr;
+    return found ? accessibleOf(found) : nullptr;
 }
 
 int AccessibleWidget::indexOfChild(const QAccessibleInterface *child) const
 {
-    return int(accessibleChildren(widget()).indexOf(qobject_cast<Widget *>(child->object())));
+    return int(accessibleChildren(widget()).indexOf(accessibleWidgetOf(child)));
 }
 
 void *AccessibleWidget::interface_cast(QAccessible::InterfaceType type)
@@ -103,6 +160,8 @@ void *AccessibleWidget::interface_cast(QAccessible::InterfaceType type)
         return static_cast<QAccessibleActionInterface *>(this);
     if (type == QAccessible::ValueInterface)
         return widget()->accessibleValue();
+    if (type == QAccessible::TableCellInterface && list())
+        return static_cast<QAccessibleTableCellInterface *>(this);
     return QAccessibleObject::interface_cast(type);
 }
 
@@ -111,6 +170,8 @@ QStringList AccessibleWidget::actionNames() const
     QStringList names = widget()->isEnabled() ? widget()->accessibleActions() : QStringList();
     if (widget()->flags().testFlag(QGraphicsItem::ItemIsFocusable))
         names << setFocusAction();
+    if (!widget()->actions().isEmpty())
+        names << showMenuAction();
     return names;
 }
 
@@ -120,13 +181,68 @@ void AccessibleWidget::doAction(const QString &name)
         return;
     if (name == setFocusAction())
         widget()->setFocus(Qt::OtherFocusReason);
+    else if (name == showMenuAction())
+        showMenu();
     else
         widget()->doAccessibleAction(name);
+}
+
+void AccessibleWidget::showMenu()
+{
+    QGraphicsSceneContextMenuEvent event(QEvent::GraphicsSceneContextMenu);
+    event.setReason(QGraphicsSceneContextMenuEvent::Keyboard);
+    event.setPos(widget()->rect().center());
+    event.setScenePos(widget()->mapToScene(event.pos()));
+    event.setScreenPos(rect().center());
+    if (widget()->scene())
+        widget()->scene()->sendEvent(widget(), &event);
 }
 
 QStringList AccessibleWidget::keyBindingsForAction(const QString &) const
 {
     return {};
+}
+
+int AccessibleWidget::columnIndex() const
+{
+    return 0;
+}
+
+int AccessibleWidget::rowIndex() const
+{
+    const List *rows = list();
+    return rows ? rows->rowOf(widget()) : -1;
+}
+
+int AccessibleWidget::columnExtent() const
+{
+    return 1;
+}
+
+int AccessibleWidget::rowExtent() const
+{
+    return 1;
+}
+
+QList<QAccessibleInterface *> AccessibleWidget::columnHeaderCells() const
+{
+    return {};
+}
+
+QList<QAccessibleInterface *> AccessibleWidget::rowHeaderCells() const
+{
+    return {};
+}
+
+bool AccessibleWidget::isSelected() const
+{
+    return false;
+}
+
+QAccessibleInterface *AccessibleWidget::table() const
+{
+    List *rows = list();
+    return rows ? accessibleOf(rows) : nullptr;
 }
 
 } // namespace Touch

@@ -2,24 +2,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/accessiblewindow_p.h"
 
+#include "platform/toolkit/accessiblelineedit_p.h"
+#include "platform/toolkit/accessiblelist_p.h"
 #include "platform/toolkit/accessiblewidget_p.h"
+#include "platform/toolkit/list.h"
 #include "platform/toolkit/scenewindow.h"
 #include "platform/toolkit/window.h"
 
+#include <QGraphicsProxyWidget>
 #include <QGraphicsScene>
+#include <QLineEdit>
 
 namespace Touch {
 
 namespace {
-
-QAccessibleInterface *makeInterface(const QString &, QObject *object)
-{
-    if (auto *window = qobject_cast<Window *>(object))
-        return new AccessibleWindow(window);
-    if (auto *widget = qobject_cast<Widget *>(object))
-        return new AccessibleWidget(widget);
-    return nullptr;
-}
 
 /** The widget at or above an item. */
 Widget *widgetOf(QGraphicsItem *item)
@@ -29,6 +25,23 @@ Widget *widgetOf(QGraphicsItem *item)
             return widget;
     }
     return nullptr;
+}
+
+QAccessibleInterface *makeInterface(const QString &, QObject *object)
+{
+    if (auto *window = qobject_cast<Window *>(object))
+        return new AccessibleWindow(window);
+    if (auto *list = qobject_cast<List *>(object))
+        return new AccessibleList(list);
+    if (auto *widget = qobject_cast<Widget *>(object)) {
+        QLineEdit *edit = lineEditOf(widget);
+        return edit ? static_cast<QAccessibleInterface *>(new AccessibleLineEdit(edit, widget))
+                    : new AccessibleWidget(widget);
+    }
+    auto *edit = qobject_cast<QLineEdit *>(object);
+    QGraphicsProxyWidget *proxy = edit ? edit->graphicsProxyWidget() : nullptr;
+    Widget *field = proxy ? widgetOf(proxy) : nullptr;
+    return field && lineEditOf(field) == edit ? new AccessibleLineEdit(edit, field) : nullptr;
 }
 
 } // namespace
@@ -67,25 +80,25 @@ int AccessibleWindow::childCount() const
 QAccessibleInterface *AccessibleWindow::child(int index) const
 {
     Widget *found = children().value(index);
-    return found ? QAccessible::queryAccessibleInterface(found) : nullptr;
+    return found ? accessibleOf(found) : nullptr;
 }
 
 int AccessibleWindow::indexOfChild(const QAccessibleInterface *child) const
 {
-    return int(children().indexOf(qobject_cast<Widget *>(child->object())));
+    return int(children().indexOf(accessibleWidgetOf(child)));
 }
 
 QAccessibleInterface *AccessibleWindow::childAt(int x, int y) const
 {
     const auto *window = static_cast<Window *>(object());
     Widget *found = widgetOf(window->itemAt(window->viewport()->mapFromGlobal(QPoint(x, y))));
-    return found ? QAccessible::queryAccessibleInterface(found) : nullptr;
+    return found ? accessibleOf(found) : nullptr;
 }
 
 QAccessibleInterface *AccessibleWindow::focusChild() const
 {
     Widget *found = widgetOf(static_cast<Window *>(object())->scene()->focusItem());
-    return found ? QAccessible::queryAccessibleInterface(found) : nullptr;
+    return found ? accessibleOf(found) : nullptr;
 }
 
 } // namespace Touch

@@ -20,6 +20,7 @@ void ApplicationPage::setTitle(const QString &title)
     if (m_title == title)
         return;
     m_title = title;
+    announceName();
     emit titleChanged(title);
 }
 

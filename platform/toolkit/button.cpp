@@ -41,6 +41,7 @@ void Button::setText(const QString &text)
     m_text->setText(text);
     updateGeometry();
     update();
+    announceName();
 }
 
 void Button::setIconID(const QString &iconId)

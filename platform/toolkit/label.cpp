@@ -35,6 +35,7 @@ void Label::setText(const QString &text)
     m_text->setText(text);
     updateGeometry();
     update();
+    announceName();
 }
 
 Qt::Alignment Label::alignment() const

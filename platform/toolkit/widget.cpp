@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/widget.h"
 
+#include "platform/toolkit/accessiblewidget_p.h"
 #include "platform/toolkit/theme.h"
 #include "platform/toolkit/window.h"
 
@@ -11,6 +12,19 @@
 #include <QPainter>
 
 namespace Touch {
+
+namespace {
+
+void announce(Widget *widget, QAccessible::Event type)
+{
+    QAccessibleInterface *interface = QAccessible::isActive() ? accessibleOf(widget) : nullptr;
+    if (!interface)
+        return;
+    QAccessibleEvent event(interface, type);
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace
 
 Widget::Widget(QGraphicsItem *parent)
     : QGraphicsWidget(parent)
@@ -53,7 +67,15 @@ QString Widget::accessibleName() const
 
 void Widget::setAccessibleName(const QString &name)
 {
+    if (m_accessibleName == name)
+        return;
     m_accessibleName = name;
+    announceName();
+}
+
+void Widget::announceName()
+{
+    announce(this, QAccessible::NameChanged);
 }
 
 QAccessible::Role Widget::accessibleRole() const
@@ -149,13 +171,24 @@ QSizeF Widget::styledSize(Qt::SizeHint which, const QSizeF &content) const
     return size;
 }
 
+// In the tree that assistive technology walks through there is only what can be seen.
+void Widget::announceVisibility()
+{
+    if (!scene())
+        return;
+    announce(this, isVisible() ? QAccessible::ObjectCreated : QAccessible::ObjectHide);
+    announce(this, isVisible() ? QAccessible::ObjectShow : QAccessible::ObjectDestroyed);
+}
+
 QVariant Widget::itemChange(GraphicsItemChange change, const QVariant &value)
 {
     if (change == ItemVisibleHasChanged) {
         refreshDisplay();
         // A hidden item gives its place up; not asked for when only an ancestor was hidden.
-        if (!parentItem() || parentItem()->isVisible())
+        if (!parentItem() || parentItem()->isVisible()) {
             updateGeometry();
+            announceVisibility();
+        }
     } else if (change == ItemParentHasChanged && !testAttribute(Qt::WA_SetLayoutDirection)) {
         // Graphics widgets hear of a new direction of their parent, but do not ask a new parent for its own.
         unsetLayoutDirection();
@@ -180,15 +213,18 @@ void Widget::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::EnabledChange || event->type() == QEvent::LayoutDirectionChange)
         update();
+    if (event->type() == QEvent::EnabledChange && QAccessible::isActive()) {
+        QAccessible::State changed;
+        changed.disabled = true;
+        QAccessibleStateChangeEvent state(this, changed);
+        QAccessible::updateAccessibility(&state);
+    }
     QGraphicsWidget::changeEvent(event);
 }
 
 void Widget::focusInEvent(QFocusEvent *event)
 {
-    if (QAccessible::isActive()) {
-        QAccessibleEvent focus(this, QAccessible::Focus);
-        QAccessible::updateAccessibility(&focus);
-    }
+    announce(this, QAccessible::Focus);
     m_hasKeyboardFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
         || event->reason() == Qt::ShortcutFocusReason;
     update();

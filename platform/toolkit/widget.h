@@ -61,6 +61,8 @@ protected:
     virtual void styleChanged();
     /** What it shows, for those who do not see it. */
     virtual QString shownText() const;
+    /** What it is called is another text now. */
+    void announceName();
     /** It can be seen from now on: start what ticks. */
     virtual void enterDisplay();
     /** It can no longer be seen: stop what ticks. */
@@ -80,6 +82,8 @@ protected:
     void paintFocusRing(QPainter *painter) const;
 
 private:
+    void announceVisibility();
+
     QString m_styleName;
     QString m_accessibleName;
     bool m_isOnDisplay = false;

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void takesNamesApart_data();
     void takesNamesApart();
     void writesCapitalsByTheRulesOfTheLanguage();
+    void namesHourAndMinute();
     void tellsWhenTheTimeFormatIsSet();
     void copiesAreIndependent();
     void tellsWhenTheDefaultIsReplaced();
@@ -112,6 +113,14 @@ void tst_Locale::writesCapitalsByTheRulesOfTheLanguage()
     QCOMPARE(Locale(u"tr_TR"_qs).toUpper(u"i"_qs), u"İ"_qs);
     QCOMPARE(Locale(u"de_DE"_qs).toUpper(u"ß"_qs), u"SS"_qs);
     QCOMPARE(Locale(u"de_DE"_qs).toUpper(QString()), QString());
+}
+
+void tst_Locale::namesHourAndMinute()
+{
+    QCOMPARE(Locale(u"en_US"_qs).timeFieldName(Locale::HourField), u"hour"_qs);
+    QCOMPARE(Locale(u"en_US"_qs).timeFieldName(Locale::MinuteField), u"minute"_qs);
+    QCOMPARE(Locale(u"de_DE"_qs).timeFieldName(Locale::HourField), u"Stunde"_qs);
+    QCOMPARE(Locale(u"ar_EG"_qs).timeFieldName(Locale::MinuteField), u"الدقائق"_qs);
 }
 
 void tst_Locale::tellsWhenTheTimeFormatIsSet()

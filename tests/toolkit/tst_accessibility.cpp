@@ -8,6 +8,8 @@
 #include "tools/gallery/gallery.h"
 
 #include <QAccessible>
+#include <QAction>
+#include <QGraphicsProxyWidget>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -25,7 +27,11 @@ private slots:
     void findsAButtonByItsNameAndPressesIt();
     void togglesASwitch();
     void seesTheRowsOfAListThatAreShown();
+    void seesTheListAsATableOfAllRows();
     void readsAField();
+    void typesIntoAField();
+    void tellsOfTypingWhereTheFieldIs();
+    void opensTheMenuOfWhatHasActions();
     void takesTheNameItIsGiven();
     void knowsWhereThingsAre();
 
@@ -119,6 +125,25 @@ void TestAccessibility::seesTheRowsOfAListThatAreShown()
     QVERIFY(find(root(), QAccessible::Button, QStringLiteral("Row 1")));
 }
 
+void TestAccessibility::seesTheListAsATableOfAllRows()
+{
+    QAccessibleInterface *list = QAccessible::queryAccessibleInterface(m_page->list);
+    QTRY_VERIFY(list->childCount() > 3);
+    QAccessibleTableInterface *table = list->tableInterface();
+    QVERIFY(table);
+    QCOMPARE(table->rowCount(), 1000);
+    QCOMPARE(table->columnCount(), 1);
+    QCOMPARE(table->cellAt(999, 0), nullptr);
+    for (int i = 0; i < list->childCount(); ++i) {
+        const QAccessibleTableCellInterface *cell = list->child(i)->tableCellInterface();
+        QVERIFY(cell);
+        QCOMPARE(cell->rowIndex(), i);
+        QCOMPARE(cell->table(), list);
+        QCOMPARE(table->cellAt(i, 0), list->child(i));
+    }
+    QVERIFY(!list->tableCellInterface());
+}
+
 void TestAccessibility::readsAField()
 {
     Gallery::Editor editor;
@@ -131,6 +156,69 @@ void TestAccessibility::readsAField()
     QVERIFY(found->state().editable);
     found->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
     QVERIFY(found->state().focused);
+}
+
+void TestAccessibility::typesIntoAField()
+{
+    Gallery::Editor editor;
+    editor.appear(m_window);
+    editor.field->setMaxLength(12);
+    QAccessibleInterface *field = find(root(), QAccessible::EditableText, editor.field->accessibleName());
+    QVERIFY(field);
+    QAccessibleTextInterface *text = field->textInterface();
+    QAccessibleEditableTextInterface *editable = field->editableTextInterface();
+    QCOMPARE(text->text(0, text->characterCount()), QStringLiteral("Morning run"));
+    editable->replaceText(0, 7, QStringLiteral("Evening"));
+    QCOMPARE(editor.field->text(), QStringLiteral("Evening run"));
+    editable->insertText(7, QStringLiteral("abc"));
+    QCOMPARE(editor.field->text(), QStringLiteral("Eveninga run"));
+    editable->deleteText(7, 8);
+    QCOMPARE(editor.field->text(), QStringLiteral("Evening run"));
+    text->setCursorPosition(3);
+    QCOMPARE(editor.field->cursorPosition(), 3);
+    text->setSelection(0, 0, 7);
+    int start = -1;
+    int end = -1;
+    text->selection(0, &start, &end);
+    QCOMPARE(text->selectionCount(), 1);
+    QCOMPARE(start, 0);
+    QCOMPARE(end, 7);
+    QVERIFY(field->rect().contains(text->characterRect(2).center()));
+    field->setText(QAccessible::Value, QStringLiteral("Nap"));
+    QCOMPARE(editor.field->text(), QStringLiteral("Nap"));
+}
+
+void TestAccessibility::tellsOfTypingWhereTheFieldIs()
+{
+    Gallery::Editor editor;
+    editor.appear(m_window);
+    // The line edit itself tells of what is typed; it must stand where the field does.
+    const auto *proxy = qgraphicsitem_cast<QGraphicsProxyWidget *>(editor.field->childItems().constFirst());
+    QVERIFY(proxy);
+    QAccessibleInterface *edit = QAccessible::queryAccessibleInterface(proxy->widget());
+    QCOMPARE(edit->parent()->object(), editor.centralWidget());
+    QVERIFY(edit->parent()->indexOfChild(edit) >= 0);
+    QCOMPARE(QAccessible::queryAccessibleInterface(qApp)->childCount(), 1);
+}
+
+void TestAccessibility::opensTheMenuOfWhatHasActions()
+{
+    class WithMenu : public Widget
+    {
+    public:
+        int opened = 0;
+
+    protected:
+        void contextMenuEvent(QGraphicsSceneContextMenuEvent *) override { ++opened; }
+    };
+    WithMenu widget;
+    m_window->scene()->addItem(&widget);
+    QAccessibleActionInterface *actions = QAccessible::queryAccessibleInterface(&widget)->actionInterface();
+    QVERIFY(!actions->actionNames().contains(QAccessibleActionInterface::showMenuAction()));
+    QAction remove;
+    widget.addAction(&remove);
+    actions->doAction(QAccessibleActionInterface::showMenuAction());
+    QCOMPARE(widget.opened, 1);
 }
 
 void TestAccessibility::takesTheNameItIsGiven()
