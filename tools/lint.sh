@@ -37,7 +37,8 @@ tidy() {
         --header-filter="^$PWD/($folders)/.*\.h\$"
 }
 licence_heads() {
-    ! git ls-files '*.cpp' '*.h' '*.py' '*.sh' '*CMakeLists.txt' '*.cmake' | xargs grep -L 'SPDX-License-Identifier: LGPL-2.1-or-later' | grep .
+    ! git ls-files '*.cpp' '*.h' '*.py' '*.sh' '*CMakeLists.txt' '*.cmake' '*.xml' '*.qrc' '*.svg' '*.service' \
+        '*.service.in' | xargs grep -L 'SPDX-License-Identifier: LGPL-2.1-or-later' | grep .
 }
 no_sleep_in_tests() {
     ! git grep -nE 'QTest::qWait\(|QTest::qSleep|QThread::m?sleep|usleep\(|sleep_for|time\.sleep\(' -- tests
