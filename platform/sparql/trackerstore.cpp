@@ -23,7 +23,7 @@ QString takeText(GError *error)
 {
     if (!error)
         return QStringLiteral("unknown error");
-    const auto text = QString::fromUtf8(error->message);
+    auto text = QString::fromUtf8(error->message);
     g_error_free(error);
     return text;
 }
