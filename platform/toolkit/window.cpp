@@ -65,6 +65,8 @@ Window::Window(QWidget *parent)
 Window::~Window()
 {
     allWindows().removeAll(this);
+    // The scene takes the focus from its items when it goes, after this.
+    scene()->disconnect(m_keyboardRoom);
     const QList<SceneWindow *> known = m_known;
     for (SceneWindow *sceneWindow : known)
         sceneWindow->leaveScene();
