@@ -6,6 +6,7 @@
 #include "alarms/qmalarm.h"
 #include "alarms/utility.h"
 #include "app/settings.h"
+#include "editor/alarmoptionspage.h"
 #include "editor/timelabels.h"
 #include "platform/clockwidgets/timepicker.h"
 #include "platform/toolkit/label.h"
@@ -65,6 +66,8 @@ void SettingAlarmPage::loadAlarm(quint32 cookie, const QTime &time, const QStrin
     m_titleField->setText(title.trimmed().isEmpty() ? QString() : title);
     m_titleField->setCursorPosition(0);
     setAccessibleName(isNewAlarm() ? qtTrId("qtn_cloc_new_alarm") : qtTrId("qtn_cloc_alarm_title"));
+    if (m_optionsPage)
+        m_optionsPage->load(m_cookie, m_tone, m_snooze);
     m_contentLayout->setPolicy(isNewAlarm() ? m_newAlarmPolicy : m_existingAlarmPolicy);
 }
 
@@ -81,6 +84,8 @@ void SettingAlarmPage::loadPreferences()
 void SettingAlarmPage::resetContent()
 {
     qDebug() << "void SettingAlarmPage::resetContent()";
+    if (m_optionsPage)
+        m_optionsPage->resetContent();
     dismiss();
 }
 
@@ -88,6 +93,8 @@ void SettingAlarmPage::aboutToLeave()
 {
     stopWaiting();
     leaveResetDialog();
+    if (m_optionsPage)
+        m_optionsPage->dismiss();
 }
 
 void SettingAlarmPage::cancelAlarm()
@@ -174,6 +181,16 @@ void SettingAlarmPage::setStyle(bool hourTouched, bool minuteTouched)
         m_hourLabel->setStyleName("TimeLabelManipulated");
     if (minuteTouched)
         m_minuteLabel->setStyleName("TimeLabelManipulated");
+}
+
+void SettingAlarmPage::displayOptionsPage()
+{
+    qDebug() << "void SettingAlarmPage::displayOptionsPage()";
+    if (!m_optionsPage) {
+        m_optionsPage = std::make_unique<AlarmOptionsPage>();
+        m_optionsPage->load(m_cookie, m_tone, m_snooze);
+    }
+    m_optionsPage->appear();
 }
 
 void SettingAlarmPage::clearFocus()

@@ -11,6 +11,8 @@
 
 #include <memory>
 
+class AlarmEditorListItem;
+class AlarmOptionsPage;
 class TimePicker;
 
 namespace Touch {
@@ -58,6 +60,7 @@ public slots:
     void timeFormatChanged();
     void resetStyle();
     void setStyle(bool hourTouched, bool minuteTouched);
+    void displayOptionsPage();
     void resetAlarm();
     void setAgainAlarm();
     void onValueChanged();
@@ -71,7 +74,9 @@ private:
     void buildTimePicker();
     void buildTitleRow();
     void buildTimeRow();
+    void attachToolbar();
     void buildDeletePanel();
+    void buildMoreOptionsItem();
     void buildHeader();
     void buildContent();
     void followLocale();
@@ -103,10 +108,12 @@ private:
     quint32 m_cookie;
     QString m_tone;
     QString m_defaultTone; ///< empty: the default with which the preference is read
-    unsigned int m_snooze = 10;
+    quint32 m_snooze;
     Touch::Button *m_deleteButton = nullptr;
     std::unique_ptr<Touch::MessageBox> m_resetDialog; ///< made when it is first needed
+    std::unique_ptr<AlarmOptionsPage> m_optionsPage;  ///< the same; keeps the choices made in it
     QSettings m_settings;
+    AlarmEditorListItem *m_moreOptionsItem = nullptr;
     Touch::BasicSheetHeader *m_header = nullptr;
     bool m_mayRestore = false;
     Clock::QmAlarmEvent m_preEditAlarm; ///< as the daemon had it before the last save of an existing alarm

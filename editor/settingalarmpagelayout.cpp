@@ -4,9 +4,12 @@
 
 #include "alarmlist/notices/spacers.h"
 #include "app/settings.h"
+#include "editor/alarmeditorlistitem.h"
+#include "editor/alarmoptionspage.h"
 #include "platform/clockwidgets/timepicker.h"
 #include "platform/toolkit/basicsheetheader.h"
 #include "platform/toolkit/button.h"
+#include "platform/toolkit/inputmethodstate.h"
 #include "platform/toolkit/label.h"
 #include "platform/toolkit/layout.h"
 #include "platform/toolkit/linearlayoutpolicy.h"
@@ -46,6 +49,7 @@ SettingAlarmPage::SettingAlarmPage()
     // A day on which no zone puts its clocks forward, so that every time of day can be shown.
     : m_workingDateTime(QDate(2011, 2, 23), QTime(0, 0))
     , m_cookie(Clock::QmAlarmEvent::NotStored)
+    , m_snooze(Settings::DefaultSnooze)
     , m_settings(Settings::Organisation, Settings::Application)
 {
     setStyleName("CommonApplicationPage");
@@ -54,6 +58,7 @@ SettingAlarmPage::SettingAlarmPage()
     buildTitleRow();
     buildTimeRow();
     buildDeletePanel();
+    buildMoreOptionsItem();
     buildHeader();
     buildContent();
     followLocale();
@@ -80,6 +85,7 @@ void SettingAlarmPage::buildTitleRow()
     m_titleField->setMaxLength(TitleLength);
     m_titleField->setCursorPosition(0);
     m_titleField->setPrompt(qtTrId("qtn_cloc_alarm_title_tooltip"));
+    attachToolbar();
     connect(m_titleField, &Touch::TextEdit::lostFocus, this, &SettingAlarmPage::verifyAlarmTitle);
     connect(m_titleField, &Touch::TextEdit::returnPressed, this, &SettingAlarmPage::clearFocus);
 
@@ -89,6 +95,15 @@ void SettingAlarmPage::buildTitleRow()
     auto *policy = new LinearLayoutPolicy(row, Qt::Horizontal);
     policy->addItem(m_titleField, Qt::AlignVCenter);
     row->setPolicy(policy);
+}
+
+void SettingAlarmPage::attachToolbar()
+{
+    auto &state = Touch::InputMethodState::instance();
+    const int toolbar = state.registerAttributeExtension();
+    state.setExtendedAttribute(toolbar, "/keys", "actionKey", "label", qtTrId("qtn_comm_command_done"));
+    state.setExtendedAttribute(toolbar, "/keys", "actionKey", "highlighted", true);
+    m_titleField->attachToolbar(toolbar);
 }
 
 void SettingAlarmPage::buildTimeRow()
@@ -130,6 +145,15 @@ void SettingAlarmPage::buildDeletePanel()
     panel->setPolicy(policy);
 }
 
+void SettingAlarmPage::buildMoreOptionsItem()
+{
+    m_moreOptionsItem = new AlarmEditorListItem(AlarmEditorListItem::IconWithTitle);
+    m_moreOptionsItem->setStyleName("CommonPanel");
+    m_moreOptionsItem->setObjectName("moreOptionsBasicListItem");
+    m_moreOptionsItem->setTitle(qtTrId("qtn_cloc_more_options"));
+    connect(m_moreOptionsItem, &AlarmEditorListItem::clicked, this, &SettingAlarmPage::displayOptionsPage);
+}
+
 void SettingAlarmPage::buildHeader()
 {
     m_header = new Touch::BasicSheetHeader;
@@ -156,6 +180,7 @@ void SettingAlarmPage::buildContent()
         policy->addItem(m_titleRow);
         policy->addItem(m_timeRow, Qt::AlignCenter);
         policy->addItem(m_timePicker, Qt::AlignCenter);
+        policy->addItem(m_moreOptionsItem, Qt::AlignCenter);
         policy->addItem(filler, Qt::AlignCenter);
     }
     // Takes part in no arrangement, so it is never seen.

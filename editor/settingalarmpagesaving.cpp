@@ -6,6 +6,8 @@
 #include "alarms/qmalarm.h"
 #include "alarms/utility.h"
 #include "app/settings.h"
+#include "editor/alarmoptionspage.h"
+#include "editor/snoozechoices.h"
 #include "platform/clockwidgets/timepicker.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/messagebox.h"
@@ -47,8 +49,10 @@ QmAlarmEvent SettingAlarmPage::recordFromFields() const
     const QString title = m_titleField->text();
     record.setTitle(title.trimmed().isEmpty() ? qtTrId("qtn_cloc_alarm_title") : title);
     record.setAlarmTime(QTime(m_timePicker->hours(), m_timePicker->minutes()));
-    record.setTone(m_tone);
-    record.setSnooze(static_cast<int>(m_snooze));
+    record.setTone(m_optionsPage ? m_optionsPage->tone() : m_tone);
+    record.setSnooze(m_optionsPage ? SnoozeChoices.at(size_t(m_optionsPage->snoozeIndex())) : int(m_snooze));
+    if (m_optionsPage)
+        record.setRepeatDays(m_optionsPage->repeatDays());
     return record;
 }
 
@@ -63,7 +67,8 @@ void SettingAlarmPage::storeRecord(QmAlarmEvent &record)
     m_mayRestore = true;
     m_preEditAlarm = QmAlarmEvent();
     m_preEditAlarm.fromAstelTimedEvent(m_cookie);
-    record.setRepeatDays(m_preEditAlarm.repeatDays());
+    if (!m_optionsPage)
+        record.setRepeatDays(m_preEditAlarm.repeatDays());
     m_cookie = alarm.replace(record, m_cookie);
 }
 

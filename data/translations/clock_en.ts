@@ -132,9 +132,5 @@
         <source>Delete</source>
         <translation>Delete</translation>
     </message>
-    <message id="qtn_sond_ringtone_nosound">
-        <source>No sound</source>
-        <translation>No sound</translation>
-    </message>
 </context>
 </TS>

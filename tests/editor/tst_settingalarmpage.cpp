@@ -249,8 +249,8 @@ void TestSettingAlarmPage::theSlotsKeepTheirOrder()
         names.append(meta.method(i).name());
     QCOMPARE(names,
              (QStringList{"saveAlarm", "cancelAlarm", "removeAlarm", "getAlarmCookie", "timeChangedInTimePicker",
-                          "verifyAlarmTitle", "timeFormatChanged", "resetStyle", "setStyle", "resetAlarm",
-                          "setAgainAlarm", "onValueChanged", "clearFocus", "showResetAlarmDialog"}));
+                          "verifyAlarmTitle", "timeFormatChanged", "resetStyle", "setStyle", "displayOptionsPage",
+                          "resetAlarm", "setAgainAlarm", "onValueChanged", "clearFocus", "showResetAlarmDialog"}));
 }
 
 QTEST_MAIN(TestSettingAlarmPage)
