@@ -49,7 +49,8 @@ void AlarmEditorListItem::placeTitle()
     titleLabel()->setStyleName("CommonSingleTitle");
     titleLabel()->setObjectName("MoreOptionsTitle");
     m_grid->addItem(titleLabel(), 0, 0, 1, 1, Qt::AlignLeft | Qt::AlignVCenter);
-    m_grid->setRowStretchFactor(0, 1);
+    // The row is higher than its text.
+    titleLabel()->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     m_imageWidget->setStyleName("CommonDrillDownIcon");
     m_imageWidget->setObjectName("MoreOptionsIcon");
     m_imageWidget->setImage("icon-m-common-drilldown-arrow");

@@ -70,9 +70,7 @@ AlarmEditorListItem *TestAlarmEditorListItem::place(AlarmEditorListItem *item)
 {
     item->setTitle("Title");
     auto *column = new Touch::Widget;
-    auto *layout = new Touch::Layout(column);
-    layout->setPolicy(new Touch::LinearLayoutPolicy(layout, Qt::Vertical));
-    layout->policy()->addItem(item);
+    (new Touch::LinearLayoutPolicy(new Touch::Layout(column), Qt::Vertical))->addItem(item);
     m_window->scene()->addItem(column);
     column->setGeometry(QRectF(QPointF(0, 0), QSizeF(400, column->effectiveSizeHint(Qt::PreferredSize).height())));
     QCoreApplication::sendPostedEvents();
