@@ -112,6 +112,17 @@ qulonglong BusService::snooze(uint cookie, uint seconds, const QString &by)
     return 0;
 }
 
+qulonglong BusService::press(uint cookie, uint button, const QString &by)
+{
+    const auto valid = validateWho(by);
+    const auto until = valid ? m_parts.lifeCycle.press(cookie, button, by) : valid.error();
+    if (until)
+        answer({*until ? toNanoseconds(**until) : 0});
+    else
+        refuse(until.error());
+    return 0;
+}
+
 void BusService::dismiss(uint cookie, const QString &by)
 {
     const auto valid = validateWho(by);

@@ -53,6 +53,7 @@ public:
     void rings(uint cookie);
     void sounds(uint cookie, const QString &tone);
     qulonglong snooze(uint cookie, uint seconds, const QString &by);
+    qulonglong press(uint cookie, uint button, const QString &by);
     void dismiss(uint cookie, const QString &by);
     QList<Wire::Trigger> next_triggers(uint count) const;
     QList<Wire::JournalEntry> journal(qlonglong since) const;

@@ -102,10 +102,22 @@ Result<qint64> LifeCycle::snooze(quint32 cookie, quint32 seconds, const QString 
     const qint64 length = seconds > 0 ? seconds : firstSnooze(event.wire());
     if (length <= 0 || length > LongestSnooze)
         return Error{Wire::InvalidError, QStringLiteral("a snooze of %1 s is not possible").arg(length)};
-    Change change;
-    const qint64 until = m_transitions.snooze(event, length, by, change);
-    apply(change);
-    return until;
+    return snoozeFor(event, length, by);
+}
+
+Result<std::optional<qint64>> LifeCycle::press(quint32 cookie, quint32 button, const QString &by)
+{
+    const auto found = ringingEvent(cookie);
+    if (!found)
+        return found.error();
+    const AlarmEvent &event = **found;
+    const QList<Wire::Button> &buttons = event.wire().buttons;
+    if (button == 0 || button > quint32(buttons.size()))
+        return Error{Wire::InvalidError, QStringLiteral("alarm %1 has no button %2").arg(cookie).arg(button)};
+    if (const qint64 length = buttons[button - 1].snooze; length > 0)
+        return std::optional(snoozeFor(event, length, by));
+    stop(event, by);
+    return std::optional<qint64>();
 }
 
 Result<> LifeCycle::dismiss(quint32 cookie, const QString &by)
@@ -113,10 +125,7 @@ Result<> LifeCycle::dismiss(quint32 cookie, const QString &by)
     const AlarmEvent *event = m_book.find(cookie);
     if (!event || (event->state() != State::Triggered && event->state() != State::Snoozed))
         return Error{Wire::UnknownError, QStringLiteral("alarm %1 neither rings nor snoozes").arg(cookie)};
-    Change change;
-    change.journal.append(m_transitions.entry(cookie, "answered", QStringLiteral("stop by %1").arg(by)));
-    m_transitions.serve(*event, change);
-    apply(change);
+    stop(*event, by);
     return Done{};
 }
 
@@ -258,6 +267,22 @@ void LifeCycle::followAll()
 {
     for (const auto &[cookie, event] : m_book.events())
         follow(event);
+}
+
+qint64 LifeCycle::snoozeFor(const AlarmEvent &event, qint64 seconds, const QString &by)
+{
+    Change change;
+    const qint64 until = m_transitions.snooze(event, seconds, by, change);
+    apply(change);
+    return until;
+}
+
+void LifeCycle::stop(const AlarmEvent &event, const QString &by)
+{
+    Change change;
+    change.journal.append(m_transitions.entry(event.cookie(), "answered", QStringLiteral("stop by %1").arg(by)));
+    m_transitions.serve(event, change);
+    apply(change);
 }
 
 void LifeCycle::note(quint32 cookie, const QString &what, const QString &detail)

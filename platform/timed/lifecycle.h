@@ -41,6 +41,8 @@ public:
     Result<> sounds(quint32 cookie, const QString &tone);
     /** Answers the end of the snooze in milliseconds; 0 seconds: those of the first button that snoozes. */
     Result<qint64> snooze(quint32 cookie, quint32 seconds, const QString &by);
+    /** A button of the event, counted from 1; answers the end of its snooze, or nothing where it stops the alarm. */
+    Result<std::optional<qint64>> press(quint32 cookie, quint32 button, const QString &by);
     Result<> dismiss(quint32 cookie, const QString &by);
     /** Rings an event that was missed, also one that is not stored any more; fails where it rings already. */
     Result<> ringNow(quint32 cookie);
@@ -74,6 +76,8 @@ private:
     void restartRingTimes();
     void recomputeAll(Cause cause);
     void reconcileAll(Cause cause);
+    qint64 snoozeFor(const AlarmEvent &event, qint64 seconds, const QString &by);
+    void stop(const AlarmEvent &event, const QString &by);
     void note(quint32 cookie, const QString &what, const QString &detail = QLatin1String(""));
 
     Result<const AlarmEvent *> ringingEvent(quint32 cookie) const;

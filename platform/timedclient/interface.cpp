@@ -72,6 +72,11 @@ QDBusPendingReply<quint64> Interface::snooze(uint cookie, uint seconds, const QS
     return m_proxy->snooze(cookie, seconds, by);
 }
 
+QDBusPendingReply<quint64> Interface::press(uint cookie, uint button, const QString &by)
+{
+    return m_proxy->press(cookie, button, by);
+}
+
 QDBusPendingReply<> Interface::dismiss(uint cookie, const QString &by)
 {
     return m_proxy->dismiss(cookie, by);

@@ -40,6 +40,8 @@ public:
     QDBusPendingReply<> sounds(uint cookie, const QString &tone);
     /** Answers nanoseconds since the epoch. */
     QDBusPendingReply<quint64> snooze(uint cookie, uint seconds, const QString &by);
+    /** Buttons are counted from 1. Answers nanoseconds since the epoch, 0 where the button stopped the alarm. */
+    QDBusPendingReply<quint64> press(uint cookie, uint button, const QString &by);
     QDBusPendingReply<> dismiss(uint cookie, const QString &by);
 
     QDBusPendingReply<QList<Wire::Trigger>> next_triggers(uint count);

@@ -86,6 +86,7 @@ private slots:
     void acknowledgedEventRingsAfterAKill();
     void healthKnowsWhatTheTimerIsArmedFor();
     void dueEventRingsAndIsAnswered();
+    void buttonsArePressedByNumber();
     void ringerThatGoesIsCalledAgain();
     void secondDaemonSaysWhyItEnds();
     void terminatedDaemonEndsCleanly();
@@ -229,6 +230,7 @@ void tst_Daemon::refusalsAreNamed()
     QCOMPARE(errorOf("rings", {4711u}), Wire::UnknownError);
     QCOMPARE(errorOf("sounds", {4711u, "tone"}), Wire::UnknownError);
     QCOMPARE(errorOf("snooze", {4711u, 60u, "user"}), Wire::UnknownError);
+    QCOMPARE(errorOf("press", {4711u, 1u, "user"}), Wire::UnknownError);
     QCOMPARE(errorOf("dismiss", {4711u, "user"}), Wire::UnknownError);
 }
 
@@ -312,6 +314,30 @@ void tst_Daemon::dueEventRingsAndIsAnswered()
     for (const Wire::JournalEntry &entry : journal)
         words.append(entry.what);
     QCOMPARE(words, (QStringList{"due", "rang", "sounded", "answered", "due", "answered"}));
+}
+
+void tst_Daemon::buttonsArePressedByNumber()
+{
+    const NotingRinger ringer(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "ringer"));
+    Wire::Event event;
+    event.ticker = QDateTime::currentSecsSinceEpoch();
+    event.flags = Wire::SingleShot | Wire::KeepAlive;
+    event.buttons = {{0, {}}, {1, {}}};
+    const uint cookie = add(event);
+    QTRY_COMPARE(ringer.calls.size(), 1);
+    for (const uint button : {0u, 3u, 4294967295u})
+        QCOMPARE(errorOf("press", {cookie, button, "user"}), Wire::InvalidError);
+    QCOMPARE(errorOf("press", {cookie, 1u, QString(200, 'x')}), Wire::LimitError);
+    QCOMPARE(stateOf(cookie), "TRIGGERED");
+
+    QVERIFY(ask<qulonglong>("press", {cookie, 2u, "user"}) > qulonglong(event.ticker) * 1000000000);
+    QTRY_COMPARE(ringer.calls.size(), 3);
+    const QDBusPendingReply<qulonglong> stopped = call("press", {cookie, 1u, "user"});
+    QTRY_VERIFY(stopped.isFinished());
+    QVERIFY(stopped.isValid());
+    QCOMPARE(stopped.value(), 0u);
+    QCOMPARE(stateOf(cookie), "FINISHED");
+    QCOMPARE(errorOf("press", {cookie, 1u, "user"}), Wire::UnknownError);
 }
 
 void tst_Daemon::ringerThatGoesIsCalledAgain()

@@ -42,6 +42,9 @@ private slots:
     void snoozeLastsAsAsked_data();
     void snoozeLastsAsAsked();
     void snoozeNeedsALengthAndARingingEvent();
+    void buttonDoesWhatItsNumberSays_data();
+    void buttonDoesWhatItsNumberSays();
+    void buttonNeedsANumberAndARingingEvent();
     void unansweredRingingSnoozesUntilItsCounterIsUsedUp();
     void answeringBeginsTheCounterAgain();
     void snoozedEventCanBeDismissed();
@@ -218,6 +221,62 @@ void tst_LifeCycle::snoozeNeedsALengthAndARingingEvent()
     QCOMPARE(world.parts->life.snooze(noButton, 0, "user").error().name, QLatin1String(Wire::InvalidError));
     QCOMPARE(world.parts->life.snooze(noButton, 0xffffffffu, "user").error().name, QLatin1String(Wire::InvalidError));
     QCOMPARE(world.state(noButton), State::Triggered);
+}
+
+void tst_LifeCycle::buttonDoesWhatItsNumberSays_data()
+{
+    QTest::addColumn<quint32>("flags");
+    QTest::addColumn<quint32>("button");
+    QTest::addColumn<State>("state");
+    QTest::addColumn<qint64>("moment");
+    QTest::addColumn<QString>("answer");
+
+    const quint32 aligned = Wire::AlignedSnooze;
+    QTest::newRow("stop") << 0u << 1u << State::Waiting << Seven + Day << "stop by user";
+    QTest::newRow("snooze") << 0u << 2u << State::Snoozed << Seven + 607 * Second << "snooze of 600 s by user";
+    QTest::newRow("other snooze") << 0u << 3u << State::Snoozed << Seven + 307 * Second << "snooze of 300 s by user";
+    QTest::newRow("aligned") << aligned << 3u << State::Snoozed << Seven + 6 * Minute << "snooze of 300 s by user";
+}
+
+void tst_LifeCycle::buttonDoesWhatItsNumberSays()
+{
+    QFETCH(quint32, flags);
+    QFETCH(quint32, button);
+    QFETCH(State, state);
+    QFETCH(qint64, moment);
+    QFETCH(QString, answer);
+
+    World world(Start);
+    Wire::Event event = daily7(flags);
+    event.buttons = {{0, {}}, {600, {}}, {300, {}}};
+    const quint32 cookie = world.add(event);
+    world.passTo(Seven + 7 * Second);
+    const auto until = world.parts->life.press(cookie, button, "user");
+    QVERIFY(until);
+    QCOMPARE(*until, state == State::Snoozed ? std::optional(moment) : std::nullopt);
+    QCOMPARE(world.state(cookie), state);
+    QCOMPARE(world.moment(cookie), std::optional(moment));
+    QCOMPARE(world.ringer.stopped, QList<quint32>{cookie});
+    QCOMPARE(world.store.stored.at(cookie).state(), state);
+    QCOMPARE(world.store.entries.last().what, "answered");
+    QCOMPARE(world.store.entries.last().detail, answer);
+}
+
+void tst_LifeCycle::buttonNeedsANumberAndARingingEvent()
+{
+    World world(Start);
+    const quint32 cookie = world.add(daily7());
+    const auto refusal
+        = [&](quint32 of, quint32 button) { return world.parts->life.press(of, button, "user").error().name; };
+    QCOMPARE(refusal(cookie, 1), QLatin1String(Wire::UnknownError));
+    QCOMPARE(refusal(77, 1), QLatin1String(Wire::UnknownError));
+    world.passTo(Seven);
+    QCOMPARE(refusal(cookie, 0), QLatin1String(Wire::InvalidError));
+    QCOMPARE(refusal(cookie, 3), QLatin1String(Wire::InvalidError));
+    QCOMPARE(world.state(cookie), State::Triggered);
+    QVERIFY(world.parts->life.press(cookie, 2, "user"));
+    QCOMPARE(refusal(cookie, 1), QLatin1String(Wire::UnknownError));
+    QCOMPARE(world.state(cookie), State::Snoozed);
 }
 
 void tst_LifeCycle::unansweredRingingSnoozesUntilItsCounterIsUsedUp()

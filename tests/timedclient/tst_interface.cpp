@@ -183,6 +183,8 @@ void InterfaceTest::sendsTheOtherCalls_data()
                             << QVariantList{7u, "/tone"};
     QTest::newRow("snooze") << Call([](Interface &timed) { return timed.snooze(7, 300, "test"); }) << "uus"
                             << QVariantList{7u, 300u, "test"};
+    QTest::newRow("press") << Call([](Interface &timed) { return timed.press(7, 2, "test"); }) << "uus"
+                           << QVariantList{7u, 2u, "test"};
     QTest::newRow("dismiss") << Call([](Interface &timed) { return timed.dismiss(7, "test"); }) << "us"
                              << QVariantList{7u, "test"};
     QTest::newRow("next_triggers") << Call([](Interface &timed) { return timed.next_triggers(10); }) << "u"

@@ -25,7 +25,8 @@ GUARDED = 5
 
 SIGNATURES = {
     "add_event": f"({EVENT})", "replace_event": f"({EVENT}u)", "cancel": "(u)", "query": "(a{sv})",
-    "query_attributes": "(u)", "rings": "(u)", "sounds": "(us)", "snooze": "(uus)", "dismiss": "(us)",
+    "query_attributes": "(u)", "rings": "(u)", "sounds": "(us)", "snooze": "(uus)", "press": "(uus)",
+    "dismiss": "(us)",
     "next_triggers": "(u)", "journal": "(x)", "health": "()",
 }
 RANGES = {"y": (0, 255), "n": (-1 << 15, (1 << 15) - 1), "q": (0, (1 << 16) - 1), "i": (-1 << 31, (1 << 31) - 1),
@@ -115,6 +116,9 @@ class Caller:
             return method, GLib.Variant("(us)", (self.cookie(), text))
         if method == "snooze":
             return method, GLib.Variant("(uus)", (self.cookie(), self.number("u"), text))
+        if method == "press":
+            button = self.choice.randrange(4) if self.choice.random() < 0.8 else self.number("u")
+            return method, GLib.Variant("(uus)", (self.cookie(), button, text))
         if method == "dismiss":
             return method, GLib.Variant("(us)", (self.cookie(), text))
         if method == "journal":
