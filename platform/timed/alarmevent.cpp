@@ -68,6 +68,22 @@ void AlarmEvent::moveSnooze(qint64 until, qint64 now)
     setState(State::Snoozed, until, now);
 }
 
+void AlarmEvent::waitOverSnooze(std::optional<qint64> moment, qint64 now)
+{
+    const Snooze snooze{m_standing.since, m_standing.moment.value_or(now)};
+    wait(moment, now);
+    m_standing.passedOver = snooze;
+}
+
+void AlarmEvent::resumeSnooze()
+{
+    const Snooze snooze = m_standing.passedOver.value_or(Snooze());
+    const auto lastDue = m_standing.lastDue;
+    setState(State::Snoozed, snooze.until, snooze.since);
+    // It did not ring at the moment for which it waited meanwhile.
+    m_standing.lastDue = lastDue;
+}
+
 void AlarmEvent::finish(qint64 now)
 {
     setState(State::Finished, std::nullopt, now);
@@ -79,6 +95,8 @@ void AlarmEvent::setState(State state, std::optional<qint64> moment, qint64 now)
         m_standing.lastDue = m_standing.moment;
     if (state == State::Waiting || state == State::Inactive || state == State::Finished)
         m_standing.timeoutSnoozes = 0;
+    if (state != State::Waiting && state != State::Inactive)
+        m_standing.passedOver.reset();
     m_standing.state = state;
     m_standing.moment = moment;
     m_standing.since = now;

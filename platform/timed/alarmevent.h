@@ -19,6 +19,15 @@ enum class State {
 QString stateName(State state);
 std::optional<State> stateFromName(const QString &name);
 
+/** Rings again; moments are milliseconds since the epoch. */
+struct Snooze
+{
+    qint64 since = 0;
+    qint64 until = 0;
+
+    bool operator==(const Snooze &) const = default;
+};
+
 /** Where an event stands, as it is stored; moments are milliseconds since the epoch. */
 struct Standing
 {
@@ -27,6 +36,8 @@ struct Standing
     qint64 since = 0;              ///< when it came into the state
     std::optional<qint64> lastDue; ///< the last moment of its rules at which it rang
     quint32 timeoutSnoozes = 0;    ///< used up since it was due
+    /** Of an event that waits or is inactive because the clock jumped over its snooze by years. */
+    std::optional<Snooze> passedOver = {};
 
     bool operator==(const Standing &) const = default;
 };
@@ -58,6 +69,10 @@ public:
     void snoozeUnanswered(qint64 until, qint64 now);
     /** The snooze that goes on ends at another moment. */
     void moveSnooze(qint64 until, qint64 now);
+    /** As wait(), but remembers the snooze over which the clock jumped. */
+    void waitOverSnooze(std::optional<qint64> moment, qint64 now);
+    /** Goes on with the snooze that was remembered. */
+    void resumeSnooze();
     void finish(qint64 now);
 
 private:

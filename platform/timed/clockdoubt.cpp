@@ -59,8 +59,16 @@ std::optional<qint64> ClockDoubt::moment(const AlarmEvent &event) const
     const auto stored = event.moment();
     if (!m_exists || event.state() != State::Waiting || m_clock.now() < EarliestPlausible)
         return stored;
-    const auto byThisClock = m_transitions.nextMoment(event);
-    return byThisClock ? std::min(*byThisClock, *stored) : stored;
+    qint64 first = m_transitions.nextMoment(event).value_or(*stored);
+    if (const auto snooze = event.standing().passedOver; snooze && isWorthRinging(snooze->until))
+        first = std::min(first, snooze->until);
+    return std::min(first, *stored);
+}
+
+bool ClockDoubt::isWorthRinging(qint64 moment) const
+{
+    const Lateness late = lateness(moment, m_clock.now());
+    return late == Lateness::Ahead || late == Lateness::Now;
 }
 
 bool ClockDoubt::isBehind() const

@@ -34,6 +34,7 @@ public:
     std::optional<qint64> moment(const AlarmEvent &event) const;
 
 private:
+    bool isWorthRinging(qint64 moment) const;
     bool isBehind() const;
 
     const EventBook &m_book;

@@ -30,6 +30,9 @@ const std::array<QStringList, Version> &steps()
         // What the user is to be told.
         QStringList{"CREATE TABLE missed (cookie INTEGER NOT NULL, due INTEGER NOT NULL, noticed INTEGER NOT NULL,"
                     " reason TEXT NOT NULL, told INTEGER NOT NULL, event TEXT NOT NULL, PRIMARY KEY (due, cookie))"},
+        // A snooze over which the clock jumped.
+        QStringList{"ALTER TABLE events ADD COLUMN snooze_since INTEGER",
+                    "ALTER TABLE events ADD COLUMN snooze_until INTEGER"},
     };
     return all;
 }

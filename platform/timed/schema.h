@@ -15,7 +15,7 @@ inline constexpr quint32 CookiesToStepOver = 100000;
 /** The tables of the store. */
 namespace Schema {
 
-inline constexpr int Version = 3;
+inline constexpr int Version = 4;
 
 /**
  * Brings a database from a version, 0 for an empty one, to the current one: all of it or nothing. "lastCookie" is where

@@ -34,9 +34,11 @@ std::optional<AlarmEvent> readEvent(const QSqlQuery &row, TextPool &pool)
     const auto wire = decodeEvent(row.value(6).toByteArray(), pool);
     if (!state || !wire)
         return std::nullopt;
-    return AlarmEvent(
-        row.value(0).toUInt(), *wire,
-        {*state, orNothing(row.value(2)), row.value(3).toLongLong(), orNothing(row.value(4)), row.value(5).toUInt()});
+    Standing standing{*state, orNothing(row.value(2)), row.value(3).toLongLong(), orNothing(row.value(4)),
+                      row.value(5).toUInt()};
+    if (!row.value(8).isNull())
+        standing.passedOver = Snooze{row.value(7).toLongLong(), row.value(8).toLongLong()};
+    return AlarmEvent(row.value(0).toUInt(), *wire, standing);
 }
 
 } // namespace
@@ -49,8 +51,8 @@ SqliteStore::SqliteStore(std::shared_ptr<Database> database)
     , m_history(m_database->connection())
     , m_snapshots(m_database->path())
 {
-    m_put.prepare("INSERT OR REPLACE INTO events (cookie, state, moment, since, last_due, timeout_snoozes, event)"
-                  " VALUES (?, ?, ?, ?, ?, ?, ?)");
+    m_put.prepare("INSERT OR REPLACE INTO events (cookie, state, moment, since, last_due, timeout_snoozes, event,"
+                  " snooze_since, snooze_until) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)");
     m_erase.prepare("DELETE FROM events WHERE cookie = ?");
     m_count.prepare("UPDATE counter SET last_cookie = max(last_cookie, ?)");
 }
@@ -120,9 +122,12 @@ Result<> SqliteStore::write(const Change &change)
 Result<> SqliteStore::put(const AlarmEvent &event)
 {
     const Standing &standing = event.standing();
+    const auto &snooze = standing.passedOver;
     return Database::run(m_put,
                          {event.cookie(), stateName(standing.state), orNull(standing.moment), standing.since,
-                          orNull(standing.lastDue), standing.timeoutSnoozes, encodeEvent(event.wire())});
+                          orNull(standing.lastDue), standing.timeoutSnoozes, encodeEvent(event.wire()),
+                          orNull(snooze ? std::optional(snooze->since) : std::nullopt),
+                          orNull(snooze ? std::optional(snooze->until) : std::nullopt)});
 }
 
 Result<> SqliteStore::erase(quint32 cookie)
@@ -141,8 +146,8 @@ QList<AlarmEvent> SqliteStore::events() const
     query.setForwardOnly(true);
     TextPool pool;
     // As bytes, for SQLite hands out text only by way of UTF-16.
-    query.exec("SELECT cookie, state, moment, since, last_due, timeout_snoozes, CAST(event AS BLOB) FROM events"
-               " ORDER BY cookie");
+    query.exec("SELECT cookie, state, moment, since, last_due, timeout_snoozes, CAST(event AS BLOB),"
+               " snooze_since, snooze_until FROM events ORDER BY cookie");
     while (query.next()) {
         if (const auto event = readEvent(query, pool))
             result.append(*event);

@@ -48,6 +48,10 @@ Transitions::Transitions(const Clock &clock, const ZoneSource &zone, qint64 ring
 
 void Transitions::reconcile(AlarmEvent event, Cause cause, Change &change) const
 {
+    if (resumesSnooze(event)) {
+        resumeSnooze(event, cause, change);
+        return;
+    }
     switch (event.state()) {
     case State::Inactive:
         refresh(event, change);
@@ -87,6 +91,21 @@ void Transitions::reconcileSnooze(const AlarmEvent &event, Cause cause, Change &
     if (now < event.standing().since)
         restartSnooze(event, change);
     else if (lateness(*event.moment(), now) != Lateness::Ahead)
+        come(event, cause, change);
+}
+
+bool Transitions::resumesSnooze(const AlarmEvent &event) const
+{
+    const auto snooze = event.standing().passedOver;
+    return snooze && lateness(snooze->until, m_clock.now()) != Lateness::Absurd;
+}
+
+void Transitions::resumeSnooze(AlarmEvent event, Cause cause, Change &change) const
+{
+    event.resumeSnooze();
+    if (m_clock.now() < event.standing().since)
+        restartSnooze(event, change);
+    else
         come(event, cause, change);
 }
 
@@ -136,7 +155,10 @@ void Transitions::waitOn(AlarmEvent event, Change &change) const
     // An alarm that was answered rings for its snooze when the clock is right again, and for no other moment.
     if (event.state() == State::Snoozed && event.has(Wire::SingleShot))
         return;
-    event.wait(nextMoment(event), m_clock.now());
+    if (event.state() == State::Snoozed)
+        event.waitOverSnooze(nextMoment(event), m_clock.now());
+    else
+        event.wait(nextMoment(event), m_clock.now());
     change.put.append(event);
 }
 

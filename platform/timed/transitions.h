@@ -52,6 +52,9 @@ public:
 private:
     void reconcileRinging(AlarmEvent event, Cause cause, Change &change) const;
     void reconcileSnooze(const AlarmEvent &event, Cause cause, Change &change) const;
+    /** Whether the clock came back to a snooze that it had jumped over. */
+    bool resumesSnooze(const AlarmEvent &event) const;
+    void resumeSnooze(AlarmEvent event, Cause cause, Change &change) const;
     void refresh(AlarmEvent event, Change &change) const;
     void waitOn(AlarmEvent event, Change &change) const;
     void passBy(const AlarmEvent &event, Cause cause, Change &change) const;

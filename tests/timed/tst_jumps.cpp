@@ -10,6 +10,7 @@ namespace {
 
 const qint64 Seven = utc("2026-11-20T06:00:00"); // in Berlin
 constexpr qint64 FiftySixYears = 20440 * Day;
+const qint64 FarSeven = utc("2082-11-07T06:00:00"); // the first in Berlin after so many years
 
 Wire::Event daily7(quint32 days)
 {
@@ -36,6 +37,9 @@ private slots:
     void snoozeStaysAlignedWhenTheClockGoesBack();
     void unansweredSnoozesAreCountedOnWhenTheClockGoesBack();
     void jumpByYearsLeavesASnoozeAsItIs();
+    void jumpByYearsAndBackKeepsASnooze_data();
+    void jumpByYearsAndBackKeepsASnooze();
+    void snoozeThatEndedBeforeTheYearsDoesNotRing();
     void flightOverTheDateLine_data();
     void flightOverTheDateLine();
 };
@@ -95,7 +99,8 @@ void tst_Jumps::jumpWhileSnoozed_data()
     QTest::newRow("+9 min") << 9 * Minute << none << State::Snoozed << end;
     QTest::newRow("+11 min") << 11 * Minute << QStringList{"due"} << State::Triggered << end;
     QTest::newRow("+30 days") << 30 * Day << QStringList{"missed"} << State::Waiting << Seven + 31 * Day;
-    QTest::newRow("+56 years") << FiftySixYears << none << State::Waiting << utc("2082-11-07T06:00:00");
+    // Nothing rings for a snooze of long ago, and the alarm goes on by the clock there is.
+    QTest::newRow("+56 years") << FiftySixYears << none << State::Waiting << FarSeven;
 }
 
 void tst_Jumps::jumpWhileSnoozed()
@@ -163,6 +168,76 @@ void tst_Jumps::jumpByYearsLeavesASnoozeAsItIs()
     QCOMPARE(world.ringer.rung.size(), 2);
     QVERIFY(world.parts->life.dismiss(cookie, "user"));
     QCOMPARE(world.state(cookie), State::Finished);
+}
+
+void tst_Jumps::jumpByYearsAndBackKeepsASnooze_data()
+{
+    QTest::addColumn<qint64>("back");
+    QTest::addColumn<bool>("restarted");
+    QTest::addColumn<QStringList>("journal");
+    QTest::addColumn<State>("state");
+    QTest::addColumn<qint64>("moment");
+
+    const QStringList none;
+    const QStringList due{"due"};
+    const qint64 end = Seven + 10 * Minute;
+    QTest::newRow("before its end") << Seven + 4 * Minute << false << none << State::Snoozed << end;
+    QTest::newRow("at its end") << end << false << due << State::Triggered << end;
+    QTest::newRow("a little late") << end + 9 * Minute << false << due << State::Triggered << end;
+    QTest::newRow("too late") << end + Hour << false << QStringList{"missed"} << State::Waiting << Seven + Day;
+    QTest::newRow("behind the answer") << Seven - Hour << false << none << State::Snoozed << end - Hour;
+    QTest::newRow("to 1970") << qint64(0) << false << none << State::Snoozed << 10 * Minute;
+    // A daemon that starts behind the years in which the event was put where it is doubts the clock, and rings by it.
+    QTest::newRow("a little late, restarted") << end + Minute << true << due << State::Triggered << end + Minute;
+    QTest::newRow("too late, restarted") << end + Hour << true << none << State::Waiting << FarSeven;
+}
+
+void tst_Jumps::jumpByYearsAndBackKeepsASnooze()
+{
+    QFETCH(qint64, back);
+    QFETCH(bool, restarted);
+    QFETCH(QStringList, journal);
+    QFETCH(State, state);
+    QFETCH(qint64, moment);
+
+    World world(Seven - Hour);
+    const quint32 cookie = world.add(daily(7, 0));
+    world.passTo(Seven);
+    QVERIFY(world.parts->life.snooze(cookie, 600, "user"));
+    world.ringer.rung.clear();
+    world.store.entries.clear();
+    world.setClock(Seven + Minute + FiftySixYears);
+    world.pass(2 * Minute);
+    QCOMPARE(world.state(cookie), State::Waiting);
+    QCOMPARE(world.moment(cookie), std::optional(FarSeven));
+    QVERIFY(world.ringer.rung.isEmpty());
+    if (restarted) {
+        world.restart(back);
+        world.passTo(back);
+    } else {
+        world.setClock(back);
+    }
+    QCOMPARE(world.store.words(), journal);
+    QCOMPARE(world.state(cookie), state);
+    QCOMPARE(world.moment(cookie), std::optional(moment));
+    QCOMPARE(world.ringer.rung.size(), journal.contains("due") ? 1 : 0);
+}
+
+void tst_Jumps::snoozeThatEndedBeforeTheYearsDoesNotRing()
+{
+    World world(Seven - Hour);
+    const quint32 cookie = world.add(daily(7, 0));
+    world.passTo(Seven);
+    QVERIFY(world.parts->life.snooze(cookie, 600, "user"));
+    world.setClock(Seven + Minute + FiftySixYears);
+    world.ringer.rung.clear();
+    // It rang and was answered by the clock of then; what was snoozed before is served with it.
+    world.passTo(FarSeven);
+    QCOMPARE(world.ringer.rung, QList<quint32>{cookie});
+    QVERIFY(world.parts->life.dismiss(cookie, "user"));
+    world.setClock(Seven + 4 * Minute);
+    QCOMPARE(world.state(cookie), State::Waiting);
+    QCOMPARE(world.moment(cookie), std::optional(Seven + Day));
 }
 
 void tst_Jumps::flightOverTheDateLine_data()

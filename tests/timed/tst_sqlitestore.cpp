@@ -43,16 +43,21 @@ void tst_SqliteStore::everythingOutlivesTheStore()
 {
     const AlarmEvent full = stored(7);
     const AlarmEvent plain(8, {});
-    QVERIFY(open()->commit({{full, plain}, {}, {{Now, 7, "due", "0 ms late"}}}));
+    AlarmEvent passedOver = stored(9);
+    passedOver.snooze(Now + 1, Now);
+    passedOver.waitOverSnooze(Now + 2, Now + 3);
+    QVERIFY(open()->commit({{full, plain, passedOver}, {}, {{Now, 7, "due", "0 ms late"}}}));
 
     const auto store = open();
     const auto events = store->events();
-    QCOMPARE(events.size(), 2);
+    QCOMPARE(events.size(), 3);
     QCOMPARE(events[0].cookie(), 7u);
     QVERIFY(events[0].wire() == full.wire());
     QVERIFY(events[0].standing() == full.standing());
     QVERIFY(events[1].wire() == plain.wire());
     QVERIFY(events[1].standing() == plain.standing());
+    QVERIFY(events[2].standing() == passedOver.standing());
+    QCOMPARE(events[2].standing().passedOver, std::optional(Snooze{Now, Now + 1}));
     QCOMPARE(store->journal(0), (QList<Wire::JournalEntry>{{Now, 7, "due", "0 ms late"}}));
 }
 
