@@ -185,6 +185,15 @@ class Phone:
     def press(self, x, y):
         self.run("xdotool", "mousemove", str(x), str(y), "click", "1")
 
+    def drag(self, start, end):
+        """A finger from one place to another."""
+        way = [(round(start[0] + (end[0] - start[0]) * step / 4), round(start[1] + (end[1] - start[1]) * step / 4))
+               for step in range(5)]
+        command = ["xdotool", "mousemove", *map(str, way[0]), "mousedown", "1"]
+        for x, y in way[1:]:
+            command += ["mousemove", str(x), str(y), "sleep", "0.02"]
+        self.run(*command, "mouseup", "1")
+
     def screenshot(self, name):
         folder = self.build / "screenshots"
         folder.mkdir(exist_ok=True)

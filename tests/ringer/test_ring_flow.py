@@ -20,9 +20,9 @@ import phone
 
 BUILD = sys.argv.pop(1)
 
-# Where the buttons of the ring screen are on a display of 480 × 854.
-SNOOZE = (240, 610)
-STOP = (240, 778)
+# Where the buttons of the ring screen are on a display of 480 × 854, and the way of the knob that stops.
+SNOOZE = (240, 566)
+STOP = (60, 790), (420, 790)
 
 
 class RingFlow(unittest.TestCase):
@@ -41,16 +41,19 @@ class RingFlow(unittest.TestCase):
     def wait_for_state(self, cookie, state, seconds=5):
         phone.wait_for(lambda: self.state(cookie) == state, seconds, f"event {cookie} is {state}")
 
-    def answer_next(self, place, cookie, state):
-        """Answers an alarm that has just come up behind another one: for a moment it takes no press."""
-        self.phone.press(*place)
-        self.assertEqual(self.state(cookie), "TRIGGERED", "the second press of a double one is not for it")
-
+    def answer(self, how, cookie, state):
+        """Answers until it is taken: for a moment after an alarm came up, it takes no answer."""
         def is_answered():
-            self.phone.press(*place)
+            how()
             return self.state(cookie) == state
 
         phone.wait_for(is_answered, 5, f"event {cookie} is {state}")
+
+    def snooze(self, cookie):
+        self.answer(lambda: self.phone.press(*SNOOZE), cookie, "SNOOZED")
+
+    def stop(self, cookie):
+        self.answer(lambda: self.phone.drag(*STOP), cookie, "FINISHED")
 
     def wait_for_ring(self, due, seconds):
         """Until an alarm is seen and heard."""
@@ -84,9 +87,8 @@ class RingFlow(unittest.TestCase):
         self.wait_for_ring(due, 70)
         self.assertEqual([self.state(snoozed), self.state(stopped)], ["TRIGGERED", "TRIGGERED"])
         self.phone.screenshot("ring-dark.png")
-        self.phone.press(*SNOOZE)
-        self.wait_for_state(snoozed, "SNOOZED")
-        self.answer_next(STOP, stopped, "FINISHED")
+        self.snooze(snoozed)
+        self.stop(stopped)
         self.wait_for_silence()
 
         triggers = self.phone.triggers()
@@ -102,15 +104,13 @@ class RingFlow(unittest.TestCase):
         due = int(time.time()) + 2
         cookie = self.phone.add_event("Tea", due, snooze=3)
         self.wait_for_ring(due, 10)
-        self.phone.press(*SNOOZE)
-        self.wait_for_state(cookie, "SNOOZED")
+        self.snooze(cookie)
         self.wait_for_silence()
 
         again = self.phone.triggers()[cookie] / 1e9
         self.assertLess(again, time.time() + 3)
         self.wait_for_ring(again, 10)
-        self.phone.press(*STOP)
-        self.wait_for_state(cookie, "FINISHED")
+        self.stop(cookie)
         self.wait_for_silence()
         self.assertEqual(self.phone.triggers(), {})
         words = [what for what, _ in self.journal(cookie)]
@@ -125,12 +125,11 @@ class RingFlow(unittest.TestCase):
         self.wait_for_state(second, "TRIGGERED")
         phone.wait_for(lambda: ("rang" in dict(self.journal(second))), 5, "the second alarm is seen as well")
         self.phone.screenshot("ring-light-two-alarms.png")
-        self.phone.press(*STOP)
-        self.wait_for_state(first, "FINISHED")
+        self.stop(first)
         phone.wait_for(lambda: ("sounded" in dict(self.journal(second))), 5, "the second alarm is heard")
         self.assertEqual(self.state(second), "TRIGGERED")
         self.assertTrue(self.phone.ring_window())
-        self.answer_next(STOP, second, "FINISHED")
+        self.stop(second)
         self.wait_for_silence()
 
     def test_a_ringer_that_is_killed_rings_again(self):
@@ -141,8 +140,7 @@ class RingFlow(unittest.TestCase):
         self.phone.kill("com.astel.ringer")
         phone.wait_for(lambda: self.phone.bus.name_has_owner("com.astel.ringer"), 5, "another ringer")
         self.wait_for_ring(time.time(), 10)
-        self.phone.press(*STOP)
-        self.wait_for_state(cookie, "FINISHED")
+        self.stop(cookie)
         self.wait_for_silence()
 
     def test_a_silent_tone_gives_way_to_the_built_in_one(self):
@@ -171,8 +169,7 @@ class RingFlow(unittest.TestCase):
         due = int(time.time()) + 2
         cookie = self.phone.add_event("Wake up", due)
         self.wait_for_ring(due, 10)
-        self.phone.press(*STOP)
-        self.wait_for_state(cookie, "FINISHED")
+        self.stop(cookie)
         self.wait_for_silence()
         processes = [self.phone.process_of(name) for name in ("com.astel.timed", "com.astel.ringer")]
         self.phone.end_bus()

@@ -1,61 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "platform/ringer/ringplugin.h"
-#include "tests/support/places.h"
+#include "tests/ringer/ringscreen.h"
 
+#include <QAccessible>
 #include <QApplication>
-#include <QGraphicsItem>
-#include <QGraphicsView>
-#include <QGraphicsWidget>
-#include <QPluginLoader>
 #include <QTest>
 
-namespace {
-
-class RecordingAnswers : public Ringer::Answers
-{
-public:
-    QStringList calls;
-
-    void shown(quint32 cookie) override { calls += QStringLiteral("shown %1").arg(cookie); }
-    void snooze(quint32 cookie, int seconds) override
-    {
-        calls += QStringLiteral("snooze %1 %2").arg(cookie).arg(seconds);
-    }
-    void dismiss(quint32 cookie) override { calls += QStringLiteral("dismiss %1").arg(cookie); }
-};
-
-Ringer::Alarm teaTime(quint32 cookie, int snoozeSeconds = 600)
-{
-    return {cookie, QStringLiteral("Tea"), QDateTime::currentDateTimeUtc(), {}, snoozeSeconds};
-}
-
-QGraphicsView *window()
-{
-    for (auto *widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible())
-            return qobject_cast<QGraphicsView *>(widget);
-    }
-    return nullptr;
-}
-
-QGraphicsWidget *item(const QString &name)
-{
-    const auto items = window()->scene()->items();
-    for (auto *each : items) {
-        if (each->isWidget() && static_cast<QGraphicsWidget *>(each)->objectName() == name)
-            return static_cast<QGraphicsWidget *>(each);
-    }
-    return nullptr;
-}
-
-void click(const QString &name)
-{
-    const auto place = window()->mapFromScene(item(name)->sceneBoundingRect().center());
-    QTest::mouseClick(window()->viewport(), Qt::LeftButton, {}, place);
-}
-
-} // namespace
+using namespace RingScreen;
 
 class TestClockAlarm : public QObject
 {
@@ -70,11 +21,15 @@ private slots:
     void snoozeKeys_data();
     void snoozeKeys();
     void aHeldKeySnoozesOnce();
-    void stopIsReachedByTab();
     void closingTheWindowSnoozes();
     void withoutASnoozeOnlyStopEndsIt();
     void alarmsAreAnsweredInTheirOrder();
-    void theKeyThatStoppedOneSnoozesTheNext();
+    void anAlarmThatWaitsCanBeAnsweredFirst();
+    void theKeyThatSnoozedOneIsNotForTheNext();
+    void aScreenThatHasJustComeUpTakesNoAnswer();
+    void theSnoozeCanBeOfAnotherLength_data();
+    void theSnoozeCanBeOfAnotherLength();
+    void isAnAlertToAssistiveTechnology();
     void theButtonsAreLargeAndFarApart();
 
 private:
@@ -85,9 +40,9 @@ private:
 void TestClockAlarm::initTestCase()
 {
     qputenv("CLOCK_REDUCED_MOTION", "1");
-    QPluginLoader loader(Places::ringerPlugin("libclockalarm.so"));
-    m_plugin = qobject_cast<Ringer::RingPlugin *>(loader.instance());
-    QVERIFY2(m_plugin, qPrintable(loader.errorString()));
+    QString reason;
+    m_plugin = load(&reason);
+    QVERIFY2(m_plugin, qPrintable(reason));
     m_plugin->setAnswers(&m_answers);
 }
 
@@ -96,6 +51,7 @@ void TestClockAlarm::init()
     m_plugin->show(teaTime(1));
     QTRY_COMPARE(m_answers.calls, QStringList("shown 1"));
     QVERIFY(QTest::qWaitForWindowActive(window()));
+    QVERIFY(waitForAnswers());
     m_answers.calls.clear();
 }
 
@@ -118,7 +74,7 @@ void TestClockAlarm::saysWhenItIsSeen()
 void TestClockAlarm::theButtonsAnswer()
 {
     click("snooze");
-    click("stop");
+    slideToStop();
     QCOMPARE(m_answers.calls, QStringList({"snooze 1 600", "dismiss 1"}));
 }
 
@@ -131,6 +87,8 @@ void TestClockAlarm::snoozeKeys_data()
     QTest::newRow("volume down") << Qt::Key_VolumeDown;
     QTest::newRow("mute") << Qt::Key_VolumeMute;
     QTest::newRow("power") << Qt::Key_PowerOff;
+    QTest::newRow("headset") << Qt::Key_MediaTogglePlayPause;
+    QTest::newRow("return") << Qt::Key_Return;
 }
 
 void TestClockAlarm::snoozeKeys()
@@ -150,13 +108,6 @@ void TestClockAlarm::aHeldKeySnoozesOnce()
     QVERIFY(m_answers.calls.isEmpty());
 }
 
-void TestClockAlarm::stopIsReachedByTab()
-{
-    QTest::keyClick(window(), Qt::Key_Tab);
-    QTest::keyClick(window(), Qt::Key_Space);
-    QCOMPARE(m_answers.calls, QStringList("dismiss 1"));
-}
-
 void TestClockAlarm::closingTheWindowSnoozes()
 {
     QVERIFY(!window()->close());
@@ -172,7 +123,8 @@ void TestClockAlarm::withoutASnoozeOnlyStopEndsIt()
     QTest::keyClick(window(), Qt::Key_Escape);
     QTest::keyClick(window(), Qt::Key_VolumeDown);
     QCOMPARE(m_answers.calls, QStringList("shown 1"));
-    click("stop");
+    QVERIFY(!item("snooze5")->isVisible());
+    slideToStop();
     QCOMPARE(m_answers.calls.last(), QString("dismiss 1"));
 }
 
@@ -180,24 +132,94 @@ void TestClockAlarm::alarmsAreAnsweredInTheirOrder()
 {
     m_plugin->show(teaTime(2, 300));
     m_plugin->show(teaTime(3));
-    click("stop");
+    slideToStop();
     QCOMPARE(m_answers.calls.last(), QString("dismiss 1"));
     m_plugin->hide(1);
+    QVERIFY(waitForAnswers());
     click("snooze");
     QCOMPARE(m_answers.calls.last(), QString("snooze 2 300"));
     m_plugin->hide(2);
-    click("stop");
+    QVERIFY(waitForAnswers());
+    slideToStop();
     QCOMPARE(m_answers.calls.last(), QString("dismiss 3"));
 }
 
-void TestClockAlarm::theKeyThatStoppedOneSnoozesTheNext()
+void TestClockAlarm::anAlarmThatWaitsCanBeAnsweredFirst()
 {
     m_plugin->show(teaTime(2));
-    QTest::keyClick(window(), Qt::Key_Tab);
-    QTest::keyClick(window(), Qt::Key_Space);
+    m_plugin->show(teaTime(3));
+    QTRY_VERIFY(m_answers.calls.contains("shown 3"));
+    click("waiting0");
+    QVERIFY(waitForAnswers());
+    slideToStop();
+    QCOMPARE(m_answers.calls.last(), QString("dismiss 2"));
+    m_plugin->hide(2);
+    QVERIFY(waitForAnswers());
+    click("snooze");
+    QCOMPARE(m_answers.calls.last(), QString("snooze 1 600"));
+}
+
+void TestClockAlarm::theKeyThatSnoozedOneIsNotForTheNext()
+{
+    m_plugin->show(teaTime(2));
+    QTRY_VERIFY(m_answers.calls.contains("shown 2"));
+    QTest::keyClick(window(), Qt::Key_VolumeDown);
+    QCOMPARE(m_answers.calls.last(), QString("snooze 1 600"));
     m_plugin->hide(1);
+    QTest::keyClick(window(), Qt::Key_VolumeDown);
+    QTest::keyClick(window(), Qt::Key_Space);
+    click("snooze");
+    slideToStop();
+    QCOMPARE(m_answers.calls.last(), QString("snooze 1 600"));
+    QVERIFY(waitForAnswers());
     QTest::keyClick(window(), Qt::Key_Space);
     QCOMPARE(m_answers.calls.last(), QString("snooze 2 600"));
+}
+
+void TestClockAlarm::aScreenThatHasJustComeUpTakesNoAnswer()
+{
+    m_plugin->hide(1);
+    QTRY_VERIFY(!window());
+    m_plugin->show(teaTime(2));
+    QVERIFY(window());
+    click("snooze");
+    QTest::keyClick(window(), Qt::Key_VolumeDown);
+    QTest::keyClick(window(), Qt::Key_Return);
+    QTRY_COMPARE(m_answers.calls, QStringList("shown 2"));
+    QVERIFY(waitForAnswers());
+    click("snooze");
+    QCOMPARE(m_answers.calls.last(), QString("snooze 2 600"));
+}
+
+void TestClockAlarm::theSnoozeCanBeOfAnotherLength_data()
+{
+    QTest::addColumn<int>("minutes");
+    for (const auto minutes : {5, 10, 15, 20, 30})
+        QTest::addRow("%d minutes", minutes) << minutes;
+}
+
+void TestClockAlarm::theSnoozeCanBeOfAnotherLength()
+{
+    QFETCH(int, minutes);
+    click(QStringLiteral("snooze%1").arg(minutes));
+    QCOMPARE(m_answers.calls, QStringList(QStringLiteral("snooze 1 %1").arg(60 * minutes)));
+}
+
+void TestClockAlarm::isAnAlertToAssistiveTechnology()
+{
+    auto *page = item("snooze")->parentItem();
+    while (page && (!page->isWidget() || !page->toGraphicsObject()->inherits("RingPage")))
+        page = page->parentItem();
+    QVERIFY(page);
+    auto *alert = QAccessible::queryAccessibleInterface(page->toGraphicsObject());
+    QVERIFY(alert);
+    QCOMPARE(alert->role(), QAccessible::AlertMessage);
+    QVERIFY2(alert->text(QAccessible::Name).endsWith(", Tea"), qPrintable(alert->text(QAccessible::Name)));
+
+    auto *stop = QAccessible::queryAccessibleInterface(item("stop"));
+    QCOMPARE(stop->role(), QAccessible::Button);
+    stop->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(m_answers.calls, QStringList("dismiss 1"));
 }
 
 void TestClockAlarm::theButtonsAreLargeAndFarApart()

@@ -72,6 +72,15 @@ void ClockAlarmPlugin::refresh()
     m_window->setAlarms(m_alarms);
 }
 
+void ClockAlarmPlugin::bringToFront(quint32 cookie)
+{
+    const auto chosen = std::find_if(m_alarms.begin(), m_alarms.end(), withCookie(cookie));
+    if (chosen == m_alarms.end())
+        return;
+    std::rotate(m_alarms.begin(), chosen, std::next(chosen));
+    refresh();
+}
+
 void ClockAlarmPlugin::openWindow()
 {
     Theme::instance().followDesktop();
@@ -80,6 +89,7 @@ void ClockAlarmPlugin::openWindow()
     connect(m_window, &RingWindow::snoozePressed, this,
             [this](quint32 cookie, int seconds) { m_answers->snooze(cookie, seconds); });
     connect(m_window, &RingWindow::stopPressed, this, [this](quint32 cookie) { m_answers->dismiss(cookie); });
+    connect(m_window, &RingWindow::frontChosen, this, &ClockAlarmPlugin::bringToFront);
     // Where no window manager runs, full screen is only a wish.
     m_window->setGeometry(m_window->screen()->geometry());
     m_window->showFullScreen();

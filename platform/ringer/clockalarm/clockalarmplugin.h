@@ -31,6 +31,7 @@ public:
 
 private:
     void refresh();
+    void bringToFront(quint32 cookie);
     void openWindow();
     void closeWindow();
     void reportShown();

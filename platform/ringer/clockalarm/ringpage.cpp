@@ -3,6 +3,10 @@
 #include "platform/ringer/clockalarm/ringpage.h"
 
 #include "platform/locale/locale.h"
+#include "platform/ringer/clockalarm/ringtexts.h"
+#include "platform/ringer/clockalarm/snoozechoice.h"
+#include "platform/ringer/clockalarm/stopcontrol.h"
+#include "platform/ringer/clockalarm/waitingstack.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/label.h"
 #include "platform/toolkit/layout.h"
@@ -20,8 +24,7 @@ using Touch::Locale;
 
 namespace {
 
-// A title may be 4096 characters long; this much is seen, the rest is not needed to know it.
-constexpr auto TitleLength = 90;
+constexpr auto AnswerSpacing = 12;
 
 Label *createLabel(const char *styleName)
 {
@@ -31,45 +34,18 @@ Label *createLabel(const char *styleName)
     return label;
 }
 
-Touch::Widget *createColumn(std::initializer_list<Touch::Widget *> items, Qt::Alignment alignment)
+Touch::Widget *createColumn(std::initializer_list<Touch::Widget *> items, Qt::Alignment alignment, qreal spacing)
 {
     auto *widget = new Touch::StylableWidget;
     widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     auto *column = new Touch::LinearLayoutPolicy(new Touch::Layout(widget), Qt::Vertical);
+    column->setSpacing(spacing);
     column->addStretch();
     for (auto *item : items)
         column->addItem(item, Qt::AlignHCenter);
     if (alignment == Qt::AlignVCenter)
         column->addStretch();
     return widget;
-}
-
-QString titleOf(const Alarm &alarm)
-{
-    const auto title = alarm.title.simplified();
-    if (title.isEmpty()) {
-        //% "Alarm"
-        return qtTrId("qtn_ring_untitled");
-    }
-    return title.size() > TitleLength ? title.left(TitleLength) + QStringLiteral("…") : title;
-}
-
-QString snoozeText(int seconds)
-{
-    if (seconds < 60) {
-        //% "Snooze"
-        return qtTrId("qtn_ring_snooze_plain");
-    }
-    //% "Snooze · %n min"
-    return qtTrId("qtn_ring_snooze", seconds / 60);
-}
-
-// The time without its half of the day, which stands by itself in smaller letters.
-QString bigTime(const QDateTime &now)
-{
-    auto pattern = Locale::getDefault().icuFormatString(Locale::DateNone, Locale::TimeShort);
-    pattern.remove(QLatin1Char('a'));
-    return Locale::getDefault().formatDateTimeICU(now, pattern.trimmed());
 }
 
 } // namespace
@@ -88,9 +64,38 @@ void RingPage::setAlarms(const QList<Alarm> &alarms)
     const auto isNewFront = m_alarms.isEmpty() || m_alarms.constFirst().cookie != alarms.constFirst().cookie;
     m_alarms = alarms;
     refresh();
-    // The key that answered the last alarm must not stop this one as well.
-    if (isNewFront && isContentCreated())
-        m_snooze->setFocus();
+    if (!isNewFront)
+        return;
+    announce();
+    if (!isContentCreated())
+        return;
+    // What answered the last alarm must not stop this one as well.
+    m_stop->reset();
+    m_snooze->setFocus();
+}
+
+void RingPage::setStopGesture(StopGesture gesture)
+{
+    m_gesture = gesture;
+    if (m_stop)
+        m_stop->setGesture(gesture);
+}
+
+QAccessible::Role RingPage::accessibleRole() const
+{
+    return QAccessible::AlertMessage;
+}
+
+void RingPage::announce()
+{
+    if (m_alarms.isEmpty())
+        return;
+    const auto &front = m_alarms.constFirst();
+    setAccessibleName(RingTexts::due(front) + QStringLiteral(", ") + RingTexts::title(front));
+    if (!isOnDisplay())
+        return;
+    QAccessibleEvent event(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 void RingPage::createContent()
@@ -102,14 +107,17 @@ void RingPage::createContent()
     m_half = createLabel("RingHalf");
     m_alarmTitle = createLabel("RingTitle");
     m_alarmTitle->setWordWrap(true);
-    m_waiting = createLabel("RingWaiting");
-    m_next = createLabel("RingNext");
+    m_waiting = new WaitingStack;
+    connect(m_waiting, &WaitingStack::chosen, this, &RingPage::waitingChosen);
     m_snooze = new Button;
     m_snooze->setObjectName(QStringLiteral("snooze"));
-    m_stop = new Button;
+    connect(m_snooze, &Button::clicked, this, [this] { emit snoozePressed(m_alarms.constFirst().snoozeSeconds); });
+    m_choice = new SnoozeChoice;
+    connect(m_choice, &SnoozeChoice::chosen, this, &RingPage::snoozePressed);
+    m_stop = new StopControl;
     m_stop->setObjectName(QStringLiteral("stop"));
-    connect(m_snooze, &Button::clicked, this, &RingPage::snoozePressed);
-    connect(m_stop, &Button::clicked, this, &RingPage::stopPressed);
+    m_stop->setGesture(m_gesture);
+    connect(m_stop, &StopControl::stopped, this, &RingPage::stopPressed);
     applyStyles();
     arrangeContent();
     refresh();
@@ -118,16 +126,18 @@ void RingPage::createContent()
 // The moment above the answers, or beside them on a wide screen.
 void RingPage::arrangeContent()
 {
+    // As large as the page, whatever was wanted on a larger screen before.
+    centralWidget()->setMinimumSize(0, 0);
     auto *layout = new Touch::Layout(centralWidget());
-    auto *moment = createColumn({m_date, m_time, m_half, m_alarmTitle}, Qt::AlignVCenter);
-    auto *answers = createColumn({m_waiting, m_next, m_snooze, m_stop}, Qt::AlignBottom);
+    auto *moment = createColumn({m_date, m_time, m_half, m_alarmTitle}, Qt::AlignVCenter, 0);
+    auto *answers = createColumn({m_waiting, m_snooze, m_choice, m_stop}, Qt::AlignBottom, AnswerSpacing);
     auto *portrait = new Touch::LinearLayoutPolicy(layout, Qt::Vertical);
     layout->setPortraitPolicy(portrait);
     auto *landscape = new Touch::LinearLayoutPolicy(layout, Qt::Horizontal);
     layout->setLandscapePolicy(landscape);
     for (auto *policy : {portrait, landscape}) {
-        policy->setContentsMargins(24, 24, 24, 36);
-        policy->setSpacing(24);
+        policy->setContentsMargins(24, 16, 24, 28);
+        policy->setSpacing(16);
         policy->addItem(moment);
         policy->addItem(answers);
     }
@@ -136,8 +146,8 @@ void RingPage::arrangeContent()
 // A small screen gets smaller letters, never fewer of them.
 void RingPage::resizeEvent(QGraphicsSceneResizeEvent *event)
 {
-    ApplicationPage::resizeEvent(event);
     applyStyles();
+    ApplicationPage::resizeEvent(event);
 }
 
 void RingPage::applyStyles()
@@ -146,7 +156,9 @@ void RingPage::applyStyles()
         return;
     const auto shortSide = std::min(size().width(), size().height());
     const auto longSide = std::max(size().width(), size().height());
-    const auto suffix = QLatin1String(shortSide < 400 || longSide < 720 ? "Compact" : "");
+    const auto isCompact = shortSide < 400 || longSide < 720 || size().height() < 560;
+    const auto suffix = QLatin1String(isCompact ? "Compact" : "");
+    m_waiting->setRoom(size().height() < 720 ? 1 : 2);
     m_time->setStyleName(QLatin1String("RingTime") + suffix);
     m_alarmTitle->setStyleName(QLatin1String("RingTitle") + suffix);
     m_snooze->setStyleName(QLatin1String("RingSnooze") + suffix);
@@ -171,6 +183,7 @@ void RingPage::enterDisplay()
     ApplicationPage::enterDisplay();
     m_snooze->setFocus();
     refreshTime();
+    announce();
 }
 
 void RingPage::exitDisplay()
@@ -191,38 +204,23 @@ void RingPage::refresh()
     if (!isContentCreated() || m_alarms.isEmpty())
         return;
     const auto &front = m_alarms.constFirst();
-    m_alarmTitle->setText(titleOf(front));
-    m_snooze->setText(snoozeText(front.snoozeSeconds));
+    m_alarmTitle->setText(RingTexts::title(front));
+    m_snooze->setText(RingTexts::snooze(front.snoozeSeconds));
     m_snooze->setVisible(front.snoozeSeconds > 0);
-    //% "Stop"
-    m_stop->setText(qtTrId("qtn_ring_stop"));
-    refreshWaiting();
+    m_choice->refresh();
+    m_choice->setVisible(front.snoozeSeconds > 0);
+    m_waiting->setAlarms(m_alarms.mid(1));
     refreshTime();
 }
 
 void RingPage::refreshTime()
 {
     const auto now = QDateTime::currentDateTime();
-    const auto &locale = Locale::getDefault();
     if (isContentCreated()) {
-        m_date->setText(locale.formatDateTime(now, Locale::DateFull, Locale::TimeNone));
-        m_time->setText(bigTime(now));
-        m_half->setText(locale.isTwelveHour() ? locale.formatDateTime(now, QStringLiteral("%p")) : QString());
+        m_date->setText(Locale::getDefault().formatDateTime(now, Locale::DateFull, Locale::TimeNone));
+        m_time->setText(RingTexts::bigTime(now));
+        m_half->setText(RingTexts::halfOfDay(now));
     }
     if (isOnDisplay())
         m_minute.start(60'000 - now.time().msecsSinceStartOfDay() % 60'000);
-}
-
-void RingPage::refreshWaiting()
-{
-    const auto count = int(m_alarms.size()) - 1;
-    m_waiting->setVisible(count > 0);
-    m_next->setVisible(count > 0);
-    if (count == 0)
-        return;
-    const auto &next = m_alarms.at(1);
-    const auto time = Locale::getDefault().formatDateTime(next.due.toLocalTime(), Locale::DateNone, Locale::TimeShort);
-    //% "%n more alarm(s)"
-    m_waiting->setText(qtTrId("qtn_ring_more", count));
-    m_next->setText(time + QStringLiteral(" · ") + titleOf(next));
 }

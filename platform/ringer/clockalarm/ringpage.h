@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "platform/ringer/clockalarm/ringsettings.h"
 #include "platform/ringer/ringplugin.h"
 #include "platform/toolkit/applicationpage.h"
 
@@ -12,6 +13,9 @@ namespace Touch {
 class Button;
 class Label;
 } // namespace Touch
+class SnoozeChoice;
+class StopControl;
+class WaitingStack;
 
 /**
  * What is seen of ringing alarms: the time now, the title of the one in front, Snooze and, well away from it, Stop; and
@@ -24,13 +28,18 @@ class RingPage : public Touch::ApplicationPage
 public:
     explicit RingPage(QGraphicsItem *parent = nullptr);
 
+    /** The first is in front; never empty. */
     void setAlarms(const QList<Ringer::Alarm> &alarms);
+    void setStopGesture(StopGesture gesture);
+
+    QAccessible::Role accessibleRole() const override;
     void createContent() override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 signals:
-    void snoozePressed();
+    void snoozePressed(int seconds);
     void stopPressed();
+    void waitingChosen(quint32 cookie);
 
 protected:
     void enterDisplay() override;
@@ -43,16 +52,17 @@ private:
     void arrangeContent();
     void refresh();
     void refreshTime();
-    void refreshWaiting();
+    void announce();
 
     QList<Ringer::Alarm> m_alarms;
+    StopGesture m_gesture = StopGesture::Slide;
     QTimer m_minute;
     Touch::Label *m_date = nullptr;
     Touch::Label *m_time = nullptr;
     Touch::Label *m_half = nullptr;
     Touch::Label *m_alarmTitle = nullptr;
-    Touch::Label *m_waiting = nullptr; ///< how many wait
-    Touch::Label *m_next = nullptr;    ///< which comes next
+    WaitingStack *m_waiting = nullptr;
     Touch::Button *m_snooze = nullptr;
-    Touch::Button *m_stop = nullptr;
+    SnoozeChoice *m_choice = nullptr;
+    StopControl *m_stop = nullptr;
 };

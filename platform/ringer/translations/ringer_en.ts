@@ -15,6 +15,14 @@
         <source>Stop</source>
         <translation>Stop</translation>
     </message>
+    <message id="qtn_ring_slide_to_stop">
+        <source>Slide to stop</source>
+        <translation>Slide to stop</translation>
+    </message>
+    <message id="qtn_ring_hold_to_stop">
+        <source>Hold to stop</source>
+        <translation>Hold to stop</translation>
+    </message>
     <message id="qtn_ring_untitled">
         <source>Alarm</source>
         <translation>Alarm</translation>
