@@ -7,6 +7,7 @@
 #include "platform/toolkit/label.h"
 #include "platform/toolkit/scenewindow.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QGraphicsObject>
@@ -15,6 +16,8 @@
 #include <QProcess>
 #include <QScreen>
 #include <QTest>
+
+#include <functional>
 
 namespace Flow {
 
@@ -60,6 +63,17 @@ bool waitForRest()
     });
 }
 
+QGraphicsObject *topmostItem(const std::function<bool(const QGraphicsObject *)> &isWanted)
+{
+    const auto items = frontWindow()->scene()->items();
+    for (QGraphicsItem *item : items) {
+        QGraphicsObject *object = item->toGraphicsObject();
+        if (object && object->isVisible() && isWanted(object))
+            return object;
+    }
+    return nullptr;
+}
+
 QStringList moveTo(const QPoint &point)
 {
     return QStringList("mousemove") + position(point);
@@ -96,28 +110,42 @@ void press(const QString &key)
     xdotool({"key", key});
 }
 
+Touch::Window *frontWindow()
+{
+    const auto widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        auto *window = qobject_cast<Touch::ApplicationWindow *>(widget);
+        if (window && window->isVisible() && window->chainedTo())
+            return window;
+    }
+    return applicationWindow;
+}
+
 QPoint pointOf(const QGraphicsObject *item, double across, double down)
 {
     const QRectF rect = item->boundingRect();
     const QPointF inItem = rect.topLeft() + QPointF(rect.width() * across, rect.height() * down);
-    return applicationWindow->viewport()->mapToGlobal(applicationWindow->mapFromScene(item->mapToScene(inItem)));
+    const Touch::Window *window = frontWindow();
+    return window->viewport()->mapToGlobal(window->mapFromScene(item->mapToScene(inItem)));
 }
 
 QGraphicsObject *itemNamed(const QString &objectName)
 {
-    const auto items = applicationWindow->scene()->items();
-    for (QGraphicsItem *item : items) {
-        QGraphicsObject *object = item->toGraphicsObject();
-        if (object && object->isVisible() && object->objectName() == objectName)
-            return object;
-    }
-    return nullptr;
+    return topmostItem([&](const QGraphicsObject *object) { return object->objectName() == objectName; });
+}
+
+QGraphicsObject *itemSaying(const QString &start)
+{
+    return topmostItem([&](const QGraphicsObject *object) {
+        const auto *widget = qobject_cast<const Touch::Widget *>(object);
+        return widget && widget->accessibleName().startsWith(start) && !qobject_cast<const Touch::Label *>(object);
+    });
 }
 
 QStringList visibleTexts()
 {
     QStringList texts;
-    const auto items = applicationWindow->scene()->items();
+    const auto items = frontWindow()->scene()->items();
     for (QGraphicsItem *item : items) {
         const auto *label = qobject_cast<Touch::Label *>(item->toGraphicsObject());
         if (label && label->isVisible())
@@ -128,7 +156,7 @@ QStringList visibleTexts()
 
 bool isMoving()
 {
-    const auto sceneWindows = applicationWindow->sceneWindows();
+    const auto sceneWindows = frontWindow()->sceneWindows();
     for (const Touch::SceneWindow *sceneWindow : sceneWindows) {
         if (sceneWindow->isInTransition())
             return true;

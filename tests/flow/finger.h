@@ -7,6 +7,10 @@
 
 class QGraphicsObject;
 
+namespace Touch {
+class Window;
+}
+
 /** What a user does and sees on the screen of the running program. */
 namespace Flow {
 
@@ -17,10 +21,14 @@ void drag(const QPoint &from, const QPoint &to);
 void type(const QString &text);
 void press(const QString &key);
 
-/** A point of an item on the screen, given as parts of its width and height from the top left corner. */
+/** The window in front: one that is chained to the application's, or that itself. */
+Touch::Window *frontWindow();
+/** A point of an item of the front window on the screen, given as parts of its width and height from the top left corner. */
 QPoint pointOf(const QGraphicsObject *item, double across = 0.5, double down = 0.5);
 /** The topmost item of this object name that is visible and stands still, or null. */
 QGraphicsObject *itemNamed(const QString &objectName);
+/** The topmost visible one that is read out by a name that starts so, or null. */
+QGraphicsObject *itemSaying(const QString &start);
 /** The texts of all visible labels. */
 QStringList visibleTexts();
 /** Whether a page, sheet or banner is just coming or going. */
