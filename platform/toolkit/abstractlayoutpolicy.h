@@ -33,6 +33,8 @@ public:
     qreal spacing() const;
 
     virtual bool contains(const QGraphicsLayoutItem *item) const = 0;
+    /** What it holds, in the order in which it is read. */
+    virtual QList<QGraphicsLayoutItem *> items() const = 0;
     /** Forgets an item; nothing happens if it is not held. */
     virtual void removeItem(const QGraphicsLayoutItem *item) = 0;
     /** The size of everything, without margins; a width of 0 or more is the width it will get. */

@@ -4,7 +4,6 @@
 
 #include "platform/toolkit/list.h"
 
-#include <algorithm>
 #include <QAbstractItemModel>
 
 namespace Touch {
@@ -20,35 +19,11 @@ List *AccessibleList::rows() const
     return static_cast<List *>(object());
 }
 
-QList<Widget *> AccessibleList::cells() const
-{
-    // Cells are used again, so that their own order is any.
-    QList<Widget *> found = accessibleChildren(rows());
-    std::sort(found.begin(), found.end(), [](const Widget *a, const Widget *b) { return a->y() < b->y(); });
-    return found;
-}
-
 void *AccessibleList::interface_cast(QAccessible::InterfaceType type)
 {
     if (type == QAccessible::TableInterface)
         return static_cast<QAccessibleTableInterface *>(this);
     return AccessibleWidget::interface_cast(type);
-}
-
-int AccessibleList::childCount() const
-{
-    return int(cells().size());
-}
-
-QAccessibleInterface *AccessibleList::child(int index) const
-{
-    Widget *found = cells().value(index);
-    return found ? accessibleOf(found) : nullptr;
-}
-
-int AccessibleList::indexOfChild(const QAccessibleInterface *child) const
-{
-    return int(cells().indexOf(accessibleWidgetOf(child)));
 }
 
 int AccessibleList::rowCount() const

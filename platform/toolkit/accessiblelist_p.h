@@ -14,9 +14,6 @@ public:
     ~AccessibleList() override;
 
     void *interface_cast(QAccessible::InterfaceType type) override;
-    int childCount() const override;
-    QAccessibleInterface *child(int index) const override;
-    int indexOfChild(const QAccessibleInterface *child) const override;
 
     int rowCount() const override;
     int columnCount() const override;
@@ -44,7 +41,6 @@ public:
 
 private:
     List *rows() const;
-    QList<Widget *> cells() const;
 };
 
 } // namespace Touch

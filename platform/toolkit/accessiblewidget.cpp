@@ -4,6 +4,7 @@
 
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/list.h"
+#include "platform/toolkit/taborder_p.h"
 #include "platform/toolkit/textedit.h"
 #include "platform/toolkit/window.h"
 
@@ -18,7 +19,7 @@ namespace Touch {
 QList<Widget *> accessibleChildren(const QGraphicsItem *item)
 {
     QList<Widget *> found;
-    const QList<QGraphicsItem *> children = item->childItems();
+    const QList<QGraphicsItem *> children = inReadingOrder(item);
     for (QGraphicsItem *child : children) {
         if (!child->isVisible())
             continue;

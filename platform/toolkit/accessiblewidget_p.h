@@ -12,7 +12,8 @@ namespace Touch {
 class List;
 class Widget;
 
-/** The widgets below an item that can be seen, without the plain items in between; rows in their order. */
+/** The widgets below an item that can be seen, without the plain items in between, in the order in
+ * which they are read. */
 QList<Widget *> accessibleChildren(const QGraphicsItem *item);
 /** What stands for a widget; for a text field its line edit, which itself tells of what is typed. May be null. */
 QAccessibleInterface *accessibleOf(Widget *widget);

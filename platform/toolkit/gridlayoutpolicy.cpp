@@ -60,6 +60,18 @@ bool GridLayoutPolicy::contains(const QGraphicsLayoutItem *item) const
     return std::any_of(m_entries.begin(), m_entries.end(), [item](const Entry &e) { return e.item == item; });
 }
 
+QList<QGraphicsLayoutItem *> GridLayoutPolicy::items() const
+{
+    QList<Entry> entries = m_entries;
+    std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
+        return std::pair(a.rows.first, a.columns.first) < std::pair(b.rows.first, b.columns.first);
+    });
+    QList<QGraphicsLayoutItem *> held;
+    for (const Entry &entry : std::as_const(entries))
+        held.append(entry.item);
+    return held;
+}
+
 void GridLayoutPolicy::removeItem(const QGraphicsLayoutItem *item)
 {
     m_entries.removeIf([item](const Entry &entry) { return entry.item == item; });

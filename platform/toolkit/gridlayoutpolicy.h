@@ -24,6 +24,7 @@ public:
     void setColumnStretchFactor(int column, int stretch);
 
     bool contains(const QGraphicsLayoutItem *item) const override;
+    QList<QGraphicsLayoutItem *> items() const override;
     void removeItem(const QGraphicsLayoutItem *item) override;
     QSizeF contentSize(Qt::SizeHint which, qreal width) const override;
     bool hasHeightForWidth() const override;

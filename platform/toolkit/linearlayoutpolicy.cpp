@@ -59,6 +59,16 @@ bool LinearLayoutPolicy::contains(const QGraphicsLayoutItem *item) const
     return std::any_of(m_entries.begin(), m_entries.end(), [item](const Entry &e) { return e.item == item; });
 }
 
+QList<QGraphicsLayoutItem *> LinearLayoutPolicy::items() const
+{
+    QList<QGraphicsLayoutItem *> held;
+    for (const Entry &entry : m_entries) {
+        if (entry.item)
+            held.append(entry.item);
+    }
+    return held;
+}
+
 void LinearLayoutPolicy::removeItem(const QGraphicsLayoutItem *item)
 {
     m_entries.removeIf([item](const Entry &entry) { return entry.item == item; });

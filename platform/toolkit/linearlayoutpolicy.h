@@ -26,6 +26,7 @@ public:
     QGraphicsLayoutItem *itemAt(int index) const { return m_entries[index].item; }
 
     bool contains(const QGraphicsLayoutItem *item) const override;
+    QList<QGraphicsLayoutItem *> items() const override;
     void removeItem(const QGraphicsLayoutItem *item) override;
     QSizeF contentSize(Qt::SizeHint which, qreal width) const override;
     bool hasHeightForWidth() const override;

@@ -9,7 +9,6 @@
 #include "platform/toolkit/pannableviewport.h"
 
 #include <QGraphicsScene>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 #include <QVariantAnimation>
@@ -29,6 +28,8 @@ List::List(QGraphicsItem *parent)
 {
     setFlag(ItemSendsScenePositionChanges);
     setFlag(ItemUsesExtendedStyleOption);
+    // It holds the focus for a row that cannot be seen for the moment.
+    setFlag(ItemIsFocusable);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
 }
 
@@ -107,6 +108,7 @@ void List::rebuild()
 {
     finishAnimation();
     // From the last to the first: the recycler gives them out in the order of the rows again.
+    rememberFocus();
     for (auto it = m_cells.end(); it != m_cells.begin();)
         giveBack(*--it);
     m_cells.clear();
@@ -121,6 +123,7 @@ void List::rebuild()
 // Its menu was opened on a row that the cell no longer stands for.
 void List::giveBack(Widget *cell)
 {
+    keepFocusOf(cell);
     ObjectMenu::closeFor(cell);
     m_recycler.recycle(cell);
 }
@@ -141,6 +144,8 @@ void List::rowsInserted(int first, int last)
 {
     finishAnimation();
     const int count = last - first + 1;
+    rememberFocus();
+    shiftFocus(first, count);
     rekey(first, count);
     m_rows.setCount(m_model->rowCount());
     if (isChangeAnimated(first, last))
@@ -152,6 +157,8 @@ void List::rowsInserted(int first, int last)
 void List::rowsRemoved(int first, int last)
 {
     finishAnimation();
+    rememberFocus();
+    shiftFocus(first, first - last - 1);
     Widget *leaving = isChangeAnimated(first, last) ? m_cells.take(first) : nullptr;
     for (int row = last; row >= first; --row) {
         if (Widget *cell = m_cells.take(row))
@@ -160,6 +167,8 @@ void List::rowsRemoved(int first, int last)
     }
     rekey(first, first - last - 1);
     m_rows.setCount(m_model->rowCount());
+    if (leaving)
+        keepFocusOf(leaving);
     if (leaving)
         animateFrom(first, m_rows.rowHeight(), leaving, false);
     updateGeometry();
@@ -258,6 +267,7 @@ void List::updateCells()
     const int first = isEmpty ? 0 : qMax(0, m_rows.rowAt(seen.top()) - spareRows);
     const int last = isEmpty ? -1 : qMin(m_rows.count() - 1, m_rows.rowAt(seen.bottom()) + spareRows);
     const QList<int> rows = m_cells.keys();
+    rememberFocus();
     for (auto row = rows.crbegin(); row != rows.crend(); ++row) {
         if (*row < first || *row > last)
             giveBack(m_cells.take(*row));
@@ -272,6 +282,7 @@ void List::updateCells()
     }
     m_outdated.clear();
     m_recycler.hideAll();
+    giveFocusBack();
     if (m_change.shift == 0)
         return;
     if (m_change.appears)
@@ -326,33 +337,6 @@ void List::resizeEvent(QGraphicsSceneResizeEvent *event)
 {
     Widget::resizeEvent(event);
     updateCells();
-}
-
-void List::keyPressEvent(QKeyEvent *event)
-{
-    const int step = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
-    const QGraphicsItem *cell = scene()->focusItem();
-    while (cell && cell->parentItem() != this)
-        cell = cell->parentItem();
-    const int row = rowOf(cell);
-    if (step == 0 || row < 0 || !focusRow(row + step))
-        Widget::keyPressEvent(event);
-}
-
-bool List::focusRow(int row)
-{
-    if (row < 0 || row >= m_rows.count())
-        return false;
-    auto *viewport = qobject_cast<PannableViewport *>(m_viewport.data());
-    if (viewport && viewport->widget()) {
-        const QRectF place(0, m_rows.top(row), size().width(), m_rows.rowHeight());
-        viewport->ensureVisible(mapRectToItem(viewport->widget(), place));
-    }
-    Widget *cell = cellAt(row);
-    if (!cell)
-        return false;
-    cell->setFocus(Qt::TabFocusReason);
-    return true;
 }
 
 void List::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)

@@ -61,6 +61,7 @@ protected:
     QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
     void resizeEvent(QGraphicsSceneResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void rowsInserted(int first, int last);
@@ -80,7 +81,16 @@ private:
     void updateCells();
     void placeCell(int row, Widget *cell);
     QRectF visibleRect();
+
+    /** The row that has the focus or something in it has; -1 if none has. */
+    int focusedRow() const;
+    int rowForKey(int key, int from) const;
     bool focusRow(int row);
+    void rememberFocus();
+    /** Follows rows that come, or go if the count is negative. */
+    void shiftFocus(int first, int count);
+    void keepFocusOf(Widget *cell);
+    void giveFocusBack();
 
     QPointer<QAbstractItemModel> m_model;
     std::unique_ptr<CellCreator> m_creator;
@@ -95,6 +105,7 @@ private:
     WidgetRecycler m_recycler;
     bool m_isUpdateScheduled = false;
     QPointer<QGraphicsWidget> m_viewport;
+    int m_focusedRow = -1; ///< has the focus again when it can be seen
 
     // The change that is being animated
     struct Change

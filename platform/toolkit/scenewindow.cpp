@@ -3,8 +3,10 @@
 #include "platform/toolkit/scenewindow.h"
 
 #include "platform/toolkit/motion_p.h"
+#include "platform/toolkit/taborder_p.h"
 #include "platform/toolkit/window.h"
 
+#include <algorithm>
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
 #include <QGraphicsSceneWheelEvent>
@@ -18,22 +20,6 @@ Q_LOGGING_CATEGORY(lcSceneWindow, "touch.scenewindow")
 namespace {
 
 constexpr int transitionTime = 220;
-
-/** What Tab stops at under an item, in the order in which it was made. */
-void collectTabStops(const QGraphicsItem *item, QList<QGraphicsWidget *> *stops)
-{
-    const QList<QGraphicsItem *> children = item->childItems();
-    for (QGraphicsItem *child : children) {
-        if (!child->isVisible() || !child->isEnabled())
-            continue;
-        if (child->isWidget()) {
-            auto *widget = static_cast<QGraphicsWidget *>(child);
-            if (widget->flags().testFlag(QGraphicsItem::ItemIsFocusable) && widget->focusPolicy() & Qt::TabFocus)
-                stops->append(widget);
-        }
-        collectTabStops(child, stops);
-    }
-}
 
 } // namespace
 
@@ -190,7 +176,9 @@ void SceneWindow::rememberFocus()
 
 void SceneWindow::recallFocus()
 {
-    QGraphicsItem *item = m_focusItem ? static_cast<QGraphicsItem *>(m_focusItem) : this;
+    const bool canHaveIt
+        = m_focusItem && isAncestorOf(m_focusItem) && m_focusItem->isVisible() && m_focusItem->isEnabled();
+    QGraphicsItem *item = canHaveIt ? static_cast<QGraphicsItem *>(m_focusItem) : this;
     item->setFocus(Qt::ActiveWindowFocusReason);
     m_focusItem.clear();
 }
@@ -227,15 +215,13 @@ void SceneWindow::mousePressEvent(QGraphicsSceneMouseEvent *event)
 
 bool SceneWindow::focusNextPrevChild(bool next)
 {
-    if (coversWindow())
-        return Widget::focusNextPrevChild(next);
-    QList<QGraphicsWidget *> stops;
-    collectTabStops(this, &stops);
+    const QList<QGraphicsWidget *> stops = tabStops(this);
     if (stops.isEmpty())
         return true;
-    const qsizetype now = stops.indexOf(static_cast<QGraphicsWidget *>(scene()->focusItem()));
+    const auto now = std::find(stops.begin(), stops.end(), m_window ? m_window->lastFocused() : nullptr);
+    const qsizetype at = now == stops.end() ? -1 : now - stops.begin();
     const qsizetype count = stops.size();
-    const qsizetype to = next ? (now + 1) % count : (now <= 0 ? count : now) - 1;
+    const qsizetype to = next ? (at + 1) % count : (at <= 0 ? count : at) - 1;
     stops[to]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     return true;
 }

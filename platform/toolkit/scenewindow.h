@@ -69,7 +69,7 @@ protected:
 
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void wheelEvent(QGraphicsSceneWheelEvent *event) override;
-    /** Never leads to what can still be seen beneath. */
+    /** Goes round within it, in the order in which it is read. */
     bool focusNextPrevChild(bool next) override;
 
 private:

@@ -225,15 +225,16 @@ void Widget::changeEvent(QEvent *event)
 void Widget::focusInEvent(QFocusEvent *event)
 {
     announce(this, QAccessible::Focus);
-    m_hasKeyboardFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
+    const bool isByKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
         || event->reason() == Qt::ShortcutFocusReason;
+    if (Window *window = isByKey ? hostWindow() : nullptr)
+        window->setFocusShown(true);
     update();
     QGraphicsWidget::focusInEvent(event);
 }
 
 void Widget::focusOutEvent(QFocusEvent *event)
 {
-    m_hasKeyboardFocus = false;
     update();
     QGraphicsWidget::focusOutEvent(event);
 }
@@ -268,7 +269,8 @@ void Widget::paintBackground(QPainter *painter, const QColor &fill, bool hasBord
 void Widget::paintFocusRing(QPainter *painter) const
 {
     const QColor color = style().focusColor;
-    if (!m_hasKeyboardFocus || !color.isValid())
+    const Window *window = hostWindow();
+    if (!hasFocus() || !window || !window->isFocusShown() || !color.isValid())
         return;
     constexpr qreal width = 2;
     const QRectF ring = rect().adjusted(width / 2, width / 2, -width / 2, -width / 2);

@@ -78,7 +78,7 @@ protected:
     /** A size of content only, grown by the padding and bounded by the style's sizes. */
     QSizeF styledSize(Qt::SizeHint which, const QSizeF &content) const;
     void paintBackground(QPainter *painter, const QColor &fill, bool hasBorder = true) const;
-    /** Draws the ring if the focus came from the keyboard. */
+    /** Draws the ring if it has the focus and the window is worked by keyboard. */
     void paintFocusRing(QPainter *painter) const;
 
 private:
@@ -87,7 +87,6 @@ private:
     QString m_styleName;
     QString m_accessibleName;
     bool m_isOnDisplay = false;
-    bool m_hasKeyboardFocus = false;
     bool m_isInverted = false;
     mutable std::shared_ptr<const Style> m_style;
     mutable bool m_isStyleEarly = false;

@@ -60,6 +60,10 @@ Window::Window(QWidget *parent)
     resize(defaultSize);
     applyStyle();
     connect(&Theme::instance(), &Theme::changed, this, &Window::applyStyle);
+    connect(scene(), &QGraphicsScene::focusItemChanged, this, [this](QGraphicsItem *item) {
+        if (item)
+            m_lastFocused = item->toGraphicsObject();
+    });
 }
 
 Window::~Window()
@@ -67,6 +71,7 @@ Window::~Window()
     allWindows().removeAll(this);
     // The scene takes the focus from its items when it goes, after this.
     scene()->disconnect(m_keyboardRoom);
+    scene()->disconnect(this);
     const QList<SceneWindow *> known = m_known;
     for (SceneWindow *sceneWindow : known)
         sceneWindow->leaveScene();
@@ -137,6 +142,15 @@ SceneWindow *Window::topSceneWindow() const
             return *it;
     }
     return nullptr;
+}
+
+void Window::setFocusShown(bool isShown)
+{
+    if (m_isFocusShown == isShown)
+        return;
+    m_isFocusShown = isShown;
+    if (QGraphicsItem *item = scene()->focusItem())
+        item->update();
 }
 
 bool Window::stepBack()
@@ -229,6 +243,20 @@ void Window::refreshDisplay()
     });
 }
 
+// Tab never gets as far as to keyPressEvent().
+bool Window::event(QEvent *event)
+{
+    const auto *key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event) : nullptr;
+    if (key && (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab)) {
+        finishTransitions();
+        SceneWindow *top = topSceneWindow();
+        const bool isBack = key->key() == Qt::Key_Backtab || key->modifiers().testFlag(Qt::ShiftModifier);
+        if (top && !scene()->focusItem())
+            return top->focusNextPrevChild(!isBack);
+    }
+    return QGraphicsView::event(event);
+}
+
 void Window::closeEvent(QCloseEvent *event)
 {
     const auto *application = qobject_cast<const Application *>(QCoreApplication::instance());
@@ -240,6 +268,7 @@ void Window::closeEvent(QCloseEvent *event)
 void Window::keyPressEvent(QKeyEvent *event)
 {
     finishTransitions();
+    setFocusShown(true);
     if (event->key() == Qt::Key_Menu && openMenuOfFocus())
         return;
     QGraphicsView::keyPressEvent(event);
@@ -284,6 +313,7 @@ bool Window::isStrayTap(const QMouseEvent *event)
 void Window::mousePressEvent(QMouseEvent *event)
 {
     finishTransitions();
+    setFocusShown(false);
     if (isStrayTap(event))
         return;
     QGraphicsView::mousePressEvent(event);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <QGraphicsObject>
 #include <QGraphicsView>
 #include <QPointer>
 
@@ -50,6 +51,12 @@ public:
     /** From bottom to top. */
     QList<SceneWindow *> sceneWindows() const { return m_stack; }
 
+    /** What has the keyboard's focus, or had it last. */
+    const QGraphicsItem *lastFocused() const { return m_lastFocused; }
+    /** Whether what has the focus shows it: from the first key on, until the next touch. */
+    bool isFocusShown() const { return m_isFocusShown; }
+    void setFocusShown(bool isShown);
+
     /** Leaves the topmost scene window as its cancel button would; false if there is nothing but a page. */
     bool stepBack();
     /** Closes it, whatever lies above the page. */
@@ -65,6 +72,7 @@ signals:
 protected:
     /** Whether going back from the only thing it shows closes it at once, rather than leaving that thing. */
     virtual bool closesInsteadOfLast() const { return true; }
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -100,6 +108,10 @@ private:
     Qt::Orientation m_orientation = Qt::Vertical;
     QList<SceneWindow *> m_stack; ///< appearing or shown, bottom to top
     QList<SceneWindow *> m_known; ///< all that are in the scene
+
+    // The keyboard
+    QPointer<QGraphicsObject> m_lastFocused;
+    bool m_isFocusShown = false;
 
     // The last press
     std::optional<quint64> m_pressTime; ///< in milliseconds
