@@ -36,7 +36,7 @@ BusService::BusService(const Parts &parts)
 void BusService::publishThrough(ContextPublisher &publisher)
 {
     m_publisher = &publisher;
-    m_published = triggerMap(m_parts.book.events());
+    m_published = m_parts.book.triggers();
     connect(&m_parts.lifeCycle, &LifeCycle::changed, this, &BusService::publish);
     connect(&m_parts.lifeCycle, &LifeCycle::settingsChanged, this,
             [this](bool timeChanged) { emit settings_changed(wallClock(), timeChanged); });
@@ -162,7 +162,7 @@ void BusService::refuse(const Error &error) const
 
 void BusService::publish()
 {
-    const QVariantMap triggers = triggerMap(m_parts.book.events());
+    const QVariantMap triggers = m_parts.book.triggers();
     if (triggers != m_published) {
         m_published = triggers;
         m_publisher->publish(triggers);

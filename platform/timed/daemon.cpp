@@ -22,7 +22,6 @@
 #include "platform/timed/systemclock.h"
 #include "platform/timed/timedate.h"
 #include "platform/timed/timerfdwaketimer.h"
-#include "platform/timed/triggers.h"
 
 #include <chrono>
 #include <QDBusConnection>
@@ -130,7 +129,7 @@ Result<> Daemon::start()
     m_restorationUntold = m_store->wasRestored();
     tellOfRestoration();
     parts.boot.update();
-    parts.publisher = std::make_unique<ContextPublisher>(Wire::TriggerProperty, triggerMap(parts.book.events()), bus);
+    parts.publisher = std::make_unique<ContextPublisher>(Wire::TriggerProperty, parts.book.triggers(), bus);
     if (!parts.publisher->isPublished())
         return Error{BusError, QStringLiteral("%1 is published by somebody else").arg(Wire::TriggerProperty)};
     parts.service.publishThrough(*parts.publisher);

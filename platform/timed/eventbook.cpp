@@ -3,10 +3,12 @@
 #include "platform/timed/eventbook.h"
 
 #include "platform/timed/logging.h"
+#include "platform/timed/moments.h"
 #include "platform/timed/validator.h"
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace Astel::Timed {
 
@@ -98,6 +100,7 @@ void EventBook::put(const AlarmEvent &event)
     AlarmEvent &place = m_events[event.cookie()];
     m_textSize += Timed::textSize(event.wire()) - Timed::textSize(place.wire());
     place = event;
+    followTrigger(event.cookie(), event.moment());
 }
 
 void EventBook::erase(quint32 cookie)
@@ -107,6 +110,20 @@ void EventBook::erase(quint32 cookie)
         return;
     m_textSize -= Timed::textSize(found->second.wire());
     m_events.erase(found);
+    followTrigger(cookie, std::nullopt);
+}
+
+void EventBook::followTrigger(quint32 cookie, std::optional<qint64> moment)
+{
+    const QString key = QString::number(cookie);
+    const QVariant trigger = moment ? QVariant(toNanoseconds(*moment)) : QVariant();
+    // What does not change stays shared with what was published.
+    if (std::as_const(m_triggers).value(key) == trigger)
+        return;
+    if (moment)
+        m_triggers.insert(key, trigger);
+    else
+        m_triggers.remove(key);
 }
 
 } // namespace Astel::Timed

@@ -20,6 +20,8 @@ public:
     const Events &events() const { return m_events; }
     /** How many characters all events hold. */
     qsizetype textSize() const { return m_textSize; }
+    /** Every event with a moment ahead, or ringing: decimal cookie to nanoseconds since the epoch. */
+    const QVariantMap &triggers() const { return m_triggers; }
     const AlarmEvent *find(quint32 cookie) const;
     /** Also one that was missed and is stored no more. */
     std::optional<AlarmEvent> findOrMissed(quint32 cookie) const;
@@ -40,9 +42,11 @@ private:
     void apply(const Change &change);
     void put(const AlarmEvent &event);
     void erase(quint32 cookie);
+    void followTrigger(quint32 cookie, std::optional<qint64> moment);
 
     Store &m_store;
     Events m_events;
+    QVariantMap m_triggers; ///< kept with every change, for making it anew takes long with many events
     std::map<std::pair<qint64, quint32>, Miss> m_missed; ///< by due moment
     quint32 m_lastCookie = 0;
     qsizetype m_textSize = 0;

@@ -6,17 +6,31 @@
 #include "platform/timed/lifecycle.h"
 #include "platform/timed/validator.h"
 
+#include <optional>
+
 namespace Astel::Timed {
 
 namespace {
 
 constexpr auto StateAttribute = "STATE";
 
-bool holdsAll(const Wire::Attributes &attributes, const QVariantMap &wanted)
+/** Nothing where a value is no text, which no attribute equals. */
+std::optional<Wire::Attributes> asTexts(const QVariantMap &values)
+{
+    Wire::Attributes result;
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        if (!it->canConvert<QString>())
+            return std::nullopt;
+        result.insert(it.key(), it->toString());
+    }
+    return result;
+}
+
+bool holdsAll(const Wire::Attributes &attributes, const Wire::Attributes &wanted)
 {
     for (auto it = wanted.begin(); it != wanted.end(); ++it) {
         const auto attribute = attributes.find(it.key());
-        if (attribute == attributes.end() || !it->canConvert<QString>() || *attribute != it->toString())
+        if (attribute == attributes.end() || *attribute != *it)
             return false;
     }
     return true;
@@ -83,8 +97,12 @@ Result<QList<quint32>> EventService::query(const Wire::Filter &filter) const
     if (const auto valid = Timed::validate(filter); !valid)
         return valid.error();
     QList<quint32> result;
+    // Once for all events: a caller may have sent what takes long to turn into text.
+    const auto wanted = asTexts(filter.attributes);
+    if (!wanted)
+        return result;
     for (const auto &[cookie, event] : m_book.events()) {
-        if (holdsAll(event.wire().attributes, filter.attributes))
+        if (holdsAll(event.wire().attributes, *wanted))
             result.append(cookie);
     }
     return result;

@@ -8,16 +8,6 @@
 
 namespace Astel::Timed {
 
-QVariantMap triggerMap(const EventBook::Events &events)
-{
-    QVariantMap result;
-    for (const auto &[cookie, event] : events) {
-        if (event.moment())
-            result.insert(QString::number(cookie), toNanoseconds(*event.moment()));
-    }
-    return result;
-}
-
 QList<Wire::Trigger> nextTriggers(const EventBook::Events &events, const Rules::Zone &zone, quint32 count)
 {
     using Coming = std::pair<qint64, quint32>;

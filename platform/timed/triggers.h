@@ -4,16 +4,11 @@
 
 #include "platform/timed/eventbook.h"
 
-#include <QVariantMap>
-
 namespace Astel::Timed {
 
 namespace Rules {
 class Zone;
 }
-
-/** Every event with a moment ahead, or ringing: decimal cookie to nanoseconds since the epoch. */
-QVariantMap triggerMap(const EventBook::Events &events);
 
 /** The coming triggers, soonest first; a recurring event comes as often as it falls among the first "count". */
 QList<Wire::Trigger> nextTriggers(const EventBook::Events &events, const Rules::Zone &zone, quint32 count);

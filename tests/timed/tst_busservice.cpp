@@ -3,7 +3,6 @@
 #include "platform/context/contextpublisher.h"
 #include "platform/timed/busservice.h"
 #include "platform/timed/health.h"
-#include "platform/timed/triggers.h"
 #include "tests/support/privatebus.h"
 #include "tests/timed/buswatch.h"
 #include "tests/timed/world.h"
@@ -47,7 +46,7 @@ void tst_BusService::settingsChangedComesAfterThePublication()
     world.add(daily(7, 0));
     auto bus = QDBusConnection::sessionBus();
     Health health(world.parts->book, world.parts->schedule, world.timer, world.zone, world.store);
-    ContextPublisher publisher(Wire::TriggerProperty, triggerMap(world.parts->book.events()), bus);
+    ContextPublisher publisher(Wire::TriggerProperty, world.parts->book.triggers(), bus);
     BusService service({world.clock, world.zone, world.parts->book, health, world.parts->service, world.parts->life});
     QVERIFY(bus.registerObject(Wire::Path, &service));
     QVERIFY(bus.registerService(Wire::Service));

@@ -3,12 +3,12 @@
 #include "platform/timed/validator.h"
 #include "platform/timedclient/wire.h"
 #include "tests/support/privatebus.h"
+#include "tests/timed/mainthread.h"
 #include "tests/timed/world.h"
 
 #include <functional>
 #include <QDBusConnection>
 #include <QDBusPendingReply>
-#include <QFile>
 #include <QTest>
 
 using namespace Astel::Timed;
@@ -17,12 +17,6 @@ using Edit = std::function<void(Wire::Event &)>;
 Q_DECLARE_METATYPE(Edit)
 
 namespace {
-
-#ifdef __SANITIZE_ADDRESS__
-constexpr double LongestWork = 500;
-#else
-constexpr double LongestWork = 50;
-#endif
 
 constexpr auto UnknownMethod = "org.freedesktop.DBus.Error.UnknownMethod";
 
@@ -114,19 +108,11 @@ private:
         return QDBusPendingReply<QVariantMap>(call("query_attributes", {cookie})).value();
     }
     QVariantList cookies() const { return QDBusPendingReply<QVariantList>(call("query", {QVariantMap()})).value(); }
-    /** Milliseconds of work that the daemon's main thread, which answers every caller, has done so far. */
-    double workDone() const;
+    double workDone() const { return mainThreadWork(m_daemon.processId()); }
 
     Support::PrivateBus m_bus;
     Support::TimedProcess m_daemon;
 };
-
-double tst_Hardening::workDone() const
-{
-    QFile file(QStringLiteral("/proc/%1/task/%1/schedstat").arg(m_daemon.processId()));
-    const bool opened = file.open(QIODevice::ReadOnly);
-    return opened ? file.readAll().split(' ').value(0).toDouble() / 1e6 : 0;
-}
 
 void tst_Hardening::initTestCase()
 {

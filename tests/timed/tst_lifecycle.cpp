@@ -96,7 +96,7 @@ void tst_LifeCycle::newEventStandsAsItsTimesSay()
     const quint32 cookie = world.add(event);
     QCOMPARE(world.state(cookie), state);
     QCOMPARE(world.moment(cookie).value_or(0), moment);
-    const QVariantMap map = triggerMap(world.parts->book.events());
+    const QVariantMap map = world.parts->book.triggers();
     QCOMPARE(map.size(), moment ? 1 : 0);
     if (moment) {
         QCOMPARE(map.value(QString::number(cookie)), QVariant(quint64(moment) * 1000000));
@@ -131,7 +131,7 @@ void tst_LifeCycle::dueEventIsStoredAsTriggeredBeforeItRings()
     QVERIFY(world.parts->life.sounds(cookie, "built-in"));
     QCOMPARE(world.store.words(), (QStringList{"due", "rang", "sounded"}));
     // While it rings it is still in the map.
-    QCOMPARE(triggerMap(world.parts->book.events()).size(), 1);
+    QCOMPARE(world.parts->book.triggers().size(), 1);
 }
 
 void tst_LifeCycle::servedEventGoesOnAsItsFlagsSay_data()
@@ -164,7 +164,7 @@ void tst_LifeCycle::servedEventGoesOnAsItsFlagsSay()
     if (state == State::Waiting)
         QCOMPARE(world.moment(cookie), std::optional(Seven + Day));
     else
-        QVERIFY(triggerMap(world.parts->book.events()).isEmpty());
+        QVERIFY(world.parts->book.triggers().isEmpty());
     QVERIFY(!world.parts->life.dismiss(cookie, "user"));
 }
 
