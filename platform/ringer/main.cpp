@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/locale/locale.h"
+#include "platform/ringer/attention.h"
 #include "platform/ringer/gsttoneplayer.h"
 #include "platform/ringer/logging.h"
 #include "platform/ringer/pluginloader.h"
 #include "platform/ringer/ringcheck.h"
 #include "platform/ringer/ringcontroller.h"
 #include "platform/ringer/ringerservice.h"
+#include "platform/ringer/ringnotices.h"
 #include "platform/ringer/timeddaemon.h"
 
 #include <QApplication>
@@ -61,6 +63,19 @@ void quitWhenIdle(QApplication &application, Ringer::RingController &controller,
     });
 }
 
+void follow(Ringer::RingController &controller, Ringer::RingNotices &notices)
+{
+    using Ringer::RingController;
+    using Ringer::RingNotices;
+    const auto who = QStringLiteral("notification");
+    QObject::connect(&controller, &RingController::begun, &notices, &RingNotices::show);
+    QObject::connect(&controller, &RingController::over, &notices, &RingNotices::close);
+    QObject::connect(&notices, &RingNotices::stopChosen, &controller,
+                     [&controller, who](quint32 cookie) { controller.dismissBy(cookie, who); });
+    QObject::connect(&notices, &RingNotices::snoozeChosen, &controller,
+                     [&controller, who](quint32 cookie, int seconds) { controller.snoozeBy(cookie, seconds, who); });
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -85,6 +100,11 @@ int main(int argc, char **argv)
     Ringer::RingCheck check(&plugins);
     Ringer::RingerService service(&controller, &check);
     quitWhenIdle(application, controller, service);
+    Ringer::RingNotices notices(QDBusConnection::sessionBus());
+    follow(controller, notices);
+    Ringer::Attention attention(QDBusConnection::sessionBus());
+    QObject::connect(&controller, &Ringer::RingController::idleChanged, &attention,
+                     [&attention](bool isIdle) { attention.setWanted(!isIdle); });
 
     QString reason;
     if (!service.registerOnBus(&reason)) {

@@ -60,8 +60,10 @@ void RingController::ring(quint32 cookie, const Wire::Event &event, quint64 due)
     }
     remove(cookie);
     qCInfo(lcRinger, "Alarm %u rings", cookie);
-    add(alarmOf(cookie, event, due), event.attributes.value(QStringLiteral("PLUGIN")))->show();
+    auto *ring = add(alarmOf(cookie, event, due), event.attributes.value(QStringLiteral("PLUGIN")));
+    ring->show();
     passTurnOn();
+    Q_EMIT begun(ring->alarm());
     Q_EMIT idleChanged(isIdle());
 }
 
@@ -72,6 +74,7 @@ void RingController::stop(quint32 cookie)
     qCInfo(lcRinger, "Alarm %u is over", cookie);
     remove(cookie);
     passTurnOn();
+    Q_EMIT over(cookie);
     Q_EMIT idleChanged(isIdle());
 }
 
@@ -83,22 +86,36 @@ void RingController::shown(quint32 cookie)
 
 void RingController::snooze(quint32 cookie, int seconds)
 {
-    auto *ring = findAnswerable(cookie);
-    if (!ring || seconds < 1)
-        return;
-    ring->answer();
-    m_daemon->snooze(cookie, quint32(seconds), ring->screenName());
-    passTurnOn();
+    if (m_deafness.hasExpired())
+        snoozeBy(cookie, seconds, screenOf(cookie));
 }
 
 void RingController::dismiss(quint32 cookie)
 {
-    auto *ring = findAnswerable(cookie);
+    if (m_deafness.hasExpired())
+        dismissBy(cookie, screenOf(cookie));
+}
+
+void RingController::snoozeBy(quint32 cookie, int seconds, const QString &by)
+{
+    auto *ring = findUnanswered(cookie);
+    if (!ring || seconds < 1)
+        return;
+    ring->answer();
+    m_daemon->snooze(cookie, quint32(seconds), by);
+    passTurnOn();
+    Q_EMIT over(cookie);
+}
+
+void RingController::dismissBy(quint32 cookie, const QString &by)
+{
+    auto *ring = findUnanswered(cookie);
     if (!ring)
         return;
     ring->answer();
-    m_daemon->dismiss(cookie, ring->screenName());
+    m_daemon->dismiss(cookie, by);
     passTurnOn();
+    Q_EMIT over(cookie);
 }
 
 // A new ring of the same cookie may have begun before the answer came back; it is no business of that answer.
@@ -116,6 +133,7 @@ void RingController::onSnoozeFailed(quint32 cookie, const QString &reason)
     qCCritical(lcRinger, "Alarm %u: the snooze was not taken: %s; rings again", cookie, qPrintable(reason));
     ring->ringAgain();
     passTurnOn();
+    Q_EMIT begun(ring->alarm());
 }
 
 Ring *RingController::find(quint32 cookie) const
@@ -131,9 +149,10 @@ Ring *RingController::findUnanswered(quint32 cookie) const
     return ring && ring->state() != Ring::State::Answered ? ring : nullptr;
 }
 
-Ring *RingController::findAnswerable(quint32 cookie) const
+QString RingController::screenOf(quint32 cookie) const
 {
-    return m_deafness.hasExpired() ? findUnanswered(cookie) : nullptr;
+    const auto *ring = find(cookie);
+    return ring ? ring->screenName() : QString();
 }
 
 Ring *RingController::add(const Alarm &alarm, const QString &pluginName)

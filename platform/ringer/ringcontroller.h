@@ -39,8 +39,14 @@ public:
     void stop(quint32 cookie); ///< unknown cookies are ignored
     [[nodiscard]] bool isIdle() const { return m_rings.empty(); }
 
+    /** Answers that name the alarm and cannot be meant for another; "by" is for the journal. */
+    void snoozeBy(quint32 cookie, int seconds, const QString &by);
+    void dismissBy(quint32 cookie, const QString &by);
+
 Q_SIGNALS:
     void idleChanged(bool isIdle);
+    void begun(const Ringer::Alarm &alarm); ///< also again, when an answer could not be delivered
+    void over(quint32 cookie);              ///< answered, or ended by the daemon
 
 private:
     void shown(quint32 cookie) override;
@@ -51,7 +57,7 @@ private:
 
     [[nodiscard]] Ring *find(quint32 cookie) const;
     [[nodiscard]] Ring *findUnanswered(quint32 cookie) const;
-    [[nodiscard]] Ring *findAnswerable(quint32 cookie) const;
+    [[nodiscard]] QString screenOf(quint32 cookie) const;
     Ring *add(const Alarm &alarm, const QString &pluginName);
     void reportSound(const Ring &ring);
     void remove(quint32 cookie);
