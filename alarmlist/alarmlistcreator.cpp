@@ -4,6 +4,7 @@
 
 #include "alarmlist/alarmswidget.h"
 #include "platform/clockwidgets/alarmlistitem.h"
+#include "platform/toolkit/action.h"
 #include "platform/toolkit/widgetrecycler.h"
 
 #include <QAbstractItemModel>
@@ -43,9 +44,18 @@ Touch::Widget *AlarmListCreator::createCell(const QModelIndex &index, Touch::Wid
         cell = new AlarmListItem(styleFor(QString()), nullptr);
         QObject::connect(cell, &AlarmListItem::clicked, m_alarmsWidget, &AlarmsWidget::alarmClicked);
         QObject::connect(cell, &AlarmListItem::alarmStateChanged, m_alarmsWidget, &AlarmsWidget::alarmStateChanged);
+        addDeleteAction(cell);
     }
     updateCell(index, cell);
     return cell;
+}
+
+void AlarmListCreator::addDeleteAction(AlarmListItem *cell)
+{
+    auto *action = new Touch::Action(qtTrId("qtn_comm_delete"), cell);
+    action->setLocation(Touch::Action::ObjectMenuLocation);
+    cell->addAction(action);
+    QObject::connect(action, &QAction::triggered, m_alarmsWidget, &AlarmsWidget::deleteAlarm);
 }
 
 void AlarmListCreator::updateCell(const QModelIndex &index, Touch::Widget *widget)

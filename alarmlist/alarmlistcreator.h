@@ -27,6 +27,8 @@ public:
     QSizeF cellSize() const override;
 
 private:
+    void addDeleteAction(AlarmListItem *cell);
+
     AlarmsWidget *m_alarmsWidget;
     std::unique_ptr<AlarmListItem> m_pattern;
 };

@@ -5,14 +5,10 @@
 #include "alarmlist/alarmlistcreator.h"
 #include "alarmlist/alarmslistmodel.h"
 #include "alarmlist/emptylisthint.h"
-#include "alarmlist/notices/informationbanner.h"
 #include "alarmlist/notices/spacers.h"
 #include "alarms/qmalarm.h"
 #include "alarms/utility.h"
-#include "app/settings.h"
 #include "editor/repeatsummary.h"
-#include "editor/settingalarmpage.h"
-#include "platform/clockwidgets/alarmlistitem.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/gridlayoutpolicy.h"
 #include "platform/toolkit/label.h"
@@ -45,13 +41,6 @@ QStringList rowTexts(const QmAlarmEvent &alarm)
             alarm.tone(),
             repeatSummary(alarm.isRecurring(), alarm.repeatDays()),
             numberText(alarm.snooze())};
-}
-
-SettingAlarmPage *shownEditor()
-{
-    SettingAlarmPage *editor = SettingAlarmPage::instance();
-    editor->appear(nullptr, Touch::SceneWindow::KeepWhenDone);
-    return editor;
 }
 
 } // namespace
@@ -162,7 +151,6 @@ void AlarmsWidget::updateContent()
         else
             removeSurplusRow();
         setPannable(!m_alarms.isEmpty());
-        m_emptyHint->setVisible(m_alarms.isEmpty());
     }
     qDebug() << signature << "exited";
 }
@@ -217,6 +205,7 @@ QString AlarmsWidget::cookieText(int row) const
 void AlarmsWidget::setPannable(bool isPannable)
 {
     m_viewport->setPanDirection(isPannable ? Qt::Orientations(Qt::Vertical) : Qt::Orientations());
+    m_emptyHint->setVisible(m_alarms.isEmpty());
 }
 
 void AlarmsWidget::resetContent()
@@ -224,100 +213,4 @@ void AlarmsWidget::resetContent()
     qDebug() << "void AlarmsWidget::resetContent()";
     if (isVisible())
         updateContent();
-}
-
-void AlarmsWidget::onValueChanged()
-{
-    qDebug() << "void AlarmsWidget::onValueChanged()"
-             << "called";
-    if (m_justEnabled) {
-        showTimeLeft();
-        m_justEnabled = false;
-    }
-    if (m_switchInProgress)
-        m_switchInProgress = false;
-    else
-        updateContent();
-}
-
-void AlarmsWidget::showTimeLeft()
-{
-    time_t trigger = 0;
-    if (!Utility::instance()->triggerSecondsFromContext(static_cast<quint32>(m_lastCookie), trigger))
-        return;
-    QString timeLeft;
-    Utility::timeLeftForAlarmToTrigger(trigger, timeLeft);
-    showInformationBanner(timeLeft);
-}
-
-void AlarmsWidget::alarmStateChanged()
-{
-    m_switchInProgress = true;
-    if (auto *listItem = qobject_cast<AlarmListItem *>(sender()))
-        invertAlarmState(listItem);
-}
-
-void AlarmsWidget::invertAlarmState(AlarmListItem *listItem)
-{
-    m_switchInProgress = true;
-    const auto cookie = static_cast<quint32>(listItem->alarmCookie());
-    const QModelIndexList rows = m_model->match(m_model->index(0, 0), Qt::DisplayRole, numberText(cookie), 1,
-                                                Qt::MatchStartsWith | Qt::MatchWrap);
-    const int position = indexOfAlarm(cookie);
-    QmAlarmEvent record = position < 0 ? QmAlarmEvent() : m_alarms.at(position);
-    const bool wasEnabled = record.isEnabled();
-    record.setAlarmTime(record.alarmTime());
-    record.rollOverIfPassed();
-    record.setEnabled(!wasEnabled);
-
-    const quint32 newCookie = QmAlarm().replace(record, cookie);
-    m_lastCookie = newCookie == QmAlarmEvent::NotStored ? -1 : static_cast<long>(newCookie);
-    if (newCookie == QmAlarmEvent::NotStored) {
-        showInformationBanner(qtTrId("qtn_cloc_alarm_save_error"));
-        if (!rows.isEmpty())
-            setColumn(rows.first().row(), "AlarmStatus", numberText(wasEnabled ? 1 : 0));
-        return;
-    }
-
-    listItem->setAlarmCookie(static_cast<long>(newCookie));
-    record.setCookie(newCookie);
-    if (position >= 0)
-        m_alarms[position] = record;
-    if (record.isEnabled())
-        m_justEnabled = true;
-    if (rows.size() == 1) {
-        setColumn(rows.first().row(), "AlarmStatus", numberText(record.isEnabled() ? 1 : 0));
-        setColumn(rows.first().row(), "AlarmCookie", numberText(newCookie));
-    }
-}
-
-int AlarmsWidget::indexOfAlarm(quint32 cookie) const
-{
-    for (int i = 0; i < m_alarms.size(); ++i) {
-        if (m_alarms.at(i).cookie() == cookie)
-            return i;
-    }
-    return -1;
-}
-
-void AlarmsWidget::setColumn(int row, const QString &name, const QString &text)
-{
-    const int column = static_cast<int>(m_model->columnNames().indexOf(name));
-    m_model->setData(m_model->index(row, column), text, Qt::EditRole);
-}
-
-void AlarmsWidget::alarmClicked()
-{
-    const auto *cell = qobject_cast<AlarmListItem *>(sender());
-    if (!cell)
-        return;
-    shownEditor()->loadAlarm(static_cast<quint32>(cell->alarmCookie()), cell->title(), cell->subTitle(),
-                             cell->alarmTone(), cell->enabled(), cell->snoozeValue());
-}
-
-void AlarmsWidget::createNewAlarm()
-{
-    m_editor = shownEditor();
-    m_editor->loadAlarm(QmAlarmEvent::NotStored, QTime::currentTime(), QString(), Settings::BuiltInTone, true,
-                        Settings::DefaultSnooze);
 }

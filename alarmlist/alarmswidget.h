@@ -43,9 +43,11 @@ public:
 public slots:
     void alarmClicked();
     void alarmStateChanged();
+    void deleteAlarm();
     void onValueChanged();
     void createNewAlarm();
     void invertAlarmState(AlarmListItem *listItem);
+    void fixTheBrokenAlarm();
 
 protected:
     bool event(QEvent *event) override;
@@ -62,9 +64,14 @@ private:
     void insertAlarm(int row);
     void writeRow(int row);
     QString cookieText(int row) const;
+    /** Tells when the alarm just switched on rings, or switches it off again where that is not at its time. */
+    void verifySwitchedAlarm();
     void showTimeLeft();
+    /** The cell of the alarm just switched on; null once it stands for another alarm, or is gone. */
+    AlarmListItem *switchedItem() const;
     int indexOfAlarm(quint32 cookie) const;
     void setColumn(int row, const QString &name, const QString &text);
+    void removeAlarm(int position);
     void setPannable(bool isPannable);
     void placeEmptyHint();
 
@@ -79,7 +86,9 @@ private:
     bool m_switchInProgress = false;     ///< the next change is the echo of a switch made here
     QList<Clock::QmAlarmEvent> m_alarms; ///< row i of the model shows record i
     Touch::PannableViewport *m_viewport;
-    bool m_justEnabled = false;
+    bool m_justEnabled = false;        ///< the next change is that of an alarm switched on here
+    bool m_brokenAlarmPending = false; ///< it was switched off again and waits for the editor
+    QPointer<AlarmListItem> m_switchedItem;
 
     // Built once.
     Touch::Widget *m_headerPanel = nullptr;

@@ -5,6 +5,8 @@
 #include "alarmlist/alarmslistmodel.h"
 #include "alarmlist/alarmswidget.h"
 #include "platform/clockwidgets/alarmlistitem.h"
+#include "platform/toolkit/action.h"
+#include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/pannableviewport.h"
 #include "platform/toolkit/theme.h"
 #include "platform/toolkit/widgetrecycler.h"
@@ -30,6 +32,8 @@ private slots:
     void theRepeatTextChoosesTheStyle();
     void aRecycledCellIsUsedAsItStands();
     void aTapReachesTheAlarmsWidgetOnce();
+    void itsObjectMenuOffersToDelete();
+    void aRecycledCellKeepsItsOneAction();
     void allCellsAreAsTallAsANewOne();
     void anotherThemeMayMakeCellsTaller();
 
@@ -158,6 +162,33 @@ void TestAlarmListCreator::aTapReachesTheAlarmsWidgetOnce()
     QVERIFY(disconnect(cell, &AlarmListItem::clicked, m_alarmsWidget.get(), &AlarmsWidget::alarmClicked));
     QVERIFY(
         disconnect(cell, &AlarmListItem::alarmStateChanged, m_alarmsWidget.get(), &AlarmsWidget::alarmStateChanged));
+}
+
+void TestAlarmListCreator::itsObjectMenuOffersToDelete()
+{
+    const auto cell = newCell();
+    const QList<QAction *> actions = cell->actions();
+    QCOMPARE(actions.size(), 1);
+    const auto *action = qobject_cast<Touch::Action *>(actions.first());
+    QVERIFY(action);
+    QCOMPARE(action->text(), "qtn_comm_delete");
+    QCOMPARE(action->location(), 8);
+    QCOMPARE(action->parent(), cell.get());
+    QCOMPARE(Touch::ObjectMenu::actionsOf(cell.get()), actions);
+}
+
+void TestAlarmListCreator::aRecycledCellKeepsItsOneAction()
+{
+    AlarmListItem *cell = newCell().release();
+    QAction *action = cell->actions().constFirst();
+    m_recycler.recycle(cell);
+    const auto again = newCell();
+    QCOMPARE(again.get(), cell);
+    QCOMPARE(again->actions(), QList<QAction *>{action});
+    QCOMPARE(again->findChildren<QAction *>(), QList<QAction *>{action});
+    QVERIFY(
+        !connect(action, &QAction::triggered, m_alarmsWidget.get(), &AlarmsWidget::deleteAlarm, Qt::UniqueConnection));
+    QVERIFY(disconnect(action, &QAction::triggered, m_alarmsWidget.get(), &AlarmsWidget::deleteAlarm));
 }
 
 void TestAlarmListCreator::allCellsAreAsTallAsANewOne()

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "alarms/qmalarmevent.h"
+#include "editor/settingalarmpage.h"
+#include "platform/clockwidgets/alarmlistitem.h"
+#include "platform/clockwidgets/timepicker.h"
+#include "platform/toolkit/messagebox.h"
+#include "tests/alarmlist/alarmsection.h"
+#include "tests/support/alarms.h"
+#include "tests/support/logcapture.h"
+#include "tests/support/look/items.h"
+#include "tests/support/summertime.h"
+
+#include <QTest>
+
+using Clock::QmAlarmEvent;
+using Support::addSwitchedOffAlarm;
+
+/** Alarms at a time that the coming change to summer time skips, switched on from the list. */
+class TestBrokenAlarm : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init() { QVERIFY(m_section.open()); }
+    void cleanup();
+    void itIsSwitchedOffAgainAndTheDialogOpens();
+    void everyNotificationDoesOneStep();
+    void anAlarmBesideTheGapIsNotTouched();
+
+private:
+    Touch::MessageBox *dialog() const;
+
+    QTime m_skipped;
+    AlarmSection m_section;
+};
+
+void TestBrokenAlarm::initTestCase()
+{
+    m_skipped = Support::skipAnHourSoon();
+    QVERIFY(m_section.start());
+}
+
+void TestBrokenAlarm::cleanup()
+{
+    if (Touch::MessageBox *open = dialog())
+        open->dismiss();
+    QVERIFY(m_section.close());
+}
+
+Touch::MessageBox *TestBrokenAlarm::dialog() const
+{
+    return qobject_cast<Touch::MessageBox *>(m_section.window()->topSceneWindow());
+}
+
+void TestBrokenAlarm::itIsSwitchedOffAgainAndTheDialogOpens()
+{
+    addSwitchedOffAlarm(m_skipped, "Early");
+    m_section.widget()->updateContent();
+    QTRY_VERIFY(m_section.cell(0));
+    AlarmSection::flip(m_section.cell(0));
+    QTRY_VERIFY(dialog());
+    QCOMPARE(m_section.column(3), QStringList{"0"});
+    QTRY_VERIFY(!m_section.cell(0)->enabled());
+    const quint32 cookie = m_section.column(0).first().toUInt();
+    QVERIFY(!QmAlarmEvent(cookie).isEnabled());
+    QCOMPARE(m_section.shownBanner(), "");
+
+    SettingAlarmPage *editor = SettingAlarmPage::instance();
+    QVERIFY2(!editor->isOnDisplay(), "only its dialog is shown");
+    QCOMPARE(editor->getAlarmCookie(), cookie);
+    const auto *picker = Support::itemIn<TimePicker>(editor);
+    QCOMPARE(QTime(picker->hours(), picker->minutes()), m_skipped);
+}
+
+void TestBrokenAlarm::everyNotificationDoesOneStep()
+{
+    addSwitchedOffAlarm(m_skipped);
+    m_section.widget()->updateContent();
+    QTRY_VERIFY(m_section.cell(0));
+    const Support::LogCapture log;
+    AlarmSection::flip(m_section.cell(0));
+    QVERIFY2(!dialog(), "the daemon has not spoken yet");
+    QTRY_VERIFY(dialog());
+    QCOMPARE(log.lines().filter("AlarmsWidget::onValueChanged").size(), 2);
+    QVERIFY2(log.lines().filter("AlarmsWidget::updateContent").isEmpty(), "both were echoes");
+    QVERIFY(log.lines().filter("timeLeftForAlarmToTrigger").isEmpty());
+    // Whatever comes next is a change like any other.
+    m_section.widget()->onValueChanged();
+    QCOMPARE(log.lines().filter("AlarmsWidget::updateContent() exited").size(), 1);
+}
+
+void TestBrokenAlarm::anAlarmBesideTheGapIsNotTouched()
+{
+    addSwitchedOffAlarm(m_skipped.addSecs(-60 * 60));
+    m_section.widget()->updateContent();
+    QTRY_VERIFY(m_section.cell(0));
+    AlarmSection::flip(m_section.cell(0));
+    QTRY_VERIFY(m_section.shownBanner().startsWith("qtn_cloc_time_left_alarm"));
+    QCOMPARE(m_section.column(3), QStringList{"1"});
+    QVERIFY(!dialog());
+}
+
+QTEST_MAIN(TestBrokenAlarm)
+#include "tst_brokenalarm.moc"
