@@ -20,6 +20,6 @@ public:
     virtual void stop() = 0;
 
 Q_SIGNALS:
-    /// A whole second or minute has begun, or the clock was set.
+    /// A whole second or minute has begun, or the clock or the zone was set.
     void ticked();
 };

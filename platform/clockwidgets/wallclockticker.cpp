@@ -3,6 +3,8 @@
 #include "platform/clockwidgets/wallclockticker_p.h"
 
 #include <cerrno>
+#include <QFileInfo>
+#include <QFileSystemWatcher>
 #include <QSocketNotifier>
 #include <sys/timerfd.h>
 #include <unistd.h>
@@ -16,7 +18,9 @@ time_t length(ClockTicker::Beat beat)
 
 } // namespace
 
-WallClockTicker::WallClockTicker() = default;
+WallClockTicker::WallClockTicker(const QString &localtime)
+    : m_localtime(localtime)
+{ }
 
 WallClockTicker::~WallClockTicker()
 {
@@ -39,11 +43,32 @@ void WallClockTicker::start(Beat beat)
         connect(m_notifier.get(), &QSocketNotifier::activated, this, &WallClockTicker::readTimer);
     }
     arm();
+    if (!m_zoneWatcher)
+        watchZone();
 }
 
 void WallClockTicker::stop()
 {
     closeTimer();
+    m_zoneWatcher.reset();
+}
+
+void WallClockTicker::watchZone()
+{
+    m_zoneWatcher = std::make_unique<QFileSystemWatcher>();
+    // A link is replaced, which its folder tells; a copy may be written over.
+    const QFileInfo file(m_localtime);
+    m_zoneWatcher->addPath(file.absolutePath());
+    if (file.isFile() && !file.isSymLink())
+        m_zoneWatcher->addPath(m_localtime);
+    connect(m_zoneWatcher.get(), &QFileSystemWatcher::directoryChanged, this, &WallClockTicker::zoneChanged);
+    connect(m_zoneWatcher.get(), &QFileSystemWatcher::fileChanged, this, &WallClockTicker::zoneChanged);
+}
+
+void WallClockTicker::zoneChanged()
+{
+    tzset();
+    Q_EMIT ticked();
 }
 
 void WallClockTicker::closeTimer()

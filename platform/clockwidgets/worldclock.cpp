@@ -11,12 +11,38 @@
 #include <QGraphicsSceneMouseEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QSettings>
 
 using Touch::Locale;
 
 namespace {
 
 constexpr qreal DateHeight = 28;
+constexpr qreal ZoneHeight = 20;
+
+constexpr auto FaceKey = "WorldClock/face";
+
+QSettings settings()
+{
+    return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Astel"), QStringLiteral("clockwidgets")};
+}
+
+QString faceName(WorldClock::Face face)
+{
+    return face == WorldClock::Face::Digital ? QStringLiteral("digital") : QStringLiteral("analogue");
+}
+
+WorldClock::Face rememberedFace()
+{
+    using Face = WorldClock::Face;
+    return settings().value(FaceKey).toString() == faceName(Face::Digital) ? Face::Digital : Face::Analogue;
+}
+
+/// A line's height that leaves room for the user's size of text.
+qreal lineHeight(const Touch::Style &style, qreal usual)
+{
+    return qMax(usual, QFontMetricsF(style.font()).height());
+}
 
 } // namespace
 
@@ -28,6 +54,7 @@ WorldClock::WorldClock(std::unique_ptr<ClockTicker> ticker, QGraphicsItem *paren
     : StylableWidget(parent)
     , m_ticker(std::move(ticker))
     , m_clockFace(std::make_unique<ClockFace>())
+    , m_face(rememberedFace())
     , m_now(m_ticker->now())
 {
     loadClockTheme();
@@ -54,6 +81,7 @@ void WorldClock::setFace(Face face)
 void WorldClock::showOtherFace()
 {
     setFace(m_face == Face::Analogue ? Face::Digital : Face::Analogue);
+    settings().setValue(FaceKey, faceName(m_face));
 }
 
 void WorldClock::enterDisplay()
@@ -104,15 +132,19 @@ void WorldClock::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWid
 {
     painter->save();
     QRectF area = paddedRect();
-    const auto dateStyle = partStyle(*this, QStringLiteral("ClockDate"));
-    const qreal dateHeight = qMax(DateHeight, QFontMetricsF(dateStyle->font()).height());
-    const QRectF date(area.left(), area.bottom() - dateHeight, area.width(), dateHeight);
+    const QString dateStyle = QStringLiteral("ClockDate");
+    const QString zoneStyle = QStringLiteral("ClockZone");
+    QRectF zone = area;
+    zone.setTop(area.bottom() - lineHeight(*partStyle(*this, zoneStyle), ZoneHeight));
+    QRectF date(area.left(), 0, area.width(), lineHeight(*partStyle(*this, dateStyle), DateHeight));
+    date.moveBottom(zone.top());
     area.setBottom(date.top() - style().spacing);
     if (m_face == Face::Analogue)
         m_clockFace->paint(*painter, area.center(), qMin(area.width(), area.height()), m_now.time(), isOnDisplay());
     else
         paintDigits(*painter, area);
-    paintDate(*painter, date);
+    paintLine(*painter, date, dateStyle, dateText());
+    paintLine(*painter, zone, zoneStyle, zoneText());
     painter->restore();
     paintFocusRing(painter);
 }
@@ -140,10 +172,9 @@ void WorldClock::paintDigits(QPainter &painter, const QRectF &rect) const
     drawPart(painter, markerRect, Qt::AlignCenter, *marker, text.marker);
 }
 
-void WorldClock::paintDate(QPainter &painter, const QRectF &rect) const
+void WorldClock::paintLine(QPainter &painter, const QRectF &rect, const QString &styleName, const QString &text) const
 {
-    Touch::Style style = *partStyle(*this, QStringLiteral("ClockDate"));
-    const QString text = dateText();
+    Touch::Style style = *partStyle(*this, styleName);
     // Rather smaller than cut off.
     style.pixelSize = int(style.pixelSize * qMin(1.0, rect.width() / textWidth(style, text)));
     drawPart(painter, rect, Qt::AlignCenter, style, text);
@@ -155,9 +186,15 @@ QString WorldClock::dateText() const
     return locale.formatDateTimeICU(m_now, locale.icuFormatString(QStringLiteral("MMMMEEEEd")));
 }
 
+QString WorldClock::zoneText() const
+{
+    return Locale::getDefault().formatDateTimeICU(m_now, QStringLiteral("zzzz"));
+}
+
 QString WorldClock::shownText() const
 {
-    return timeText(Locale::getDefault(), m_now.time()).whole() + QLatin1String(", ") + dateText();
+    const QString time = timeText(Locale::getDefault(), m_now.time()).whole();
+    return QStringList{time, dateText(), zoneText()}.join(QLatin1String(", "));
 }
 
 QStringList WorldClock::accessibleActions() const

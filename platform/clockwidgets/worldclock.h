@@ -9,7 +9,8 @@
 
 class ClockFace;
 
-/// The time of day, analogue or digital, with the date under it, in the user's locale. A tap shows the other face.
+/// The time of day, analogue or digital, with the date and the zone's name under it, in the user's locale. A tap shows
+/// the other face, with which every clock then starts: it is kept in the settings of the clock widgets.
 /// It ticks only while it can be seen: every second with the seconds hand, every minute without.
 class WorldClock : public Touch::StylableWidget
 {
@@ -54,8 +55,9 @@ private:
     void localeChanged();
     void showOtherFace();
     QString dateText() const;
+    QString zoneText() const;
     void paintDigits(QPainter &painter, const QRectF &rect) const;
-    void paintDate(QPainter &painter, const QRectF &rect) const;
+    void paintLine(QPainter &painter, const QRectF &rect, const QString &styleName, const QString &text) const;
 
     std::unique_ptr<ClockTicker> m_ticker;
     std::unique_ptr<ClockFace> m_clockFace;

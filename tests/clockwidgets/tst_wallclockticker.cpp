@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/clockwidgets/wallclockticker_p.h"
 
+#include <cstdio>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 class tst_WallClockTicker : public QObject
@@ -15,6 +17,8 @@ private Q_SLOTS:
     void isOnTime();
     void isSilentWhenStopped();
     void startsAgain();
+    void tellsThatTheZoneIsAnother_data();
+    void tellsThatTheZoneIsAnother();
 };
 
 void tst_WallClockTicker::beatsOnWholeSecondsAndMinutes_data()
@@ -68,6 +72,35 @@ void tst_WallClockTicker::startsAgain()
     ticker.stop();
     ticker.start(ClockTicker::Beat::Second);
     QVERIFY(spy.wait(1500));
+}
+
+void tst_WallClockTicker::tellsThatTheZoneIsAnother_data()
+{
+    QTest::addColumn<bool>("isLink");
+    QTest::newRow("link replaced") << true;
+    QTest::newRow("copy written over") << false;
+}
+
+void tst_WallClockTicker::tellsThatTheZoneIsAnother()
+{
+    QFETCH(bool, isLink);
+    const QTemporaryDir folder;
+    const QString localtime = folder.filePath("localtime");
+    QVERIFY(isLink ? QFile::link("/usr/share/zoneinfo/Europe/Berlin", localtime)
+                   : QFile::copy("/usr/share/zoneinfo/Europe/Berlin", localtime));
+    WallClockTicker ticker(localtime);
+    ticker.start(ClockTicker::Beat::Minute);
+    QSignalSpy spy(&ticker, &ClockTicker::ticked);
+    if (isLink) {
+        const QTemporaryDir other;
+        QVERIFY(QFile::link("/usr/share/zoneinfo/Asia/Tokyo", other.filePath("new")));
+        QCOMPARE(std::rename(qPrintable(other.filePath("new")), qPrintable(localtime)), 0);
+    } else {
+        QFile copy(localtime);
+        QVERIFY(copy.setPermissions(QFile::ReadOwner | QFile::WriteOwner) && copy.open(QIODevice::WriteOnly));
+        copy.write("TZif");
+    }
+    QVERIFY(spy.wait());
 }
 
 QTEST_GUILESS_MAIN(tst_WallClockTicker)

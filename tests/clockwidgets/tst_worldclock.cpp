@@ -5,8 +5,11 @@
 #include "platform/locale/locale.h"
 #include "tests/clockwidgets/stage.h"
 
+#include <QDir>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTest>
+#include <QTimeZone>
 
 using Touch::Locale;
 
@@ -34,6 +37,11 @@ public:
     Beat beat = Beat::Minute;
     bool running = false;
 };
+
+QString settingsFile()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/Astel/clockwidgets.ini";
+}
 
 struct Scene
 {
@@ -64,6 +72,10 @@ private Q_SLOTS:
     void aTapShowsTheOtherFace();
     void eachOfTwoQuickTapsCounts();
     void keysShowTheOtherFace();
+    void theFaceChosenIsRemembered();
+    void whatWasNeverChosenIsAnalogue();
+    void tellsTheZoneAndWhetherItIsSummer();
+    void showsTheDateOfTheUsersCalendar();
     void anotherFaceLooksDifferent();
     void followsTheUsersLocale();
     void takesAboutTwoFifthsOfThePage();
@@ -72,6 +84,7 @@ private Q_SLOTS:
 void tst_WorldClock::init()
 {
     Locale::setDefault(Locale(u"en_US"_qs));
+    QFile::remove(settingsFile());
 }
 
 void tst_WorldClock::isReadWithoutBeingSeen()
@@ -81,7 +94,7 @@ void tst_WorldClock::isReadWithoutBeingSeen()
     QCOMPARE(clock->role(), QAccessible::Button);
     const QString name = clock->text(QAccessible::Name).simplified();
     QVERIFY2(name.startsWith("10:09"), qPrintable(name));
-    QVERIFY2(name.endsWith("Monday, March 9"), qPrintable(name));
+    QVERIFY2(name.endsWith("Monday, March 9, Coordinated Universal Time"), qPrintable(name));
     clock->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QCOMPARE(scene.clock->face(), WorldClock::Face::Digital);
 }
@@ -169,6 +182,60 @@ void tst_WorldClock::keysShowTheOtherFace()
     QCOMPARE(scene.clock->face(), WorldClock::Face::Digital);
     scene.stage.key(Qt::Key_Return);
     QCOMPARE(scene.clock->face(), WorldClock::Face::Analogue);
+}
+
+void tst_WorldClock::theFaceChosenIsRemembered()
+{
+    {
+        Scene scene;
+        QVERIFY(scene.stage.show());
+        scene.stage.tap({240, 150});
+    }
+    {
+        Scene scene;
+        QCOMPARE(scene.clock->face(), WorldClock::Face::Digital);
+        QVERIFY(scene.stage.show());
+        scene.stage.key(Qt::Key_Space);
+    }
+    QCOMPARE(WorldClock().face(), WorldClock::Face::Analogue);
+}
+
+void tst_WorldClock::whatWasNeverChosenIsAnalogue()
+{
+    QCOMPARE(WorldClock().face(), WorldClock::Face::Analogue);
+    // Only the user's choice is kept.
+    WorldClock().setFace(WorldClock::Face::Digital);
+    QCOMPARE(WorldClock().face(), WorldClock::Face::Analogue);
+    QFile file(settingsFile());
+    QVERIFY(QDir().mkpath(QFileInfo(file).path()) && file.open(QIODevice::WriteOnly));
+    file.write("[WorldClock]\nface=sundial\n");
+    file.close();
+    QCOMPARE(WorldClock().face(), WorldClock::Face::Analogue);
+}
+
+void tst_WorldClock::tellsTheZoneAndWhetherItIsSummer()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    const QTimeZone berlin("Europe/Berlin");
+    scene.ticker->time = QDateTime(QDate(2026, 3, 9), QTime(10, 9), berlin);
+    scene.ticker->goOn(1);
+    const QImage winter = scene.stage.window.grab().toImage();
+    QVERIFY2(scene.clock->accessibleName().endsWith("Central European Standard Time"),
+             qPrintable(scene.clock->accessibleName()));
+    scene.ticker->time = QDateTime(QDate(2026, 7, 9), QTime(10, 9), berlin);
+    scene.ticker->goOn(1);
+    QVERIFY(scene.clock->accessibleName().endsWith("Central European Summer Time"));
+    QVERIFY(scene.stage.window.grab().toImage() != winter);
+}
+
+void tst_WorldClock::showsTheDateOfTheUsersCalendar()
+{
+    Scene scene;
+    Locale::setDefault(Locale(u"en_US@calendar=hebrew"_qs));
+    QVERIFY2(scene.clock->accessibleName().contains("Adar"), qPrintable(scene.clock->accessibleName()));
+    Locale::setDefault(Locale(u"de_DE"_qs));
+    QVERIFY(scene.clock->accessibleName().contains("9. März"));
 }
 
 void tst_WorldClock::anotherFaceLooksDifferent()
