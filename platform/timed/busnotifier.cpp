@@ -14,13 +14,17 @@ namespace {
 
 constexpr auto Service = "org.freedesktop.Notifications";
 constexpr auto Path = "/org/freedesktop/Notifications";
-constexpr uchar Critical = 2;
 constexpr int UntilClosed = 0;
 constexpr uint NewNotice = 0;
 
 QDBusMessage methodCall(const QString &method)
 {
     return QDBusMessage::createMethodCall(Service, Path, Service, method);
+}
+
+uchar toUrgency(Notice::Urgency urgency)
+{
+    return urgency == Notice::Urgency::Critical ? 2 : 0;
 }
 
 QStringList toList(const QList<Notice::Action> &actions)
@@ -44,6 +48,8 @@ BusNotifier::BusNotifier(const QDBusConnection &bus)
 
 void BusNotifier::show(const Notice &notice, const std::function<void(bool)> &done)
 {
+    if (!notice.tag.isEmpty() && !m_tagged.contains(notice.tag))
+        m_tagged.insert(notice.tag, NewNotice);
     auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(methodCall("GetCapabilities")), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, notice, done] {
         call->deleteLater();
@@ -64,16 +70,44 @@ void BusNotifier::show(const Notice &notice, const std::function<void(bool)> &do
 void BusNotifier::send(const Notice &notice, const std::function<void(bool)> &done)
 {
     QDBusMessage question = methodCall("Notify");
-    const QVariantMap hints{{"urgency", QVariant::fromValue(Critical)}, {"category", "x-alarm.missed"}};
-    question.setArguments({"Alarms", NewNotice, "alarm-symbolic", notice.summary, notice.body, toList(notice.actions),
-                           hints, UntilClosed});
+    const QVariantMap hints{{"urgency", QVariant::fromValue(toUrgency(notice.urgency))}, {"category", notice.category}};
+    question.setArguments({"Alarms", m_tagged.value(notice.tag, NewNotice), "alarm-symbolic", notice.summary,
+                           notice.body, toList(notice.actions), hints, UntilClosed});
     auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
-    connect(call, &QDBusPendingCallWatcher::finished, this, [call, done] {
+    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, done, tag = notice.tag] {
         call->deleteLater();
-        if (call->isError())
-            qCWarning(lcTimed, "a notification is not shown: %ls", qUtf16Printable(call->error().message()));
-        done(!call->isError());
+        const QDBusPendingReply<uint> number = *call;
+        if (number.isError())
+            qCWarning(lcTimed, "a notification is not shown: %ls", qUtf16Printable(number.error().message()));
+        else if (!tag.isEmpty())
+            keepNumber(tag, number);
+        done(!number.isError());
     });
+}
+
+void BusNotifier::keepNumber(const QString &tag, uint number)
+{
+    const auto known = m_tagged.find(tag);
+    if (known == m_tagged.end()) {
+        withdraw(number);
+        return;
+    }
+    if (*known != NewNotice && *known != number)
+        withdraw(*known);
+    *known = number;
+}
+
+void BusNotifier::close(const QString &tag)
+{
+    if (const uint number = m_tagged.take(tag); number != NewNotice)
+        withdraw(number);
+}
+
+void BusNotifier::withdraw(uint number)
+{
+    QDBusMessage call = methodCall("CloseNotification");
+    call.setArguments({number});
+    m_bus.send(call);
 }
 
 void BusNotifier::actionInvoked(uint, const QString &key)

@@ -6,6 +6,7 @@
 #include "platform/timed/notifier.h"
 
 #include <QDBusConnection>
+#include <QHash>
 
 namespace Astel::Timed {
 
@@ -18,6 +19,7 @@ public:
     explicit BusNotifier(const QDBusConnection &bus);
 
     void show(const Notice &notice, const std::function<void(bool)> &done) override;
+    void close(const QString &tag) override;
     bool isPresent() const override { return m_presence.isPresent(); }
 
 private slots:
@@ -25,9 +27,12 @@ private slots:
 
 private:
     void send(const Notice &notice, const std::function<void(bool)> &done);
+    void keepNumber(const QString &tag, uint number);
+    void withdraw(uint number);
 
     QDBusConnection m_bus;
     BusPresence m_presence;
+    QHash<QString, uint> m_tagged; ///< tags and the numbers of their notices, 0 while one is under way
 };
 
 } // namespace Astel::Timed

@@ -3,6 +3,7 @@
 #include "platform/timed/daemon.h"
 
 #include "platform/context/contextpublisher.h"
+#include "platform/timed/answerteller.h"
 #include "platform/timed/bootmoment.h"
 #include "platform/timed/busnotifier.h"
 #include "platform/timed/busringer.h"
@@ -62,6 +63,7 @@ struct Daemon::Parts
         , boot(book, schedule, clock, settings.bootFolder)
         , notifier(bus)
         , missedTeller(book, lifeCycle, notifier, zone)
+        , answerTeller(lifeCycle, notifier, zone)
     {
         health.add([this] { return sleep.facts(); });
         health.add([this] { return boot.facts(); });
@@ -87,6 +89,7 @@ struct Daemon::Parts
     BootMoment boot;
     BusNotifier notifier;
     MissedTeller missedTeller;
+    AnswerTeller answerTeller;
 };
 
 Daemon::Daemon(const Settings &settings, std::unique_ptr<SqliteStore> store)

@@ -141,6 +141,19 @@ Result<> LifeCycle::ringNow(quint32 cookie)
     return Done{};
 }
 
+Result<> LifeCycle::ringLater(const AlarmEvent &stopped, qint64 seconds, const QString &by)
+{
+    const AlarmEvent *stored = m_book.find(stopped.cookie());
+    const AlarmEvent event = stored ? *stored : stopped;
+    if (stored && (event.state() == State::Triggered || event.state() == State::Snoozed))
+        return Error{Wire::UnknownError, QStringLiteral("alarm %1 was not stopped").arg(event.cookie())};
+    Change change;
+    m_transitions.snooze(event, seconds, by, change);
+    apply(change);
+    emit changed();
+    return Done{};
+}
+
 void LifeCycle::tell(const QList<Miss> &misses)
 {
     Change change;
@@ -245,6 +258,7 @@ void LifeCycle::follow(const Change &change)
     for (const quint32 cookie : change.erased) {
         m_schedule.clear(cookie);
         m_ringing.end(cookie);
+        emit left(cookie);
     }
     for (const AlarmEvent &event : change.put) {
         m_doubt.touch(event.cookie());
@@ -261,6 +275,7 @@ void LifeCycle::follow(const AlarmEvent &event)
     else if (const auto moment = m_doubt.moment(event))
         m_schedule.set(event.cookie(), Purpose::Due, *moment);
     m_ringing.follow(event);
+    emit followed(event);
 }
 
 void LifeCycle::followAll()
@@ -281,8 +296,10 @@ void LifeCycle::stop(const AlarmEvent &event, const QString &by)
 {
     Change change;
     change.journal.append(m_transitions.entry(event.cookie(), "answered", QStringLiteral("stop by %1").arg(by)));
-    m_transitions.serve(event, change);
+    const AlarmEvent before = event;
+    m_transitions.serve(before, change);
     apply(change);
+    emit stopped(before);
 }
 
 void LifeCycle::note(quint32 cookie, const QString &what, const QString &detail)

@@ -46,6 +46,9 @@ public:
     Result<> dismiss(quint32 cookie, const QString &by);
     /** Rings an event that was missed, also one that is not stored any more; fails where it rings already. */
     Result<> ringNow(quint32 cookie);
+    /** Snoozes an event that was stopped, as it stood then, also one that is not stored any more; fails where it rings or
+     * snoozes. Seconds. */
+    Result<> ringLater(const AlarmEvent &stopped, qint64 seconds, const QString &by);
     /** The user has been told of these. */
     void tell(const QList<Miss> &misses);
 
@@ -65,6 +68,12 @@ signals:
     void settingsChanged(bool timeChanged);
     /** The book has misses that nobody was told of. */
     void missed();
+    /** An event stands so now; also where nothing changed. */
+    void followed(const AlarmEvent &event);
+    /** An event is stored no more. */
+    void left(quint32 cookie);
+    /** An event was stopped for good; as it stood before. */
+    void stopped(const AlarmEvent &event);
 
 private:
     void reached(quint32 cookie, Purpose purpose);

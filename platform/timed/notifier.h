@@ -18,9 +18,14 @@ struct Notice
         QString label;
     };
 
+    enum class Urgency { Low, Critical };
+
     QString summary;
     QString body;
     QList<Action> actions;
+    QString tag = {}; ///< a later notice of the same tag takes its place; empty: it stands by itself
+    QString category = QStringLiteral("x-alarm.missed");
+    Urgency urgency = Urgency::Critical;
 };
 
 /** Whoever shows notices to the user. */
@@ -31,6 +36,8 @@ class Notifier : public QObject
 public:
     /** Does not wait; "done" is called once, with whether the notice is shown. */
     virtual void show(const Notice &notice, const std::function<void(bool)> &done) = 0;
+    /** Takes back the notice of a tag; no effect without one. */
+    virtual void close(const QString &tag) = 0;
     virtual bool isPresent() const = 0;
 
 signals:

@@ -68,6 +68,23 @@ class DesktopFlow(unittest.TestCase):
         self.wait_for_end()
         phone.wait_for(lambda: number in self.desktop.closed(), 5, "notification gone")
 
+    def test_a_snooze_can_be_stopped_and_a_stop_be_taken_back(self):
+        cookie, (number, _, keys, _) = self.ring("Wake up")
+        self.desktop.choose(number, keys["Snooze · 10 min"])
+        phone.wait_for(lambda: len(self.desktop.notices("Wake up")) == 2, 10, "notification of the snooze")
+        snoozed, body, keys, _ = self.desktop.notices("Wake up")[1]
+        self.assertRegex(body, r"^Snoozed, rings again at \d\d:\d\d\.$")
+        self.phone.kill("com.astel.ringer")
+        self.desktop.choose(snoozed, keys["Stop"])
+        phone.wait_for(lambda: self.state(cookie) == "FINISHED", 10, "stopped")
+        phone.wait_for(lambda: snoozed in self.desktop.closed(), 5, "notification of the snooze gone")
+        phone.wait_for(lambda: len(self.desktop.notices("Wake up")) == 3, 10, "offer to take it back")
+        offer, body, keys, _ = self.desktop.notices("Wake up")[2]
+        self.assertEqual(body, "Stopped.")
+        self.desktop.choose(offer, keys["Ring again in 5 minutes"])
+        phone.wait_for(lambda: self.state(cookie) == "SNOOZED", 10, "rings again")
+        self.assertAlmostEqual(self.phone.triggers()[cookie] / 1e9, time.time() + 300, delta=20)
+
     def test_the_display_is_on_and_it_vibrates_while_it_rings(self):
         cookie, _ = self.ring("Wake up")
         calls = self.desktop.calls

@@ -118,6 +118,7 @@ public:
         notices.append(notice);
         m_pending.append(done);
     }
+    void close(const QString &tag) override { closed.append(tag); }
     bool isPresent() const override { return present; }
 
     /** Answers everything that is not answered yet. */
@@ -129,6 +130,7 @@ public:
     }
 
     QList<Astel::Timed::Notice> notices;
+    QStringList closed; ///< tags
     bool present = true;
 
 private:
