@@ -20,11 +20,13 @@ BUILD = sys.argv.pop(1)
 SERVER = "org.freedesktop.Notifications"
 
 
-class FallbackFlow(unittest.TestCase):
+class FallbackCase(unittest.TestCase):
+    SOUND = True
+
     def setUp(self):
         home = tempfile.TemporaryDirectory()
         self.addCleanup(home.cleanup)
-        self.phone = phone.Phone(BUILD, home.name, display=False, ringer=False)
+        self.phone = phone.Phone(BUILD, home.name, display=False, sound=self.SOUND, ringer=False)
         self.addCleanup(self.phone.close)
         server = subprocess.Popen([sys.executable, "-m", "dbusmock", "--session", "-t", "notification_daemon"],
                                   env=self.phone.environment, stdout=subprocess.DEVNULL)
@@ -55,18 +57,23 @@ class FallbackFlow(unittest.TestCase):
         self.server.EmitSignal(SERVER, "ActionInvoked", "us", [dbus.UInt32(1), key],
                                dbus_interface=dbusmock.MOCK_IFACE)
 
+    def closed_notices(self):
+        return len(self.server.GetMethodCalls("CloseNotification", dbus_interface=dbusmock.MOCK_IFACE))
+
     def wait_for_end(self):
-        phone.wait_for(self.phone.sound.is_silent, 10, "silence")
+        if self.phone.sound:
+            phone.wait_for(self.phone.sound.is_silent, 10, "silence")
         phone.wait_for(lambda: not self.phone.bus.name_has_owner("com.astel.ringer.fallback"), 10, "end of the program")
 
+
+class FallbackFlow(FallbackCase):
     def test_snooze_of_the_notification(self):
         cookie = self.ring()
         self.choose("Snooze")
         phone.wait_for(lambda: self.state(cookie) == "SNOOZED", 10, "snoozed")
         self.wait_for_end()
         self.assertEqual(self.words(cookie), ["due", "failed", "sounded", "answered"])
-        closed = self.server.GetMethodCalls("CloseNotification", dbus_interface=dbusmock.MOCK_IFACE)
-        self.assertEqual(len(closed), 1)
+        self.assertEqual(self.closed_notices(), 1)
 
     def test_stop_of_the_notification(self):
         cookie = self.ring()
@@ -78,6 +85,22 @@ class FallbackFlow(unittest.TestCase):
         self.ring()
         self.phone.kill("com.astel.timed")
         self.wait_for_end()
+        # Its buttons would do nothing any more.
+        self.assertEqual(self.closed_notices(), 1)
+
+
+class FallbackWithoutSound(FallbackCase):
+    SOUND = False
+
+    def test_it_is_seen_and_answered(self):
+        cookie = self.phone.add_event("Wake up", int(time.time()) + 1)
+        phone.wait_for(lambda: self.server.GetMethodCalls("Notify", dbus_interface=dbusmock.MOCK_IFACE), 40, "notice")
+        # Time to try each output more than once: what nobody hears is not called heard.
+        self.assertRaises(AssertionError, phone.wait_for, lambda: "sounded" in self.words(cookie), 4, "sound")
+        self.choose("Stop")
+        phone.wait_for(lambda: self.state(cookie) == "FINISHED", 10, "stopped")
+        self.wait_for_end()
+        self.assertEqual(self.words(cookie), ["due", "failed", "answered"])
 
 
 if __name__ == "__main__":

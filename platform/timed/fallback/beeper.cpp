@@ -26,6 +26,18 @@ struct Unref
     void operator()(GstBus *bus) const { gst_object_unref(bus); }
 };
 
+/** Whether the output takes the tone and gives it to nobody: the last choice of an automatic one. */
+bool isDeaf(GstElement *pipeline)
+{
+    GstIterator *outputs = gst_bin_iterate_all_by_element_factory_name(GST_BIN(pipeline), "fakesink");
+    GValue output = G_VALUE_INIT;
+    const bool found = gst_iterator_next(outputs, &output) == GST_ITERATOR_OK;
+    if (found)
+        g_value_unset(&output);
+    gst_iterator_free(outputs);
+    return found;
+}
+
 } // namespace
 
 void Beeper::End::operator()(GstElement *pipeline) const
@@ -65,8 +77,11 @@ void Beeper::open()
     m_output = (m_output + 1) % Outputs.size();
     GError *error = nullptr;
     m_pipeline.reset(gst_parse_launch_full(description.constData(), nullptr, GST_PARSE_FLAG_FATAL_ERRORS, &error));
-    if (!m_pipeline || gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) == GST_STATE_CHANGE_FAILURE) {
-        qWarning("no sound through %s", description.constData());
+    if (!m_pipeline || gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) == GST_STATE_CHANGE_FAILURE
+        || isDeaf(m_pipeline.get())) {
+        // Once for each: without any output they are tried over and over.
+        if (++m_failures <= Outputs.size())
+            qWarning("no sound through %s", description.constData());
         m_pipeline.reset();
         m_retry.start();
     } else {

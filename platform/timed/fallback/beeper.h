@@ -42,6 +42,7 @@ private:
 
     std::unique_ptr<GstElement, End> m_pipeline;
     std::size_t m_output = 0;
+    std::size_t m_failures = 0;
     bool m_heard = false;
     QTimer m_retry;
     QTimer m_watch;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <QDBusMessage>
+#include <utility>
 
 namespace Fallback {
 
@@ -57,6 +58,14 @@ void FallbackRinger::stop(uint cookie)
     m_notice.close(cookie);
     if (!m_ringing.empty())
         return;
+    m_beeper.stop();
+    emit finished();
+}
+
+void FallbackRinger::stopAll()
+{
+    for (const quint32 cookie : std::exchange(m_ringing, {}))
+        m_notice.close(cookie);
     m_beeper.stop();
     emit finished();
 }

@@ -25,6 +25,8 @@ public:
 
     /** False where the bus does not take it. */
     [[nodiscard]] bool registerOnBus();
+    /** Nobody can be answered any more. */
+    void stopAll();
 
 public slots:
     /** From the daemon. */

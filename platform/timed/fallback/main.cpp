@@ -32,7 +32,7 @@ int main(int argc, char *argv[])
                      [&] { QTimer::singleShot(LastWords, &application, &QCoreApplication::quit); });
     // Without the daemon nobody could stop it; the daemon rings again when it is back.
     const QDBusServiceWatcher daemon(Astel::Timed::Wire::Service, bus, QDBusServiceWatcher::WatchForUnregistration);
-    QObject::connect(&daemon, &QDBusServiceWatcher::serviceUnregistered, &application, &QCoreApplication::quit);
+    QObject::connect(&daemon, &QDBusServiceWatcher::serviceUnregistered, &ringer, &Fallback::FallbackRinger::stopAll);
     if (!bus.connect({}, "/org/freedesktop/DBus/Local", "org.freedesktop.DBus.Local", "Disconnected", &application,
                      SLOT(quit())))
         qWarning("cannot see the end of the session bus, ignoring");
