@@ -28,6 +28,10 @@ namespace {
 constexpr auto Corrupt = "11";
 constexpr auto NotADatabase = "26";
 
+// Whoever takes a snapshot moves the log into the file; a change that did would be answered late. In pages, for the case
+// that no snapshot can be taken.
+constexpr auto KeepLog = "PRAGMA wal_autocheckpoint=10000";
+
 constexpr auto DamagedMark = ".damaged-";
 constexpr int MostSetAside = 100;
 
@@ -147,7 +151,8 @@ Database::Condition Database::connect()
 Database::Condition Database::prepare()
 {
     QSqlQuery query(connection());
-    for (const char *statement : {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL", "PRAGMA integrity_check"}) {
+    for (const char *statement :
+         {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL", KeepLog, "PRAGMA integrity_check"}) {
         if (!query.exec(statement))
             return conditionAfter(query.lastError());
     }

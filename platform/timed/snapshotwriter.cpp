@@ -106,6 +106,8 @@ QString SnapshotWriter::copy(const QString &target)
     }
     if (integrity != QLatin1String("ok"))
         return integrity;
+    if (const QString unmoved = source.run("PRAGMA wal_checkpoint(PASSIVE)"); !unmoved.isEmpty())
+        qCWarning(lcTimed, "ignoring: the log stays beside the database: %ls", qUtf16Printable(unmoved));
     QString problem = source.run("VACUUM INTO ?", {target});
     if (!problem.isEmpty())
         return problem;

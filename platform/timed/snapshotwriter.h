@@ -10,9 +10,9 @@
 namespace Astel::Timed {
 
 /**
- * Copies the database beside itself, in a thread and over a connection of its own, so that nobody waits for it. A copy
- * is checked and on the disk before it takes the place of the last one; a failure is logged and leaves that. Waits for
- * the copy under way when it is destroyed.
+ * Moves the log of the database into it and copies it beside itself, in a thread and over a connection of its own, so
+ * that nobody waits for it. A copy is checked and on the disk before it takes the place of the last one; a failure is
+ * logged and leaves that. Waits for the copy under way when it is destroyed.
  */
 class SnapshotWriter
 {

@@ -6,6 +6,7 @@
 #include "tests/timed/storefolder.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QSqlQuery>
 #include <QTest>
 
@@ -32,6 +33,7 @@ private slots:
     void recordThatCannotBeReadDoesNotLoseTheOthers();
     void snapshotIsWantedAfterTenCommitsOrADayWithAny();
     void snapshotKeepsNobodyWaiting();
+    void snapshotMovesTheLogIntoTheFile();
 
 private:
     std::unique_ptr<SqliteStore> open() const { return m_folder->open(); }
@@ -179,6 +181,25 @@ void tst_SqliteStore::snapshotKeepsNobodyWaiting()
     qInfo("begun after %lld ms, changed after %lld ms, written after %lld ms", begun, changed, time.elapsed());
     QVERIFY(begun < time.elapsed() / 2);
     QCOMPARE(store->facts().value("store_integrity").toString(), "ok");
+}
+
+void tst_SqliteStore::snapshotMovesTheLogIntoTheFile()
+{
+    const auto store = open();
+    store->waitForSnapshot();
+    const QString path = store->facts().value("store_path").toString();
+    const qint64 before = QFileInfo(path).size();
+    Change change;
+    for (quint32 cookie = 1; cookie <= 10000; ++cookie)
+        change.put.append(stored(cookie));
+    QVERIFY(store->commit(change));
+    QVERIFY(store->commit(change));
+    // More than SQLite leaves in the log by itself, and nobody who adds an alarm waits for that.
+    QVERIFY(QFileInfo(path + "-wal").size() > 1000 * 4096);
+    QCOMPARE(QFileInfo(path).size(), before);
+    store->takeSnapshot(Now);
+    store->waitForSnapshot();
+    QVERIFY(QFileInfo(path).size() > before + 1000000);
 }
 
 QTEST_GUILESS_MAIN(tst_SqliteStore)
