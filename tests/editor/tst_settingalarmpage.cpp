@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QMap>
 #include <QMetaMethod>
 #include <QStandardPaths>
 
@@ -17,7 +18,7 @@ class TestSettingAlarmPage : public EditorTest
 private slots:
     void initTestCase() { startStage(); }
     void init() { openPage(); }
-    void cleanup() { closePage(); }
+    void cleanup();
     void aNewAlarmStartsWithTheDefaults();
     void aNewAlarmTakesThePreferences();
     void aNewAlarmTakesPreferencesWrittenByHand();
@@ -29,6 +30,8 @@ private slots:
     void aTitleOfBlanksShowsThePromptAgain();
     void theLabelsFollowThePicker();
     void theHourComesFirstFromRightToLeftToo();
+    void theMarkerStandsWhereTheLanguagePutsIt_data();
+    void theMarkerStandsWhereTheLanguagePutsIt();
     void theTouchedLabelStandsOut();
     void resettingDismisses();
     void everythingStandsInItsOrder();
@@ -37,7 +40,30 @@ private slots:
     void aNewTimeFormatShowsAtOnce();
     void itIsNamedForThoseWhoDoNotSeeIt();
     void theSlotsKeepTheirOrder();
+
+private:
+    /** The file of the user's own locale settings; without content there is none. */
+    static void writeLocaleSettings(const QByteArray &content);
 };
+
+void TestSettingAlarmPage::cleanup()
+{
+    writeLocaleSettings(QByteArray());
+    closePage();
+}
+
+void TestSettingAlarmPage::writeLocaleSettings(const QByteArray &content)
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/Korvo";
+    QVERIFY(QDir().mkpath(folder));
+    QFile file(folder + "/Locale.conf");
+    if (content.isEmpty()) {
+        file.remove();
+        return;
+    }
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
 
 void TestSettingAlarmPage::aNewAlarmStartsWithTheDefaults()
 {
@@ -150,6 +176,36 @@ void TestSettingAlarmPage::theHourComesFirstFromRightToLeftToo()
     QTRY_VERIFY(label("ClockhhLabel")->scenePos().x() < label("ClockmmLabel")->scenePos().x());
 }
 
+void TestSettingAlarmPage::theMarkerStandsWhereTheLanguagePutsIt_data()
+{
+    QTest::addColumn<QByteArray>("settings");
+    QTest::addColumn<QStringList>("order");
+    const QStringList digits{"ClockhhLabel", "ClockColonLabel", "ClockmmLabel"};
+    const QString marker = "ClockampmLabel";
+    QTest::newRow("after the digits") << QByteArray("language=en\nregion=US\n") << digits + QStringList{marker};
+    QTest::newRow("before the digits") << QByteArray("language=ko\nregion=KR\n") << QStringList{marker} + digits;
+    QTest::newRow("written from right to left")
+        << QByteArray("language=ar\nregion=EG\n") << QStringList{marker} + digits;
+    QTest::newRow("nowhere") << QByteArray("language=en\nregion=GB\n") << digits;
+}
+
+void TestSettingAlarmPage::theMarkerStandsWhereTheLanguagePutsIt()
+{
+    QFETCH(QByteArray, settings);
+    QFETCH(QStringList, order);
+    load(QmAlarmEvent::NotStored);
+    writeLocaleSettings(settings);
+    const auto shownOrder = [this] {
+        QMap<qreal, QString> places;
+        for (const char *name : {"ClockhhLabel", "ClockColonLabel", "ClockmmLabel", "ClockampmLabel"}) {
+            if (label(name)->isVisible())
+                places.insert(label(name)->scenePos().x(), name);
+        }
+        return QStringList(places.values());
+    };
+    QTRY_COMPARE(shownOrder(), order);
+}
+
 void TestSettingAlarmPage::theTouchedLabelStandsOut()
 {
     const auto *hour = label("ClockhhLabel");
@@ -182,6 +238,9 @@ void TestSettingAlarmPage::everythingStandsInItsOrder()
     QTRY_VERIFY(top(remove) > top(m_picker) + m_picker->size().height());
     QVERIFY(top(m_title) < top(hour));
     QVERIFY(top(hour) + hour->size().height() <= top(m_picker));
+    const auto *options = Support::itemIn<Touch::Widget>(m_page.get(), "moreOptionsBasicListItem");
+    QVERIFY(top(options) >= top(m_picker) + m_picker->size().height());
+    QVERIFY(top(options) + options->size().height() <= top(remove));
     load(QmAlarmEvent::NotStored);
     QTRY_VERIFY(top(m_title) < top(hour) && top(hour) < top(m_picker));
 }
@@ -221,15 +280,10 @@ void TestSettingAlarmPage::aNewTimeFormatShowsAtOnce()
 {
     load(Support::addAlarm(QTime(21, 35)), QTime(21, 35));
     QCOMPARE(label("ClockhhLabel")->text(), "21");
-    const QString settings = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/Korvo";
-    QVERIFY(QDir().mkpath(settings));
-    QFile file(settings + "/Locale.conf");
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("timeFormat=12\n");
-    file.close();
+    writeLocaleSettings("timeFormat=12\n");
     QTRY_COMPARE(label("ClockhhLabel")->text(), "09");
     QTRY_VERIFY(label("ClockampmLabel")->isVisible());
-    QVERIFY(file.remove());
+    writeLocaleSettings(QByteArray());
     QTRY_COMPARE(label("ClockhhLabel")->text(), "21");
 }
 
