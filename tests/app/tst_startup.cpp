@@ -74,6 +74,7 @@ private slots:
     void initTestCase();
     void cleanup();
     void everythingStartsAndEndsInItsOrder();
+    void theBackupParticipantAnswers_data();
     void theBackupParticipantAnswers();
     void aLaunchRequestResetsThePage();
     void aLaunchWithArgumentsDoesNotReset();
@@ -111,17 +112,27 @@ void TestStartup::everythingStartsAndEndsInItsOrder()
     QVERIFY(program.lines().filter("could not register").isEmpty());
 }
 
+void TestStartup::theBackupParticipantAnswers_data()
+{
+    QTest::addColumn<QString>("method");
+    for (const char *method : {"backupStarts", "backupFinished", "restoreStarts", "restoreFinished"})
+        QTest::newRow(method) << method;
+}
+
 void TestStartup::theBackupParticipantAnswers()
 {
+    QFETCH(QString, method);
     Program program;
     QVERIFY(program.start());
     QVERIFY(Support::PrivateBus::waitForService(BackupService));
-    const auto call
-        = QDBusMessage::createMethodCall(BackupService, "/backupclient", "com.korvo.backupclient", "restoreStarts");
+    const auto call = QDBusMessage::createMethodCall(BackupService, "/backupclient", "com.korvo.backupclient", method);
     const QDBusReply<uchar> reply = QDBusConnection::sessionBus().call(call);
     QVERIFY(reply.isValid());
     QCOMPARE(reply.value(), uchar(0));
-    QVERIFY(program.logs("restoreStarts"));
+    QVERIFY(program.logs(method));
+    // It runs on, and has not touched its alarms.
+    const QStringList lines = program.lines();
+    QVERIFY(lines.mid(lines.indexOf(method)).filter("AlarmsWidget").isEmpty());
     QVERIFY(request("exit"));
     QCOMPARE(program.status(), 0);
 }

@@ -91,6 +91,16 @@ void doubleTap(const QPoint &point)
     xdotool(moveTo(point) + QStringList{"click", "--repeat", "2", "--delay", "80", "1"});
 }
 
+void hold(const QPoint &point)
+{
+    xdotool(moveTo(point) + QStringList{"mousedown", "1"});
+}
+
+void lift()
+{
+    xdotool({"mouseup", "1"});
+}
+
 void drag(const QPoint &from, const QPoint &to)
 {
     constexpr int steps = 8;

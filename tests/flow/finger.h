@@ -17,6 +17,9 @@ namespace Flow {
 // Real input, sent by the X server to whatever lies there.
 void tap(const QPoint &position);
 void doubleTap(const QPoint &position);
+/** Puts the finger down until it is lifted. */
+void hold(const QPoint &position);
+void lift();
 void drag(const QPoint &from, const QPoint &to);
 void type(const QString &text);
 void press(const QString &key);

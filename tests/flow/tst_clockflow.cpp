@@ -4,93 +4,44 @@
 #include "platform/clockwidgets/alarmlistitem.h"
 #include "platform/clockwidgets/timepicker.h"
 #include "platform/toolkit/applicationwindow.h"
-#include "platform/toolkit/banner.h"
-#include "platform/toolkit/switch.h"
 #include "platform/toolkit/textedit.h"
+#include "tests/flow/alarmscreen.h"
 #include "tests/flow/finger.h"
 #include "tests/flow/wholeprogram.h"
+#include "tests/support/alarms.h"
 #include "tests/support/places.h"
 
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
-#include <algorithm>
-
 using Flow::isMoving;
 using Flow::itemNamed;
 using Flow::keepScreenshot;
+using Flow::picker;
 using Flow::pointOf;
+using Flow::rows;
 
 namespace {
 
-/** The alarm rows on the screen, from top to bottom. */
-QList<AlarmListItem *> rows()
-{
-    QList<AlarmListItem *> found;
-    const auto items = applicationWindow->scene()->items();
-    for (QGraphicsItem *item : items) {
-        auto *row = qobject_cast<AlarmListItem *>(item->toGraphicsObject());
-        if (row && row->isVisible())
-            found.append(row);
-    }
-    std::sort(found.begin(), found.end(),
-              [](const auto *a, const auto *b) { return a->scenePos().y() < b->scenePos().y(); });
-    return found;
-}
+const QTime morning(6, 25);
 
-QString bannerTitle()
+/** Waits until the row of an alarm that was just stored stands still on the screen. */
+bool waitForRows(int count)
 {
-    const auto sceneWindows = applicationWindow->sceneWindows();
-    for (const Touch::SceneWindow *sceneWindow : sceneWindows) {
-        const auto *banner = qobject_cast<const Touch::Banner *>(sceneWindow);
-        if (banner && banner->isOnDisplay())
-            return banner->title();
-    }
-    return QString();
-}
-
-TimePicker *picker()
-{
-    return qobject_cast<TimePicker *>(itemNamed("timePicker"));
-}
-
-/** Drags a handle of the dial round by an angle, in degrees. */
-void dragHandle(const QPointF &handle, qreal angle)
-{
-    const QPointF centre = picker()->rect().center();
-    const QPointF target = QTransform().translate(centre.x(), centre.y()).rotate(angle).map(handle - centre);
-    const auto part = [](const QPointF &point) {
-        return pointOf(picker(), point.x() / picker()->size().width(), point.y() / picker()->size().height());
-    };
-    Flow::drag(part(handle), part(target));
-}
-
-/** Where the switch of a row is. */
-QPoint switchOf(int row)
-{
-    const AlarmListItem *item = rows().at(row);
-    const auto children = item->childItems();
-    for (QGraphicsItem *child : children) {
-        if (const auto *object = qobject_cast<Touch::Switch *>(child->toGraphicsObject()))
-            return pointOf(object);
-    }
-    return pointOf(item, 0.9);
-}
-
-int runAlarmctl(const QStringList &arguments)
-{
-    return QProcess::execute(Places::program("alarmctl"), arguments);
+    return QTest::qWaitFor([=] { return rows().size() == count && !isMoving(); });
 }
 
 } // namespace
 
+/** What can be done with the running program, each on its own. */
 class TestClockFlow : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { QVERIFY(Flow::prepareWindow()); }
+    void init() { QVERIFY(Flow::startAfresh()); }
     void theWindowStaysInPortrait();
     void anEmptyListTellsHowToMakeAnAlarm();
     void theNewAlarmButtonOpensTheEditor();
@@ -100,20 +51,8 @@ private slots:
     void cancellingClosesTheEditor();
     void aDoubleTapOnARowChangesNoTime();
     void anAlarmAddedElsewhereAppearsByItself();
-    void switchingOnShowsTheTimeLeft();
     void deletingInTheEditorTakesTheRowAway();
-
-private:
-    QTime m_chosen;
 };
-
-void TestClockFlow::initTestCase()
-{
-    QVERIFY(QTest::qWaitForWindowExposed(applicationWindow));
-    // There is no window manager that would give the focus.
-    QCOMPARE(QProcess::execute("xdotool", {"windowfocus", QString::number(applicationWindow->winId())}), 0);
-    QVERIFY(QTest::qWaitForWindowActive(applicationWindow));
-}
 
 void TestClockFlow::theWindowStaysInPortrait()
 {
@@ -131,68 +70,69 @@ void TestClockFlow::theWindowStaysInPortrait()
 void TestClockFlow::anEmptyListTellsHowToMakeAnAlarm()
 {
     QTRY_VERIFY(Flow::visibleTexts().contains("No alarms yet"));
-    QVERIFY(rows().isEmpty());
-    QTRY_VERIFY(!isMoving());
-    QVERIFY(keepScreenshot("1-empty"));
+    QVERIFY(keepScreenshot("flow-empty"));
 }
 
 void TestClockFlow::theNewAlarmButtonOpensTheEditor()
 {
-    QVERIFY(itemNamed("newAlarmButton"));
     Flow::tap(pointOf(itemNamed("newAlarmButton")));
     QTRY_VERIFY(picker() && !isMoving());
-    QCOMPARE(QTime(picker()->hours(), picker()->minutes()), QTime(8, 0));
     QVERIFY2(!itemNamed("deleteButton"), "there is nothing to delete yet");
-    QVERIFY(keepScreenshot("2-new-alarm"));
+    QVERIFY(keepScreenshot("flow-new-alarm"));
 }
 
 void TestClockFlow::theTitleIsTypedAndTheTimeDragged()
 {
+    Flow::tap(pointOf(itemNamed("newAlarmButton")));
+    QTRY_VERIFY(picker() && !isMoving());
     Flow::tap(pointOf(itemNamed("AlarmNameInputField")));
     Flow::type("Wake up");
-    auto *title = qobject_cast<Touch::TextEdit *>(itemNamed("AlarmNameInputField"));
+    const auto *title = qobject_cast<Touch::TextEdit *>(itemNamed("AlarmNameInputField"));
     QVERIFY(title);
     QTRY_COMPARE(title->text(), "Wake up");
 
-    const QTime before(picker()->hours(), picker()->minutes());
+    const QTime before = Flow::pickedTime();
     QSignalSpy released(picker(), &TimePicker::discReleased);
-    dragHandle(picker()->hourHandle(), -45);
+    Flow::dragHourHandle(-45);
     QTRY_COMPARE(released.size(), 1);
-    dragHandle(picker()->minuteHandle(), 120);
+    Flow::dragMinuteHandle(120);
     QTRY_COMPARE(released.size(), 2);
-    m_chosen = QTime(picker()->hours(), picker()->minutes());
-    QVERIFY(m_chosen.hour() != before.hour());
-    QVERIFY(m_chosen.minute() != before.minute());
-    QTRY_VERIFY(Flow::visibleTexts().contains(m_chosen.toString("hh")));
-    QVERIFY(Flow::visibleTexts().contains(m_chosen.toString("mm")));
-    QVERIFY(keepScreenshot("3-edited"));
+    const QTime chosen = Flow::pickedTime();
+    QVERIFY(chosen.hour() != before.hour());
+    QVERIFY(chosen.minute() != before.minute());
+    QTRY_VERIFY(Flow::visibleTexts().contains(chosen.toString("hh")));
+    QVERIFY(Flow::visibleTexts().contains(chosen.toString("mm")));
+    QVERIFY(keepScreenshot("flow-edited"));
 }
 
 void TestClockFlow::savingShowsTheTimeLeftAndTheRow()
 {
-    Flow::tap(pointOf(itemNamed("positiveButton")));
-    QTRY_VERIFY(bannerTitle().startsWith("Alarm in "));
-    QTRY_COMPARE(rows().size(), 1);
-    QCOMPARE(rows().first()->title(), m_chosen);
-    QCOMPARE(rows().first()->subTitle(), "Wake up");
+    QVERIFY(Flow::makeAlarm("Wake up", 60));
+    QVERIFY2(Flow::bannerTitle().startsWith("Alarm in "), qPrintable(Flow::bannerTitle()));
+    QCOMPARE(rows().size(), 1);
     QVERIFY(rows().first()->enabled());
-    QTRY_VERIFY(!isMoving());
     QVERIFY(!Flow::visibleTexts().contains("No alarms yet"));
-    QVERIFY(keepScreenshot("4-saved"));
+    QVERIFY(keepScreenshot("flow-saved"));
 }
 
 void TestClockFlow::tappingTheRowOpensItsValues()
 {
+    Support::addAlarm(morning, "Tea");
+    QVERIFY(waitForRows(1));
     Flow::tap(pointOf(rows().first(), 0.25));
     QTRY_VERIFY(picker() && !isMoving());
-    QCOMPARE(QTime(picker()->hours(), picker()->minutes()), m_chosen);
-    QCOMPARE(qobject_cast<Touch::TextEdit *>(itemNamed("AlarmNameInputField"))->text(), "Wake up");
+    QCOMPARE(Flow::pickedTime(), morning);
+    QCOMPARE(qobject_cast<Touch::TextEdit *>(itemNamed("AlarmNameInputField"))->text(), "Tea");
     QVERIFY(itemNamed("deleteButton"));
-    QVERIFY(keepScreenshot("5-existing-alarm"));
+    QVERIFY(keepScreenshot("flow-existing-alarm"));
 }
 
 void TestClockFlow::cancellingClosesTheEditor()
 {
+    Support::addAlarm(morning, "Tea");
+    QVERIFY(waitForRows(1));
+    Flow::tap(pointOf(rows().first(), 0.25));
+    QTRY_VERIFY(picker() && !isMoving());
     Flow::tap(pointOf(itemNamed("negativeButton")));
     QTRY_VERIFY(!picker());
     QCOMPARE(rows().size(), 1);
@@ -200,52 +140,38 @@ void TestClockFlow::cancellingClosesTheEditor()
 
 void TestClockFlow::aDoubleTapOnARowChangesNoTime()
 {
-    QTRY_VERIFY(!isMoving());
+    Support::addAlarm(morning, "Tea");
+    QVERIFY(waitForRows(1));
     Flow::doubleTap(pointOf(rows().first()));
     QTRY_VERIFY(picker() && !isMoving());
-    QCOMPARE(QTime(picker()->hours(), picker()->minutes()), m_chosen);
+    QCOMPARE(Flow::pickedTime(), morning);
     Flow::press("Escape");
     QTRY_VERIFY(!picker());
 }
 
 void TestClockFlow::anAlarmAddedElsewhereAppearsByItself()
 {
-    QCOMPARE(runAlarmctl({"add", "06:15", "--title", "From outside", "--days", "mon,wed"}), 0);
-    QTRY_COMPARE(rows().size(), 2);
-    const auto isFromOutside = [](const AlarmListItem *row) { return row->subTitle() == "From outside"; };
-    const auto shown = rows();
-    const auto row = std::find_if(shown.begin(), shown.end(), isFromOutside);
-    QVERIFY(row != shown.end());
-    QCOMPARE((*row)->title(), QTime(6, 15));
-    QCOMPARE((*row)->subText(), "Mon, Wed");
-    QVERIFY(keepScreenshot("6-added-elsewhere"));
-}
-
-void TestClockFlow::switchingOnShowsTheTimeLeft()
-{
-    QTRY_VERIFY(bannerTitle().isEmpty());
-    Flow::tap(switchOf(0));
-    QTRY_VERIFY(!rows().first()->enabled());
-    QVERIFY(keepScreenshot("7-switched-off"));
-    QVERIFY(bannerTitle().isEmpty());
-    Flow::tap(switchOf(0));
-    QTRY_VERIFY(bannerTitle().startsWith("Alarm in "));
-    QVERIFY(rows().first()->enabled());
-    QTRY_VERIFY(!isMoving());
-    QVERIFY(keepScreenshot("8-switched-on"));
+    const QStringList arguments{"add", "06:15", "--title", "From outside", "--days", "mon,wed"};
+    QCOMPARE(QProcess::execute(Places::program("alarmctl"), arguments), 0);
+    QVERIFY(waitForRows(1));
+    QCOMPARE(rows().first()->subTitle(), "From outside");
+    QCOMPARE(rows().first()->title(), QTime(6, 15));
+    QCOMPARE(rows().first()->subText(), "Mon, Wed");
+    QVERIFY(keepScreenshot("flow-added-elsewhere"));
 }
 
 void TestClockFlow::deletingInTheEditorTakesTheRowAway()
 {
-    const long cookie = rows().last()->alarmCookie();
-    Flow::tap(pointOf(rows().last(), 0.25));
+    Support::addAlarm(morning, "Tea");
+    Support::addAlarm(morning.addSecs(60), "Coffee");
+    QVERIFY(waitForRows(2));
+    Flow::tap(pointOf(Flow::rowTitled("Tea"), 0.25));
     QTRY_VERIFY(picker() && !isMoving());
     Flow::tap(pointOf(itemNamed("deleteButton")));
-    QTRY_VERIFY(!picker());
-    QTRY_COMPARE(rows().size(), 1);
-    QVERIFY(rows().first()->alarmCookie() != cookie);
+    QTRY_VERIFY(!picker() && rows().size() == 1);
+    QCOMPARE(rows().first()->subTitle(), "Coffee");
     QTRY_VERIFY(!isMoving());
-    QVERIFY(keepScreenshot("9-deleted"));
+    QVERIFY(keepScreenshot("flow-deleted"));
 }
 
 int main(int argc, char **argv)

@@ -31,6 +31,7 @@ private slots:
     void initTestCase();
     void init();
     void aNewPageHasNoContentAndNoChrome();
+    void itsCataloguesAreInstalledSoundsAfterCountries();
     void contentIsCreatedOnceWhenItAppears();
     void inPortraitTheClockStandsAboveTheAlarms();
     void theDividerFollowsTheWidth();
@@ -88,6 +89,16 @@ void TestMashupPage::aNewPageHasNoContentAndNoChrome()
     for (const auto component :
          {ApplicationPage::HomeButton, ApplicationPage::EscapeButton, ApplicationPage::NavigationBar})
         QCOMPARE(m_page->componentDisplayMode(component), ApplicationPage::Hide);
+}
+
+// Before any other page appears: catalogues stay.
+void TestMashupPage::itsCataloguesAreInstalledSoundsAfterCountries()
+{
+    QCOMPARE(qtTrId("test_countries"), "test_countries");
+    m_page->appear(m_window.get());
+    QCOMPARE(qtTrId("test_countries"), "from countries");
+    QCOMPARE(qtTrId("test_sounds"), "from sounds");
+    QCOMPARE(qtTrId("test_both"), "sounds first");
 }
 
 void TestMashupPage::contentIsCreatedOnceWhenItAppears()

@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+// Prints how long the list of alarms takes to be read from the daemon and shown, with 10, 100 and 1,000 alarms; how long
+// after a save its row is there; and what the slowest frames take when 500 alarms are scrolled through.
+#include "alarms/qmalarm.h"
+#include "alarms/qmalarmevent.h"
+#include "platform/clockwidgets/alarmlistitem.h"
+#include "tests/alarmlist/alarmsection.h"
+#include "tests/support/alarms.h"
+
+#include <algorithm>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QLoggingCategory>
+#include <QPainter>
+#include <QTextStream>
+
+namespace {
+
+constexpr int runs = 9;
+constexpr int scrolledRows = 500;
+constexpr int scrollStep = 40; ///< pixels a frame
+
+double milliseconds(const QElapsedTimer &timer)
+{
+    return double(timer.nsecsElapsed()) / 1e6;
+}
+
+void report(const QString &what, QList<double> values)
+{
+    std::sort(values.begin(), values.end());
+    QTextStream(stdout) << qSetFieldWidth(44) << Qt::left << what << qSetFieldWidth(0)
+                        << QString("median %1 ms, 99 % %2 ms, longest %3 ms\n")
+                               .arg(values.at(values.size() / 2), 0, 'f', 1)
+                               .arg(values.at(values.size() * 99 / 100), 0, 'f', 1)
+                               .arg(values.last(), 0, 'f', 1);
+}
+
+/** Adds switched-off alarms, of which no notification comes in between. */
+void fillUp(int &stored, int count)
+{
+    for (; stored < count; ++stored)
+        Support::addSwitchedOffAlarm(QTime(stored / 60 % 24, stored % 60), QString("Alarm number %1").arg(stored));
+}
+
+void paintNow(AlarmSection &section)
+{
+    QCoreApplication::sendPostedEvents();
+    section.window()->viewport()->repaint();
+}
+
+void measureLoading(AlarmSection &section, int count)
+{
+    QList<double> first;
+    QList<double> again;
+    for (int run = 0; run < runs; ++run) {
+        section.openAtOnce();
+        // Nothing has been read yet, or it is read anew: the rows are counted from none.
+        section.model()->removeRows(0, section.model()->rowCount());
+        QElapsedTimer timer;
+        timer.start();
+        section.widget()->updateContent();
+        paintNow(section);
+        first.append(milliseconds(timer));
+        timer.start();
+        section.widget()->updateContent();
+        paintNow(section);
+        again.append(milliseconds(timer));
+    }
+    report(QString("first load of %1 alarms").arg(count), first);
+    report(QString("reload of %1 alarms").arg(count), again);
+}
+
+/** From the call that stores an alarm to the painted list with its row, which the daemon's notification brings. */
+void measureSaving(AlarmSection &section, int count)
+{
+    QList<double> times;
+    for (int run = 0; run < runs; ++run) {
+        const int before = section.model()->rowCount();
+        QElapsedTimer timer;
+        timer.start();
+        const quint32 cookie = Support::addAlarm(QTime(4, 30), "Saved");
+        while (section.model()->rowCount() == before && timer.elapsed() < 10000)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        paintNow(section);
+        times.append(milliseconds(timer));
+        Clock::QmAlarm().deleteEvent(cookie);
+        while (section.model()->rowCount() > before && timer.elapsed() < 20000)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    report(QString("save to row among %1 alarms").arg(count), times);
+}
+
+void measureScrolling(AlarmSection &section)
+{
+    QList<double> frames;
+    Touch::PannableViewport *viewport = section.viewport();
+    paintNow(section);
+    for (double y = 0; y < viewport->range().y(); y += scrollStep) {
+        QElapsedTimer timer;
+        timer.start();
+        viewport->setPosition({0, y});
+        paintNow(section);
+        frames.append(milliseconds(timer));
+    }
+    report(QString("a frame of scrolling %1 alarms").arg(scrolledRows), frames);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QLoggingCategory::setFilterRules("*.debug=false");
+    AlarmSection section;
+    if (!section.start() || !section.open())
+        return 1;
+    int stored = 0;
+    for (const int count : {10, 100, scrolledRows, 1000}) {
+        fillUp(stored, count);
+        measureLoading(section, count);
+        measureSaving(section, count);
+        if (count == scrolledRows)
+            measureScrolling(section);
+    }
+    return 0;
+}
