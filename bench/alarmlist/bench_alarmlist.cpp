@@ -4,17 +4,13 @@
 // Prints how long the list of alarms takes to be read from the daemon and shown, with 10, 100 and 1,000 alarms; how long
 // after a save its row is there; and what the slowest frames take when 500 alarms are scrolled through.
 #include "alarms/qmalarm.h"
-#include "alarms/qmalarmevent.h"
-#include "platform/clockwidgets/alarmlistitem.h"
 #include "tests/alarmlist/alarmsection.h"
 #include "tests/support/alarms.h"
 
 #include <algorithm>
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QImage>
 #include <QLoggingCategory>
-#include <QPainter>
 #include <QTextStream>
 
 namespace {
@@ -31,8 +27,8 @@ double milliseconds(const QElapsedTimer &timer)
 void report(const QString &what, QList<double> values)
 {
     std::sort(values.begin(), values.end());
-    QTextStream(stdout) << qSetFieldWidth(44) << Qt::left << what << qSetFieldWidth(0)
-                        << QString("median %1 ms, 99 % %2 ms, longest %3 ms\n")
+    QTextStream(stdout) << QString("%1 median %2 ms, 99 % %3 ms, longest %4 ms\n")
+                               .arg(what, -36)
                                .arg(values.at(values.size() / 2), 0, 'f', 1)
                                .arg(values.at(values.size() * 99 / 100), 0, 'f', 1)
                                .arg(values.last(), 0, 'f', 1);

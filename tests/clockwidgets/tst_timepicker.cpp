@@ -3,52 +3,13 @@
 #include "platform/clockwidgets/timepicker.h"
 
 #include "platform/locale/locale.h"
-#include "tests/clockwidgets/stage.h"
+#include "tests/clockwidgets/pickerscene.h"
 
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
-#include <QtMath>
-#include <QWheelEvent>
 
 using Touch::Locale;
-
-namespace {
-
-const QPointF middle(200, 200);
-
-struct Scene
-{
-    explicit Scene(int hours, int minutes)
-        : picker(new TimePicker(hours, minutes))
-        , stage(picker, {40, 40, 400, 400})
-        , changes(picker, &TimePicker::timeChanged)
-    { }
-
-    QTime time() const { return {picker->hours(), picker->minutes()}; }
-    /// The point of a ring at an angle from the top.
-    QPointF onRing(const QPointF &handle, qreal degrees) const
-    {
-        const qreal radius = QLineF(middle, handle).length();
-        const qreal radians = qDegreesToRadians(degrees);
-        return middle + QPointF(radius * qSin(radians), -radius * qCos(radians));
-    }
-    QPointF onHours(qreal degrees) const { return onRing(picker->hourHandle(), degrees); }
-    QPointF onMinutes(qreal degrees) const { return onRing(picker->minuteHandle(), degrees); }
-    void wheel(const QPointF &point, int delta)
-    {
-        const QPointF inView = stage.window.mapFromScene(picker->mapToScene(point));
-        QWheelEvent event(inView, stage.window.viewport()->mapToGlobal(inView), {}, {0, delta}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(stage.window.viewport(), &event);
-    }
-
-    TimePicker *picker;
-    Stage stage;
-    QSignalSpy changes;
-};
-
-} // namespace
 
 class tst_TimePicker : public QObject
 {
@@ -60,20 +21,6 @@ private Q_SLOTS:
     void foldsAnyNumber();
     void tellsOnlyRealChanges();
     void isReadAndSetWithoutBeingSeen();
-    void dragsTheHour();
-    void theHourGoesOnIntoTheOtherHalfOfTheDay();
-    void dragsTheMinute();
-    void theMinutePastTheTopLeavesTheHourAlone();
-    void aFastDragGoesByFives();
-    void grippingAHandleOffItsMiddleMovesNothing();
-    void aTapOnARingGoesThere();
-    void aTapStaysInTheHalfOfTheDay();
-    void aTapInTheMiddleChangesTheHalfOfTheDay();
-    void eachOfTwoQuickTapsCounts();
-    void saysWhichDiscIsTouchedBeforeItChanges();
-    void isReleasedWhenSomeoneElseTakesTheTouch();
-    void takesNoTouchOutsideTheRings();
-    void hasHandlesForFingers();
     void turnsWithTheWheel();
     void obeysKeys();
     void followsTheTimeFormat();
@@ -111,10 +58,23 @@ void tst_TimePicker::foldsAnyNumber()
     QCOMPARE(QTime(changed.hours(), changed.minutes()), time);
 }
 
+void tst_TimePicker::tellsOnlyRealChanges()
+{
+    TimePicker picker(7, 0);
+    QSignalSpy spy(&picker, &TimePicker::timeChanged);
+    picker.setHours(7);
+    picker.setHours(31);
+    picker.setMinutes(60);
+    QCOMPARE(spy.count(), 0);
+    picker.setHours(6);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.last(), QVariantList({6, 0}));
+}
+
 void tst_TimePicker::isReadAndSetWithoutBeingSeen()
 {
     Locale::setDefault(Locale(u"en_GB"_qs));
-    Scene scene(7, 5);
+    PickerScene scene(7, 5);
     QAccessibleInterface *picker = QAccessible::queryAccessibleInterface(scene.picker);
     QCOMPARE(picker->role(), QAccessible::Dial);
     QCOMPARE(picker->text(QAccessible::Name), "07:05");
@@ -132,209 +92,9 @@ void tst_TimePicker::isReadAndSetWithoutBeingSeen()
     QCOMPARE(scene.time(), QTime(21, 40));
 }
 
-void tst_TimePicker::tellsOnlyRealChanges()
-{
-    TimePicker picker(7, 0);
-    QSignalSpy spy(&picker, &TimePicker::timeChanged);
-    picker.setHours(7);
-    picker.setHours(31);
-    picker.setMinutes(60);
-    QCOMPARE(spy.count(), 0);
-    picker.setHours(6);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.last(), QVariantList({6, 0}));
-}
-
-void tst_TimePicker::dragsTheHour()
-{
-    Scene scene(7, 20);
-    QVERIFY(scene.stage.show());
-    scene.stage.press(scene.picker->hourHandle());
-    for (const int degrees : {220, 235, 250, 272})
-        scene.stage.move(scene.onHours(degrees));
-    scene.stage.release(scene.onHours(272));
-    QCOMPARE(scene.time(), QTime(9, 20));
-    QCOMPARE(scene.changes.count(), 2);
-    // The handle comes to rest on the hour.
-    QVERIFY(QLineF(scene.picker->hourHandle(), scene.onHours(270)).length() < 1);
-}
-
-void tst_TimePicker::theHourGoesOnIntoTheOtherHalfOfTheDay()
-{
-    Scene scene(11, 0);
-    QVERIFY(scene.stage.show());
-    scene.stage.press(scene.picker->hourHandle());
-    for (const int degrees : {350, 0, 30, 60})
-        scene.stage.move(scene.onHours(degrees));
-    QCOMPARE(scene.time(), QTime(14, 0));
-    for (const int degrees : {30, 0, 330, 300})
-        scene.stage.move(scene.onHours(degrees));
-    QCOMPARE(scene.time(), QTime(10, 0));
-    // Once round the dial is half a day, twice is the day.
-    for (int degrees = 310; degrees <= 300 + 720; degrees += 10)
-        scene.stage.move(scene.onHours(degrees));
-    QCOMPARE(scene.time(), QTime(10, 0));
-    scene.stage.release(scene.onHours(300));
-    QCOMPARE(scene.time(), QTime(10, 0));
-}
-
-void tst_TimePicker::dragsTheMinute()
-{
-    Scene scene(7, 20);
-    QVERIFY(scene.stage.show());
-    scene.stage.press(scene.picker->minuteHandle());
-    for (const int degrees : {126, 132, 138})
-        scene.stage.move(scene.onMinutes(degrees), 200);
-    scene.stage.release(scene.onMinutes(138));
-    QCOMPARE(scene.time(), QTime(7, 23));
-    QCOMPARE(scene.changes.count(), 3);
-}
-
-void tst_TimePicker::theMinutePastTheTopLeavesTheHourAlone()
-{
-    Scene scene(7, 55);
-    QVERIFY(scene.stage.show());
-    scene.stage.press(scene.picker->minuteHandle());
-    for (const int degrees : {342, 354, 6, 12})
-        scene.stage.move(scene.onMinutes(degrees), 200);
-    QCOMPARE(scene.time(), QTime(7, 2));
-    for (const int degrees : {0, 348})
-        scene.stage.move(scene.onMinutes(degrees), 200);
-    QCOMPARE(scene.time(), QTime(7, 58));
-}
-
-void tst_TimePicker::aFastDragGoesByFives()
-{
-    Scene scene(7, 0);
-    QVERIFY(scene.stage.show());
-    scene.stage.press(scene.picker->minuteHandle());
-    for (int degrees = 15; degrees <= 99; degrees += 12) {
-        scene.stage.move(scene.onMinutes(degrees), 20);
-        QCOMPARE(scene.picker->minutes() % 5, 0);
-    }
-    QCOMPARE(scene.time(), QTime(7, 15));
-    // And by single minutes again when it slows down.
-    scene.stage.move(scene.onMinutes(102), 200);
-    QCOMPARE(scene.time(), QTime(7, 17));
-}
-
-void tst_TimePicker::grippingAHandleOffItsMiddleMovesNothing()
-{
-    Scene scene(7, 20);
-    QVERIFY(scene.stage.show());
-    scene.stage.press(scene.picker->minuteHandle() + QPointF(20, 5));
-    scene.stage.move(scene.picker->minuteHandle() + QPointF(20, 5));
-    scene.stage.release(scene.picker->minuteHandle() + QPointF(20, 5));
-    scene.stage.tap(scene.picker->hourHandle() + QPointF(-18, 0));
-    QCOMPARE(scene.time(), QTime(7, 20));
-    QCOMPARE(scene.changes.count(), 0);
-}
-
-void tst_TimePicker::aTapOnARingGoesThere()
-{
-    Scene scene(7, 20);
-    QVERIFY(scene.stage.show());
-    scene.stage.tap(scene.onMinutes(271));
-    QCOMPARE(scene.time(), QTime(7, 45));
-    scene.stage.tap(scene.onMinutes(359));
-    QCOMPARE(scene.time(), QTime(7, 0));
-    scene.stage.tap(scene.onHours(92));
-    QCOMPARE(scene.time(), QTime(3, 0));
-    QCOMPARE(scene.changes.count(), 3);
-}
-
-void tst_TimePicker::aTapStaysInTheHalfOfTheDay()
-{
-    Scene scene(19, 0);
-    QVERIFY(scene.stage.show());
-    scene.stage.tap(scene.onHours(0));
-    QCOMPARE(scene.time(), QTime(12, 0));
-    scene.stage.tap(scene.onHours(350 - 30));
-    QCOMPARE(scene.time(), QTime(23, 0));
-}
-
-void tst_TimePicker::aTapInTheMiddleChangesTheHalfOfTheDay()
-{
-    Scene scene(7, 20);
-    QVERIFY(scene.stage.show());
-    QSignalSpy pressed(scene.picker, &TimePicker::discPressed);
-    scene.stage.tap(middle);
-    QCOMPARE(scene.time(), QTime(19, 20));
-    scene.stage.tap(middle + QPointF(0, 20));
-    QCOMPARE(scene.time(), QTime(7, 20));
-    scene.stage.press(middle);
-    scene.stage.release(middle + QPointF(0, 150));
-    QCOMPARE(scene.time(), QTime(7, 20));
-    QCOMPARE(pressed.count(), 0);
-}
-
-void tst_TimePicker::eachOfTwoQuickTapsCounts()
-{
-    Scene scene(7, 20);
-    QVERIFY(scene.stage.show());
-    scene.stage.doubleTap(middle);
-    QCOMPARE(scene.time(), QTime(7, 20));
-    QCOMPARE(scene.changes.count(), 2);
-}
-
-void tst_TimePicker::saysWhichDiscIsTouchedBeforeItChanges()
-{
-    Scene scene(7, 20);
-    QVERIFY(scene.stage.show());
-    QStringList order;
-    connect(scene.picker, &TimePicker::discPressed, this, [&](const bool &hour, const bool &minute) {
-        order << (hour ? "hour" : "") + QStringLiteral("pressed") + (minute ? "minute" : "");
-    });
-    connect(scene.picker, &TimePicker::timeChanged, this, [&] { order << "changed"; });
-    connect(scene.picker, &TimePicker::discReleased, this, [&] { order << "released"; });
-    scene.stage.tap(scene.onHours(0));
-    QCOMPARE(order, QStringList({"hourpressed", "changed", "released"}));
-    order.clear();
-    scene.stage.tap(scene.picker->minuteHandle());
-    QCOMPARE(order, QStringList({"pressedminute", "released"}));
-}
-
-void tst_TimePicker::isReleasedWhenSomeoneElseTakesTheTouch()
-{
-    Scene scene(7, 20);
-    QVERIFY(scene.stage.show());
-    QSignalSpy released(scene.picker, &TimePicker::discReleased);
-    scene.stage.press(scene.picker->hourHandle());
-    scene.picker->ungrabMouse();
-    QCOMPARE(released.count(), 1);
-    scene.stage.move(scene.onHours(0));
-    scene.stage.release(scene.onHours(0));
-    QCOMPARE(released.count(), 1);
-    QCOMPARE(scene.time(), QTime(7, 20));
-}
-
-void tst_TimePicker::takesNoTouchOutsideTheRings()
-{
-    Scene scene(7, 20);
-    QVERIFY(scene.stage.show());
-    QSignalSpy pressed(scene.picker, &TimePicker::discPressed);
-    scene.stage.tap({8, 8});
-    QCOMPARE(pressed.count(), 0);
-    QCOMPARE(scene.changes.count(), 0);
-}
-
-void tst_TimePicker::hasHandlesForFingers()
-{
-    Scene scene(6, 0);
-    QVERIFY(scene.stage.show());
-    QSignalSpy pressed(scene.picker, &TimePicker::discPressed);
-    for (const QPointF &offset : {QPointF(24, 0), QPointF(-24, 0), QPointF(0, 24), QPointF(0, -24)}) {
-        scene.stage.tap(scene.picker->hourHandle() + offset);
-        QCOMPARE(pressed.last(), QVariantList({true, false}));
-        scene.stage.tap(scene.picker->minuteHandle() + offset);
-        QCOMPARE(pressed.last(), QVariantList({false, true}));
-    }
-    QCOMPARE(scene.changes.count(), 0);
-}
-
 void tst_TimePicker::turnsWithTheWheel()
 {
-    Scene scene(7, 59);
+    PickerScene scene(7, 59);
     QVERIFY(scene.stage.show());
     scene.wheel(scene.onHours(0), 120);
     QCOMPARE(scene.time(), QTime(8, 59));
@@ -351,7 +111,7 @@ void tst_TimePicker::turnsWithTheWheel()
 
 void tst_TimePicker::obeysKeys()
 {
-    Scene scene(23, 58);
+    PickerScene scene(23, 58);
     QVERIFY(scene.stage.show());
     scene.stage.key(Qt::Key_Up);
     QCOMPARE(scene.time(), QTime(0, 58));
@@ -372,7 +132,7 @@ void tst_TimePicker::obeysKeys()
 
 void tst_TimePicker::followsTheTimeFormat()
 {
-    Scene scene(19, 20);
+    PickerScene scene(19, 20);
     QVERIFY(scene.stage.show());
     const QImage twentyFour = scene.stage.window.grab().toImage();
     Locale::getDefault().setTimeFormat24h(Locale::TwelveHour);
@@ -382,7 +142,7 @@ void tst_TimePicker::followsTheTimeFormat()
 
 void tst_TimePicker::paintsNothingOutsideItself()
 {
-    Scene scene(7, 0);
+    PickerScene scene(7, 0);
     QVERIFY(scene.stage.show());
     scene.stage.key(Qt::Key_Right);
     for (const int minutes : {0, 15, 30, 45}) {
