@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/gsttoneplayer.h"
 
-#include "platform/ringer/volumerise.h"
 #include "platform/sound/audibility.h"
 #include "platform/sound/tonepipeline.h"
 
@@ -22,8 +21,9 @@ constexpr auto RiseStep = 200ms;
 
 } // namespace
 
-GstTonePlayer::GstTonePlayer(QObject *parent)
+GstTonePlayer::GstTonePlayer(std::chrono::milliseconds riseTime, QObject *parent)
     : TonePlayer(parent)
+    , m_riseTime(riseTime)
 {
     gst_init(nullptr, nullptr);
     m_watchdog.setSingleShot(true);
@@ -34,21 +34,23 @@ GstTonePlayer::GstTonePlayer(QObject *parent)
 
 GstTonePlayer::~GstTonePlayer() = default;
 
-void GstTonePlayer::play(const QString &tone)
+void GstTonePlayer::play(const QString &tone, int round)
 {
     stop();
     if (tone == QLatin1String(Silence)) {
         Q_EMIT audible();
         return;
     }
-    m_pipeline
-        = tone == QLatin1String(Beeps) ? TonePipeline::ofBeeps(&m_suspicion) : TonePipeline::ofFile(tone, &m_suspicion);
+    m_pipeline = tone == QLatin1String(Beeps) ? TonePipeline::ofBeeps(&m_suspicion, round)
+                                              : TonePipeline::ofFile(tone, &m_suspicion, round);
     if (!m_pipeline) {
         m_watchdog.start(0ms);
         return;
     }
     connect(m_pipeline.get(), &TonePipeline::flows, this, &GstTonePlayer::onFlow);
     connect(m_pipeline.get(), &TonePipeline::failed, this, &GstTonePlayer::fail);
+    m_isRising = round == 0;
+    m_pipeline->setVolume(m_isRising ? riseVolume(0ms, m_riseTime) : 1);
     m_suspicion = QStringLiteral("nothing is heard");
     m_watchdog.start(Sound::FirstSoundTime);
     m_pipeline->start();
@@ -76,7 +78,8 @@ void GstTonePlayer::onFlow(bool isAudible)
     if (!isAudible)
         return;
     m_heard.start();
-    m_rise.start();
+    if (m_isRising)
+        m_rise.start();
     m_suspicion = QStringLiteral("the sound stalled");
     m_watchdog.start(StallTime);
     Q_EMIT audible();
@@ -91,8 +94,8 @@ void GstTonePlayer::fail(const QString &reason)
 void GstTonePlayer::raise()
 {
     const std::chrono::milliseconds heard{m_heard.elapsed()};
-    m_pipeline->setVolume(riseVolume(heard));
-    if (heard >= RiseTime)
+    m_pipeline->setVolume(riseVolume(heard, m_riseTime));
+    if (heard >= m_riseTime)
         m_rise.stop();
 }
 

@@ -3,10 +3,12 @@
 #pragma once
 
 #include "platform/ringer/toneplayer.h"
+#include "platform/ringer/volumerise.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
 
+#include <chrono>
 #include <memory>
 
 namespace Sound {
@@ -24,10 +26,10 @@ class GstTonePlayer : public TonePlayer
     Q_OBJECT
 
 public:
-    explicit GstTonePlayer(QObject *parent = nullptr);
+    explicit GstTonePlayer(std::chrono::milliseconds riseTime = RiseTime, QObject *parent = nullptr);
     ~GstTonePlayer() override;
 
-    void play(const QString &tone) override;
+    void play(const QString &tone, int round) override;
     void stop() override;
 
 private:
@@ -35,10 +37,12 @@ private:
     void fail(const QString &reason);
     void raise();
 
+    const std::chrono::milliseconds m_riseTime;
     std::unique_ptr<Sound::TonePipeline> m_pipeline; ///< null when silent
     QTimer m_watchdog;
     QString m_suspicion; ///< why the tone has failed when the watchdog ends
     QTimer m_rise;
+    bool m_isRising = true;
     QElapsedTimer m_heard; ///< valid once the tone was audible
 };
 

@@ -81,7 +81,7 @@ void Ring::tryTone(qsizetype tone)
 {
     m_tone = tone;
     setState(State::Seeking);
-    m_player->play(m_tones.at(tone));
+    m_player->play(m_tones.at(tone), m_round);
 }
 
 void Ring::onAudible()
@@ -99,6 +99,7 @@ void Ring::onFailed(const QString &reason)
         tryTone(m_tone + 1);
     } else {
         qCCritical(lcRinger, "Alarm %u: nothing can be heard, trying again", m_alarm.cookie);
+        ++m_round;
         setState(State::Mute);
     }
 }

@@ -63,6 +63,7 @@ private:
     TonePlayer *const m_player;
     State m_state = State::Waiting;
     qsizetype m_tone = 0;
+    int m_round = 0; ///< how often all tones were tried in vain
     QTimer m_retry;
 };
 

@@ -20,7 +20,9 @@ public:
 
     using QObject::QObject;
 
-    virtual void play(const QString &tone) = 0; ///< an absolute path, Beeps or Silence; ends what played before
+    /** An absolute path, Beeps or Silence; ends what played before. Rounds count from 0: in later ones nothing was heard
+     *  so far, so it plays through another output each time, at full volume from the start. */
+    virtual void play(const QString &tone, int round) = 0;
     virtual void stop() = 0;
 
 Q_SIGNALS:

@@ -7,10 +7,10 @@
 
 namespace Ringer {
 
-double riseVolume(std::chrono::milliseconds heard)
+double riseVolume(std::chrono::milliseconds heard, std::chrono::milliseconds riseTime)
 {
     constexpr auto Quiet = 0.15;
-    const auto part = std::clamp(double(heard.count()) / double(RiseTime.count()), 0.0, 1.0);
+    const auto part = std::clamp(double(heard.count()) / double(riseTime.count()), 0.0, 1.0);
     // Loudness follows the exponent of the amplitude.
     return std::pow(Quiet, 1.0 - part);
 }

@@ -10,6 +10,6 @@ namespace Ringer {
 inline constexpr std::chrono::milliseconds RiseTime{30'000};
 
 /** The amplitude, 0.15 to 1, of a tone that has been heard for so long; it grows evenly to the ear. */
-[[nodiscard]] double riseVolume(std::chrono::milliseconds heard);
+[[nodiscard]] double riseVolume(std::chrono::milliseconds heard, std::chrono::milliseconds riseTime = RiseTime);
 
 } // namespace Ringer

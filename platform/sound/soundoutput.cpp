@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/sound/soundoutput.h"
 
+#include <array>
+
 namespace Sound {
 
 namespace {
@@ -45,17 +47,29 @@ bool swallows(GstElement *automatic)
     return found;
 }
 
+GstElement *openAutomatic()
+{
+    auto *automatic = open("autoaudiosink");
+    if (!automatic || !swallows(automatic))
+        return automatic;
+    discardSoundOutput(automatic);
+    return nullptr;
+}
+
+GstElement *openCard()
+{
+    return open("alsasink");
+}
+
 } // namespace
 
-GstElement *createSoundOutput(QString *reason)
+GstElement *createSoundOutput(QString *reason, int choice)
 {
-    if (auto *pulse = openPulse())
-        return pulse;
-    auto *automatic = open("autoaudiosink");
-    if (automatic && !swallows(automatic))
-        return automatic;
-    if (automatic)
-        discardSoundOutput(automatic);
+    constexpr std::array ways{openPulse, openAutomatic, openCard};
+    for (std::size_t step = 0; step < ways.size(); ++step) {
+        if (auto *output = ways[(std::size_t(choice) + step) % ways.size()]())
+            return output;
+    }
     *reason = QStringLiteral("no sound server and no sound device answers");
     return nullptr;
 }

@@ -62,20 +62,20 @@ GstElement *createBeepPipeline(GstElement *output, GstElement *filter)
 
 } // namespace
 
-std::unique_ptr<TonePipeline> TonePipeline::ofFile(const QString &path, QString *reason)
+std::unique_ptr<TonePipeline> TonePipeline::ofFile(const QString &path, QString *reason, int output)
 {
-    const auto build = [&path](auto *output, auto *filter) { return createFilePipeline(path, output, filter); };
-    return create(build, reason);
+    const auto build = [&path](auto *sink, auto *filter) { return createFilePipeline(path, sink, filter); };
+    return create(build, output, reason);
 }
 
-std::unique_ptr<TonePipeline> TonePipeline::ofBeeps(QString *reason)
+std::unique_ptr<TonePipeline> TonePipeline::ofBeeps(QString *reason, int output)
 {
-    return create(createBeepPipeline, reason);
+    return create(createBeepPipeline, output, reason);
 }
 
-std::unique_ptr<TonePipeline> TonePipeline::create(const Build &build, QString *reason)
+std::unique_ptr<TonePipeline> TonePipeline::create(const Build &build, int choice, QString *reason)
 {
-    auto *output = createSoundOutput(reason);
+    auto *output = createSoundOutput(reason, choice);
     if (!output)
         return nullptr;
     GError *error = nullptr;

@@ -71,7 +71,12 @@ bool Ringing::acknowledge(quint32 cookie)
 bool Ringing::acknowledgeSound(quint32 cookie)
 {
     const auto ring = m_rings.find(cookie);
-    return ring != m_rings.end() && !std::exchange(ring->second.heard, true);
+    if (ring == m_rings.end() || std::exchange(ring->second.heard, true))
+        return false;
+    // A ringer that was seen and heard is worth another quick call, should it go.
+    if (ring->second.acknowledged)
+        ring->second.calls = 0;
+    return true;
 }
 
 void Ringing::callAgain(quint32 cookie)

@@ -38,10 +38,12 @@ class FakePlayer : public Ringer::TonePlayer
 public:
     QString tone; ///< empty when silent
     int plays = 0;
+    int round = 0;
 
-    void play(const QString &newTone) override
+    void play(const QString &newTone, int newRound) override
     {
         tone = newTone;
+        round = newRound;
         ++plays;
     }
     void stop() override { tone.clear(); }

@@ -5,6 +5,7 @@ import array
 import collections
 import os
 import pathlib
+import re
 import shutil
 import signal
 import subprocess
@@ -86,14 +87,17 @@ class Recorder:
 
 
 class Phone:
-    """Starts everything, with alarms of its own in a folder; close() ends it. Parts can be left out."""
+    """Starts everything, with alarms of its own in a folder; close() ends it. Parts can be left out, plug-ins and
+    environment be other ones."""
 
-    def __init__(self, build, home, theme="dark", display=True, sound=True, ringer=True):
+    def __init__(self, build, home, theme="dark", display=True, sound=True, ringer=True, plugins=None,
+                 environment=None):
         self.build = pathlib.Path(build).resolve()
         socket = pathlib.Path(home) / "sound"
         self.environment = dict(
             os.environ, XDG_DATA_DIRS=f"{self.build}/share:/usr/share", XDG_DATA_HOME=f"{home}/data",
             CLOCK_THEME=theme, CLOCK_REDUCED_MOTION="1", PULSE_SERVER=f"unix:{socket}")
+        self.environment.update(environment or {})
         for name in ("QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"):
             self.environment.pop(name, None)
         self._processes = []
@@ -102,16 +106,22 @@ class Phone:
         self.sound = None
         if sound:
             self._start_sound(socket)
-        if not ringer:
-            self._leave_out_ringer(pathlib.Path(home))
+        if not ringer or plugins:
+            self._stage_services(pathlib.Path(home), ringer, plugins)
         self._start_bus()
 
-    def _leave_out_ringer(self, home):
+    def _stage_services(self, home, ringer, plugins):
         services = home / "share" / "dbus-1" / "services"
         services.mkdir(parents=True)
+        staged = self.build / "share" / "dbus-1" / "services"
         for name in ("com.astel.timed", "com.astel.ringer.fallback"):
-            shutil.copy(self.build / "share" / "dbus-1" / "services" / f"{name}.service", services)
-        self.environment["XDG_DATA_DIRS"] = f"{home}/share:/usr/share"
+            shutil.copy(staged / f"{name}.service", services)
+        if ringer:
+            text = (staged / "com.astel.ringer.service").read_text(encoding="utf-8")
+            text = re.sub(r"RINGER_PLUGIN_DIR=\S+", f"RINGER_PLUGIN_DIR={plugins}", text)
+            (services / "com.astel.ringer.service").write_text(text, encoding="utf-8")
+        self.environment["XDG_DATA_DIRS"] = f"{home}/share:{self.build}/share:/usr/share" if ringer \
+            else f"{home}/share:/usr/share"
 
     def _start(self, command, **options):
         process = subprocess.Popen(command, env=self.environment, **options)

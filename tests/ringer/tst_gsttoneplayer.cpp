@@ -30,6 +30,25 @@ qsizetype longestGap(const QList<float> &samples)
     return longest * 1000 / Support::SoundServer::Rate;
 }
 
+QList<float> loudestOfEach(const QList<float> &samples, int milliseconds)
+{
+    const auto size = qsizetype(milliseconds) * Support::SoundServer::Rate / 1000;
+    QList<float> result;
+    for (qsizetype start = 0; start + size <= samples.size(); start += size) {
+        const auto part = samples.mid(start, size);
+        result += *std::max_element(part.begin(), part.end());
+    }
+    return result;
+}
+
+QString textOf(const QList<float> &values)
+{
+    QStringList texts;
+    for (const auto value : values)
+        texts += QString::number(double(value), 'f', 2);
+    return texts.join(' ');
+}
+
 } // namespace
 
 class TestGstTonePlayer : public QObject
@@ -43,6 +62,9 @@ private slots:
     void aToneIsHeard();
     void loopsWithoutAGap();
     void risesFromQuiet();
+    void reachesFullInItsTimeAndStays();
+    void laterRoundsAreAtFullVolumeAtOnce();
+    void laterRoundsTakeWhateverOutputThereIs();
     void stopIsSilentAtOnce();
     void aToneThatCannotBeHeardFailsWithinTwoSeconds_data();
     void aToneThatCannotBeHeardFailsWithinTwoSeconds();
@@ -88,7 +110,7 @@ void TestGstTonePlayer::aToneIsHeard()
     QFETCH(QString, tone);
     GstTonePlayer player;
     QSignalSpy audible(&player, &TonePlayer::audible);
-    player.play(tone);
+    player.play(tone, 0);
     QVERIFY(audible.wait(2000));
     QTRY_VERIFY(m_server.peak(500) > 0.03f);
     QCOMPARE(audible.size(), 1);
@@ -97,7 +119,7 @@ void TestGstTonePlayer::aToneIsHeard()
 void TestGstTonePlayer::loopsWithoutAGap()
 {
     GstTonePlayer player;
-    player.play(file("sine.wav"));
+    player.play(file("sine.wav"), 0);
     QTRY_VERIFY(m_server.peak(50) > Silence);
     m_server.forget();
     QTRY_VERIFY(m_server.samples().size() >= qsizetype(3) * Support::SoundServer::Rate);
@@ -108,17 +130,50 @@ void TestGstTonePlayer::loopsWithoutAGap()
 void TestGstTonePlayer::risesFromQuiet()
 {
     GstTonePlayer player;
-    player.play(file("sine.wav"));
+    player.play(file("sine.wav"), 0);
     QTRY_VERIFY(m_server.peak(100) > Silence);
     const auto first = m_server.peak(100);
     QVERIFY2(first > 0.09f && first < 0.16f, qPrintable(QString::number(first)));
     QTRY_VERIFY_WITH_TIMEOUT(m_server.peak(100) > 1.3f * first, 10'000);
 }
 
+void TestGstTonePlayer::reachesFullInItsTimeAndStays()
+{
+    using namespace std::chrono_literals;
+    GstTonePlayer player(3s);
+    player.play(file("sine.wav"), 0);
+    QTRY_VERIFY(m_server.peak(100) > Silence);
+    const auto start = m_server.samples().size() - Support::SoundServer::Rate / 10;
+    QTRY_VERIFY(m_server.samples().size() >= start + 5 * Support::SoundServer::Rate);
+    const auto loudest = loudestOfEach(m_server.samples().mid(start), 500);
+    QVERIFY2(std::is_sorted(loudest.begin(), loudest.begin() + 6,
+                            [](float left, float right) { return left < right - 0.02f; }),
+             qPrintable(textOf(loudest)));
+    QVERIFY2(loudest.first() < 0.25f && loudest.at(8) > 0.75f && loudest.at(9) > 0.75f, qPrintable(textOf(loudest)));
+}
+
+void TestGstTonePlayer::laterRoundsAreAtFullVolumeAtOnce()
+{
+    GstTonePlayer player;
+    player.play(file("sine.wav"), 3);
+    QTRY_VERIFY(m_server.peak(100) > Silence);
+    QTRY_VERIFY_WITH_TIMEOUT(m_server.peak(100) > 0.75f, 2000);
+}
+
+void TestGstTonePlayer::laterRoundsTakeWhateverOutputThereIs()
+{
+    for (const auto round : {1, 2}) {
+        GstTonePlayer player;
+        QSignalSpy audible(&player, &TonePlayer::audible);
+        player.play(file("sine.wav"), round);
+        QVERIFY(audible.wait(3000));
+    }
+}
+
 void TestGstTonePlayer::stopIsSilentAtOnce()
 {
     GstTonePlayer player;
-    player.play(file("sine.wav"));
+    player.play(file("sine.wav"), 0);
     QTRY_VERIFY(m_server.peak(100) > Silence);
     player.stop();
     QElapsedTimer time;
@@ -144,7 +199,7 @@ void TestGstTonePlayer::aToneThatCannotBeHeardFailsWithinTwoSeconds()
     QSignalSpy failed(&player, &TonePlayer::failed);
     QElapsedTimer time;
     time.start();
-    player.play(tone);
+    player.play(tone, 0);
     QVERIFY(failed.wait(4000));
     QVERIFY2(time.elapsed() < 2000, qPrintable(QString::number(time.elapsed())));
     QVERIFY(!failed.first().first().toString().isEmpty());
@@ -156,9 +211,9 @@ void TestGstTonePlayer::nothingIsSaidAfterStop()
     GstTonePlayer player;
     QSignalSpy audible(&player, &TonePlayer::audible);
     QSignalSpy failed(&player, &TonePlayer::failed);
-    player.play(file("missing.aac"));
+    player.play(file("missing.aac"), 0);
     player.stop();
-    player.play(file("sine.wav"));
+    player.play(file("sine.wav"), 0);
     QVERIFY(audible.wait(2000));
     QCOMPARE(failed.size(), 0);
 }
@@ -168,9 +223,9 @@ void TestGstTonePlayer::chosenSilenceCountsAsHeard()
     GstTonePlayer player;
     QSignalSpy audible(&player, &TonePlayer::audible);
     QSignalSpy failed(&player, &TonePlayer::failed);
-    player.play(file("sine.wav"));
+    player.play(file("sine.wav"), 0);
     QVERIFY(audible.wait(2000));
-    player.play(TonePlayer::Silence);
+    player.play(TonePlayer::Silence, 0);
     QCOMPARE(audible.size(), 2);
     QTRY_COMPARE(m_server.peak(200), 0.0f);
     // Longer than any watchdog.
@@ -183,7 +238,7 @@ void TestGstTonePlayer::failsWhenTheServerDies()
     GstTonePlayer player;
     QSignalSpy audible(&player, &TonePlayer::audible);
     QSignalSpy failed(&player, &TonePlayer::failed);
-    player.play(file("sine.wav"));
+    player.play(file("sine.wav"), 0);
     QVERIFY(audible.wait(2000));
     m_server.kill();
     QVERIFY(failed.size() == 1 || failed.wait(5000));

@@ -165,7 +165,7 @@ void TestRingCheck::aVolumeThatIsTheStreamsCountsAsFull()
     QVERIFY(m_server.control({"set-sink-volume", "null", "10%"}));
     const auto facts = check();
     Ringer::GstTonePlayer player;
-    player.play(file("sine.wav"));
+    player.play(file("sine.wav"), 0);
     // Played at a volume of 10 %, which is cubic, it would be a hundredth of this.
     QTRY_VERIFY(m_server.peak(200) > 0.08f);
     player.stop();

@@ -328,9 +328,11 @@ void TestRingController::withoutAnySoundItTriesAgain()
     m_controller->ring(7, teaTime(), Due);
     while (m_player->tone != QLatin1String(TonePlayer::Beeps))
         m_player->fail();
+    QCOMPARE(m_player->round, 0);
     m_player->fail();
     QCOMPARE(shown().size(), 1);
     QTRY_COMPARE(m_player->tone, QString("/tones/tea.aac"));
+    QCOMPARE(m_player->round, 1);
 }
 
 void TestRingController::anAlarmWithoutAPluginOfOursRingsPlainly_data()
