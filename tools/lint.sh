@@ -47,6 +47,7 @@ no_sleep_in_tests() {
 check "format: clang-format 14" format
 check "includes: docs/architecture.md is obeyed" python3 tools/check_includes.py
 check "headers: each compiles alone" python3 tools/check_headers.py "$build"
+check "functions: none is longer than 60 lines" python3 tools/check_functions.py
 check "licence: every file has its head" licence_heads
 check "tests: none sleeps" no_sleep_in_tests
 check "tidy: files changed since $(git rev-parse --short "$base")" tidy

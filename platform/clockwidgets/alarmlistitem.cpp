@@ -64,6 +64,7 @@ void AlarmListItem::setTitle(const QTime &time)
         return;
     m_title = time;
     update();
+    announceName();
 }
 
 void AlarmListItem::setSubTitle(const QString &text)
@@ -72,6 +73,7 @@ void AlarmListItem::setSubTitle(const QString &text)
         return;
     m_subTitle = text;
     update();
+    announceName();
 }
 
 void AlarmListItem::setSubText(const QString &text)
@@ -80,6 +82,7 @@ void AlarmListItem::setSubText(const QString &text)
         return;
     m_subText = text;
     update();
+    announceName();
 }
 
 void AlarmListItem::setAlarmTone(const QString &path)

@@ -32,7 +32,7 @@ void PickerHandle::moveTo(const QPointF &middle)
 void PickerHandle::announceValue()
 {
     QAccessibleValueChangeEvent event(this, currentValue());
-    QAccessible::updateAccessibility(&event);
+    tell(&event);
 }
 
 QString PickerHandle::shownText() const

@@ -21,10 +21,8 @@ QString TimePicker::shownText() const
 
 void TimePicker::announce()
 {
-    if (!QAccessible::isActive())
-        return;
     QAccessibleValueChangeEvent value(this, currentValue());
-    QAccessible::updateAccessibility(&value);
+    tell(&value);
     announceName();
     m_hourHandle->announceValue();
     m_minuteHandle->announceValue();

@@ -3,7 +3,11 @@
 #include "platform/toolkit/accessiblewidget_p.h"
 
 #include "platform/toolkit/button.h"
+#include "platform/toolkit/combobox.h"
+#include "platform/toolkit/dialog.h"
 #include "platform/toolkit/list.h"
+#include "platform/toolkit/objectmenu.h"
+#include "platform/toolkit/sheet.h"
 #include "platform/toolkit/taborder_p.h"
 #include "platform/toolkit/textedit.h"
 #include "platform/toolkit/window.h"
@@ -107,8 +111,12 @@ QAccessible::State AccessibleWidget::state() const
     state.offscreen = isPannedAway();
     state.focusable = widget()->flags().testFlag(QGraphicsItem::ItemIsFocusable);
     state.focused = widget()->hasFocus();
-    state.modal = role() == QAccessible::Dialog;
-    state.hasPopup = !widget()->actions().isEmpty();
+    state.modal = qobject_cast<const Dialog *>(object()) || qobject_cast<const Sheet *>(object());
+    const auto *choice = qobject_cast<const ComboBox *>(object());
+    state.hasPopup = choice || !widget()->actions().isEmpty();
+    state.expandable = choice != nullptr;
+    state.expanded = choice && choice->isPopupOpen();
+    state.collapsed = choice && !choice->isPopupOpen();
     if (const auto *button = qobject_cast<const Button *>(object())) {
         state.checkable = button->isCheckable();
         state.checked = button->isChecked();
@@ -121,6 +129,9 @@ QString AccessibleWidget::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Name)
         return widget()->accessibleName();
+    const auto *choice = qobject_cast<const ComboBox *>(object());
+    if (choice && kind == QAccessible::Value)
+        return choice->currentText();
     QAccessibleValueInterface *value = kind == QAccessible::Value ? widget()->accessibleValue() : nullptr;
     return value ? value->currentValue().toString() : QString();
 }
@@ -190,6 +201,10 @@ void AccessibleWidget::doAction(const QString &name)
 
 void AccessibleWidget::showMenu()
 {
+    if (!ObjectMenu::actionsOf(widget()).isEmpty()) {
+        ObjectMenu::open(widget());
+        return;
+    }
     QGraphicsSceneContextMenuEvent event(QEvent::GraphicsSceneContextMenu);
     event.setReason(QGraphicsSceneContextMenuEvent::Keyboard);
     event.setPos(widget()->rect().center());

@@ -50,10 +50,8 @@ void Banner::setTitle(const QString &title)
 
 void Banner::announce()
 {
-    if (!QAccessible::isActive())
-        return;
     QAccessibleEvent event(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    tell(&event);
 }
 
 void Banner::setDisplayTime(int milliseconds)

@@ -33,7 +33,10 @@ QString BasicListItem::title() const
 
 void BasicListItem::setTitle(const QString &title)
 {
+    if (m_titleLabel->text() == title)
+        return;
     m_titleLabel->setText(title);
+    announceName();
 }
 
 QString BasicListItem::subtitle() const
@@ -43,7 +46,10 @@ QString BasicListItem::subtitle() const
 
 void BasicListItem::setSubtitle(const QString &subtitle)
 {
+    if (m_subtitleLabel->text() == subtitle)
+        return;
     m_subtitleLabel->setText(subtitle);
+    announceName();
 }
 
 void BasicListItem::setImage(const QString &iconId)

@@ -76,12 +76,10 @@ void Button::setChecked(bool isChecked)
         return;
     m_isChecked = wanted;
     update();
-    if (QAccessible::isActive()) {
-        QAccessible::State changed;
-        changed.checked = true;
-        QAccessibleStateChangeEvent event(this, changed);
-        QAccessible::updateAccessibility(&event);
-    }
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    tell(&event);
     emit toggled(wanted);
 }
 

@@ -31,6 +31,12 @@ bool isMirrored(const QGraphicsItem *item)
     return item->isWidget() && static_cast<const QGraphicsWidget *>(item)->layoutDirection() == Qt::RightToLeft;
 }
 
+bool isTabStop(const QGraphicsItem *item)
+{
+    return item->isWidget() && item->flags().testFlag(QGraphicsItem::ItemIsFocusable)
+        && static_cast<const QGraphicsWidget *>(item)->focusPolicy() & Qt::TabFocus;
+}
+
 } // namespace
 
 QList<QGraphicsItem *> inReadingOrder(const QGraphicsItem *item)
@@ -40,6 +46,9 @@ QList<QGraphicsItem *> inReadingOrder(const QGraphicsItem *item)
         collectLaidOut(static_cast<const QGraphicsWidget *>(item)->layout(), &ordered);
     QList<QGraphicsItem *> others = item->childItems();
     others.removeIf([&ordered](QGraphicsItem *child) { return ordered.contains(child); });
+    // The parts of a control keep their order, wherever its state puts them.
+    if (isTabStop(item))
+        return ordered + others;
     const bool fromRight = isMirrored(item);
     const auto comesBefore = [fromRight](const QGraphicsItem *a, const QGraphicsItem *b) {
         const QRectF left = a->mapRectToParent(a->boundingRect());
@@ -59,11 +68,8 @@ QList<QGraphicsWidget *> tabStops(const QGraphicsItem *item)
     for (QGraphicsItem *child : children) {
         if (!child->isVisible() || !child->isEnabled())
             continue;
-        if (child->isWidget()) {
-            auto *widget = static_cast<QGraphicsWidget *>(child);
-            if (widget->flags().testFlag(QGraphicsItem::ItemIsFocusable) && widget->focusPolicy() & Qt::TabFocus)
-                stops.append(widget);
-        }
+        if (isTabStop(child))
+            stops.append(static_cast<QGraphicsWidget *>(child));
         stops.append(tabStops(child));
     }
     return stops;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/widget.h"
 
+#include "platform/toolkit/accessibleevents_p.h"
 #include "platform/toolkit/accessiblewidget_p.h"
 #include "platform/toolkit/theme.h"
 #include "platform/toolkit/window.h"
@@ -17,11 +18,11 @@ namespace {
 
 void announce(Widget *widget, QAccessible::Event type)
 {
-    QAccessibleInterface *interface = QAccessible::isActive() ? accessibleOf(widget) : nullptr;
+    QAccessibleInterface *interface = AccessibleEvents::isListenedTo() ? accessibleOf(widget) : nullptr;
     if (!interface)
         return;
     QAccessibleEvent event(interface, type);
-    QAccessible::updateAccessibility(&event);
+    AccessibleEvents::tell(&event);
 }
 
 } // namespace
@@ -71,6 +72,11 @@ void Widget::setAccessibleName(const QString &name)
         return;
     m_accessibleName = name;
     announceName();
+}
+
+void Widget::tell(QAccessibleEvent *event)
+{
+    AccessibleEvents::tell(event);
 }
 
 void Widget::announceName()
@@ -213,11 +219,11 @@ void Widget::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::EnabledChange || event->type() == QEvent::LayoutDirectionChange)
         update();
-    if (event->type() == QEvent::EnabledChange && QAccessible::isActive()) {
+    if (event->type() == QEvent::EnabledChange) {
         QAccessible::State changed;
         changed.disabled = true;
         QAccessibleStateChangeEvent state(this, changed);
-        QAccessible::updateAccessibility(&state);
+        tell(&state);
     }
     QGraphicsWidget::changeEvent(event);
 }

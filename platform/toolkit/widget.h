@@ -61,6 +61,8 @@ protected:
     virtual void styleChanged();
     /** What it shows, for those who do not see it. */
     virtual QString shownText() const;
+    /** Lets assistive technology know, if there is any. */
+    static void tell(QAccessibleEvent *event);
     /** What it is called is another text now. */
     void announceName();
     /** It can be seen from now on: start what ticks. */

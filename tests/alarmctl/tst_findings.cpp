@@ -65,6 +65,142 @@ Finding findingAbout(const QList<Finding> &findings, const QString &subject)
     return found != findings.end() ? *found : Finding{Mark::Bad, {}, "no such finding"};
 }
 
+void row(const char *name, const Change &change, const char *subject, Mark mark, const char *text)
+{
+    QTest::newRow(name) << change << QString(subject) << mark << QString::fromUtf8(text);
+}
+
+void addRowsOfArming()
+{
+    row(
+        "untitled", [](HealthFacts &facts) { facts.next->title.clear(); }, "next alarm", Mark::Good, "alarm 12, ");
+    row(
+        "not armed", [](HealthFacts &facts) { facts.daemon->remove("armed_moment"); }, "armed", Mark::Bad,
+        "the timer is not armed");
+    row("armed too late", daemonSays("armed_moment", nanoseconds(Due + 60'000)), "armed", Mark::Bad, " instead of ");
+    row("armed too early", daemonSays("armed_moment", nanoseconds(Due - 60'000)), "armed", Mark::Bad, " instead of ");
+    row("armed a little off", daemonSays("armed_moment", nanoseconds(Due + 900)), "armed", Mark::Good, "for ");
+    row(
+        "armed for something before",
+        [](HealthFacts &facts) {
+            facts.daemon->insert("armed_moment", nanoseconds(Due - 60'000));
+            facts.daemon->insert("next_moment", nanoseconds(Due - 60'000));
+        },
+        "armed", Mark::Good, "for ");
+    row(
+        "the daemon waits for something later",
+        [](HealthFacts &facts) {
+            facts.daemon->insert("armed_moment", nanoseconds(Due + 60'000));
+            facts.daemon->insert("next_moment", nanoseconds(Due + 60'000));
+        },
+        "armed", Mark::Bad, " instead of ");
+}
+
+void addRowsOfWaking()
+{
+    row(
+        "sleeps through",
+        [](HealthFacts &facts) {
+            facts.daemon->insert("timer_wakes", false);
+            facts.daemon->insert("timer_reason", "not permitted");
+        },
+        "wakes from sleep", Mark::Warning, "no, not permitted");
+    row(
+        "waking unknown", [](HealthFacts &facts) { facts.daemon->remove("timer_wakes"); }, "wakes from sleep",
+        Mark::Warning, "not known");
+    row("sleep is not delayed", daemonSays("sleep_delay", "refused"), "wakes from sleep", Mark::Warning, "yes, but ");
+    row(
+        "stays off",
+        [](HealthFacts &facts) {
+            facts.daemon->insert("boot_ready", false);
+            facts.daemon->insert("boot_reason", "no RTC");
+        },
+        "wakes from off", Mark::Warning, "no, no RTC");
+    row(
+        "turned on for no alarm", [](HealthFacts &facts) { facts.daemon->remove("boot_moment"); }, "wakes from off",
+        Mark::Warning, "no, this alarm does not ask for it");
+    row("turned on for a later one", daemonSays("boot_moment", nanoseconds(Due + 60'000)), "wakes from off",
+        Mark::Warning, "no, this alarm does not ask for it");
+    row("turned on before", daemonSays("boot_moment", nanoseconds(Due - 60'000)), "wakes from off", Mark::Good, "yes");
+    row(
+        "booting unknown", [](HealthFacts &facts) { facts.daemon->remove("boot_ready"); }, "wakes from off",
+        Mark::Warning, "not known");
+}
+
+void addRowsOfStoredThings()
+{
+    row("missed and untold", daemonSays("missed_untold", 2u), "missed alarms", Mark::Warning,
+        "2 that you have not been told of");
+    row(
+        "misses unknown", [](HealthFacts &facts) { facts.daemon->remove("missed_untold"); }, "missed alarms",
+        Mark::Good, "not known");
+    row("read-only store", daemonSays("store_writable", false), "storage", Mark::Warning, "sound, but read-only");
+    row("damaged store", daemonSays("store_integrity", "page 3 is torn"), "storage", Mark::Bad,
+        "damaged: page 3 is torn");
+    row("restored store", daemonSays("store_restored", true), "storage", Mark::Warning, "restored");
+    row(
+        "store unknown", [](HealthFacts &facts) { facts.daemon->remove("store_integrity"); }, "storage", Mark::Warning,
+        "not known");
+}
+
+void addRowsOfOutput()
+{
+    row(
+        "no ringer",
+        [](HealthFacts &facts) {
+            facts.ringer.reset();
+            facts.ringerProblem = "not provided";
+        },
+        "ringer", Mark::Bad, "does not start: not provided");
+    row(
+        "no output",
+        [](HealthFacts &facts) {
+            facts.ringer->remove("output");
+            facts.ringer->insert("output_reason", "nothing answers");
+        },
+        "sound output", Mark::Bad, "none, nothing answers");
+    row("muted", ringerSays("muted", true), "sound output", Mark::Bad, "Loudspeaker, muted");
+    row("volume 0", ringerSays("volume", 0u), "sound output", Mark::Bad, "volume 0 %");
+    row("volume 1", ringerSays("volume", 1u), "sound output", Mark::Warning, "volume 1 %");
+    row("volume 24", ringerSays("volume", 24u), "sound output", Mark::Warning, "volume 24 %");
+    row("volume 25", ringerSays("volume", 25u), "sound output", Mark::Good, "volume 25 %");
+    row(
+        "volume unknown", [](HealthFacts &facts) { facts.ringer->remove("volume"); }, "sound output", Mark::Warning,
+        "its volume is not known");
+}
+
+void addRowsOfTones()
+{
+    row(
+        "own tone missing",
+        [](HealthFacts &facts) {
+            facts.ringer->insert("tone", "/tones/default.aac");
+            facts.ringer->insert("rejected_tones", QStringList{"/tones/own.aac"});
+            facts.ringer->insert("rejected_reasons", QStringList{"is missing"});
+        },
+        "tone", Mark::Warning, "/tones/own.aac is missing; heard instead: /tones/default.aac");
+    row(
+        "default tone missing, none of its own",
+        [](HealthFacts &facts) {
+            facts.next->tone.clear();
+            facts.ringer->insert("tone", "beeps");
+            facts.ringer->insert("rejected_tones", QStringList{"/tones/default.aac"});
+            facts.ringer->insert("rejected_reasons", QStringList{"is silent"});
+        },
+        "tone", Mark::Good, "beeps");
+    row(
+        "no tone at all",
+        [](HealthFacts &facts) {
+            facts.ringer->remove("tone");
+            facts.ringer->insert("rejected_tones", QStringList{"/tones/own.aac", "beeps"});
+            facts.ringer->insert("rejected_reasons", QStringList{"is missing", "cannot be decoded"});
+        },
+        "tone", Mark::Bad, "none can be heard: /tones/own.aac is missing, beeps cannot be decoded");
+    row("plug-in missing", ringerSays("plugin_reason", "no such file"), "ring screen", Mark::Warning,
+        "the plain one, as \"libclockalarm\" does not load: no such file");
+    row("no display", ringerSays("display", false), "ring screen", Mark::Warning, "heard, not seen");
+}
+
 } // namespace
 
 class FindingsTest : public QObject
@@ -103,121 +239,11 @@ void FindingsTest::eachFactIsJudged_data()
     QTest::addColumn<QString>("subject");
     QTest::addColumn<Mark>("mark");
     QTest::addColumn<QString>("text");
-
-    const auto row = [](const char *name, const Change &change, const char *subject, Mark mark, const char *text) {
-        QTest::newRow(name) << change << QString(subject) << mark << QString::fromUtf8(text);
-    };
-    row(
-        "untitled", [](HealthFacts &facts) { facts.next->title.clear(); }, "next alarm", Mark::Good, "alarm 12, ");
-    row(
-        "not armed", [](HealthFacts &facts) { facts.daemon->remove("armed_moment"); }, "armed", Mark::Bad,
-        "the timer is not armed");
-    row("armed too late", daemonSays("armed_moment", nanoseconds(Due + 60'000)), "armed", Mark::Bad, " instead of ");
-    row("armed too early", daemonSays("armed_moment", nanoseconds(Due - 60'000)), "armed", Mark::Bad, " instead of ");
-    row("armed a little off", daemonSays("armed_moment", nanoseconds(Due + 900)), "armed", Mark::Good, "for ");
-    row(
-        "armed for something before",
-        [](HealthFacts &facts) {
-            facts.daemon->insert("armed_moment", nanoseconds(Due - 60'000));
-            facts.daemon->insert("next_moment", nanoseconds(Due - 60'000));
-        },
-        "armed", Mark::Good, "for ");
-    row(
-        "the daemon waits for something later",
-        [](HealthFacts &facts) {
-            facts.daemon->insert("armed_moment", nanoseconds(Due + 60'000));
-            facts.daemon->insert("next_moment", nanoseconds(Due + 60'000));
-        },
-        "armed", Mark::Bad, " instead of ");
-    row(
-        "sleeps through",
-        [](HealthFacts &facts) {
-            facts.daemon->insert("timer_wakes", false);
-            facts.daemon->insert("timer_reason", "not permitted");
-        },
-        "wakes from sleep", Mark::Warning, "no, not permitted");
-    row(
-        "waking unknown", [](HealthFacts &facts) { facts.daemon->remove("timer_wakes"); }, "wakes from sleep",
-        Mark::Warning, "not known");
-    row("sleep is not delayed", daemonSays("sleep_delay", "refused"), "wakes from sleep", Mark::Warning, "yes, but ");
-    row(
-        "stays off",
-        [](HealthFacts &facts) {
-            facts.daemon->insert("boot_ready", false);
-            facts.daemon->insert("boot_reason", "no RTC");
-        },
-        "wakes from off", Mark::Warning, "no, no RTC");
-    row(
-        "turned on for no alarm", [](HealthFacts &facts) { facts.daemon->remove("boot_moment"); }, "wakes from off",
-        Mark::Warning, "no, this alarm does not ask for it");
-    row("turned on for a later one", daemonSays("boot_moment", nanoseconds(Due + 60'000)), "wakes from off",
-        Mark::Warning, "no, this alarm does not ask for it");
-    row("turned on before", daemonSays("boot_moment", nanoseconds(Due - 60'000)), "wakes from off", Mark::Good, "yes");
-    row(
-        "booting unknown", [](HealthFacts &facts) { facts.daemon->remove("boot_ready"); }, "wakes from off",
-        Mark::Warning, "not known");
-    row("missed and untold", daemonSays("missed_untold", 2u), "missed alarms", Mark::Warning,
-        "2 that you have not been told of");
-    row(
-        "misses unknown", [](HealthFacts &facts) { facts.daemon->remove("missed_untold"); }, "missed alarms",
-        Mark::Good, "not known");
-    row("read-only store", daemonSays("store_writable", false), "storage", Mark::Warning, "sound, but read-only");
-    row("damaged store", daemonSays("store_integrity", "page 3 is torn"), "storage", Mark::Bad,
-        "damaged: page 3 is torn");
-    row("restored store", daemonSays("store_restored", true), "storage", Mark::Warning, "restored");
-    row(
-        "store unknown", [](HealthFacts &facts) { facts.daemon->remove("store_integrity"); }, "storage", Mark::Warning,
-        "not known");
-    row(
-        "no ringer",
-        [](HealthFacts &facts) {
-            facts.ringer.reset();
-            facts.ringerProblem = "not provided";
-        },
-        "ringer", Mark::Bad, "does not start: not provided");
-    row(
-        "no output",
-        [](HealthFacts &facts) {
-            facts.ringer->remove("output");
-            facts.ringer->insert("output_reason", "nothing answers");
-        },
-        "sound output", Mark::Bad, "none, nothing answers");
-    row("muted", ringerSays("muted", true), "sound output", Mark::Bad, "Loudspeaker, muted");
-    row("volume 0", ringerSays("volume", 0u), "sound output", Mark::Bad, "volume 0 %");
-    row("volume 1", ringerSays("volume", 1u), "sound output", Mark::Warning, "volume 1 %");
-    row("volume 24", ringerSays("volume", 24u), "sound output", Mark::Warning, "volume 24 %");
-    row("volume 25", ringerSays("volume", 25u), "sound output", Mark::Good, "volume 25 %");
-    row(
-        "volume unknown", [](HealthFacts &facts) { facts.ringer->remove("volume"); }, "sound output", Mark::Warning,
-        "its volume is not known");
-    row(
-        "own tone missing",
-        [](HealthFacts &facts) {
-            facts.ringer->insert("tone", "/tones/default.aac");
-            facts.ringer->insert("rejected_tones", QStringList{"/tones/own.aac"});
-            facts.ringer->insert("rejected_reasons", QStringList{"is missing"});
-        },
-        "tone", Mark::Warning, "/tones/own.aac is missing; heard instead: /tones/default.aac");
-    row(
-        "default tone missing, none of its own",
-        [](HealthFacts &facts) {
-            facts.next->tone.clear();
-            facts.ringer->insert("tone", "beeps");
-            facts.ringer->insert("rejected_tones", QStringList{"/tones/default.aac"});
-            facts.ringer->insert("rejected_reasons", QStringList{"is silent"});
-        },
-        "tone", Mark::Good, "beeps");
-    row(
-        "no tone at all",
-        [](HealthFacts &facts) {
-            facts.ringer->remove("tone");
-            facts.ringer->insert("rejected_tones", QStringList{"/tones/own.aac", "beeps"});
-            facts.ringer->insert("rejected_reasons", QStringList{"is missing", "cannot be decoded"});
-        },
-        "tone", Mark::Bad, "none can be heard: /tones/own.aac is missing, beeps cannot be decoded");
-    row("plug-in missing", ringerSays("plugin_reason", "no such file"), "ring screen", Mark::Warning,
-        "the plain one, as \"libclockalarm\" does not load: no such file");
-    row("no display", ringerSays("display", false), "ring screen", Mark::Warning, "heard, not seen");
+    addRowsOfArming();
+    addRowsOfWaking();
+    addRowsOfStoredThings();
+    addRowsOfOutput();
+    addRowsOfTones();
 }
 
 void FindingsTest::eachFactIsJudged()

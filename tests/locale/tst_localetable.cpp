@@ -103,76 +103,26 @@ void tst_LocaleTable::writesNumbersAndLetters_data()
     QTest::addColumn<QString>("script");
     QTest::addColumn<QString>("scripts");
     QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::newRow("en_US") << "0"
-                           << "1,234,567"
-                           << "I"
-                           << "Latn"
-                           << "Latn" << Qt::LeftToRight;
-    QTest::newRow("en_GB") << "0"
-                           << "1,234,567"
-                           << "I"
-                           << "Latn"
-                           << "Latn" << Qt::LeftToRight;
-    QTest::newRow("de_DE") << "0"
-                           << "1.234.567"
-                           << "I"
-                           << "Latn"
-                           << "Latn" << Qt::LeftToRight;
-    QTest::newRow("fi_FI") << "0" << u"1\u00A0234\u00A0567"_qs << "I"
-                           << "Latn"
-                           << "Latn" << Qt::LeftToRight;
-    QTest::newRow("ar_EG") << u"٠"_qs << u"١٬٢٣٤٬٥٦٧"_qs << "I"
-                           << "Arab"
-                           << "Arab" << Qt::RightToLeft;
-    QTest::newRow("fa_IR") << u"۰"_qs << u"۱٬۲۳۴٬۵۶۷"_qs << "I"
-                           << "Arab"
-                           << "Arab" << Qt::RightToLeft;
-    QTest::newRow("he_IL") << "0"
-                           << "1,234,567"
-                           << "I"
-                           << "Hebr"
-                           << "Hebr" << Qt::RightToLeft;
-    QTest::newRow("hi_IN") << "0"
-                           << "12,34,567"
-                           << "I"
-                           << "Deva"
-                           << "Deva" << Qt::LeftToRight;
-    QTest::newRow("zh_CN") << "0"
-                           << "1,234,567"
-                           << "I"
-                           << "Hans"
-                           << "Hani" << Qt::LeftToRight;
-    QTest::newRow("zh_TW") << "0"
-                           << "1,234,567"
-                           << "I"
-                           << "Hant"
-                           << "Hani Bopo" << Qt::LeftToRight;
-    QTest::newRow("ja_JP") << "0"
-                           << "1,234,567"
-                           << "I"
-                           << "Jpan"
-                           << "Kana Hira Hani" << Qt::LeftToRight;
-    QTest::newRow("ko_KR") << "0"
-                           << "1,234,567"
-                           << "I"
-                           << "Kore"
-                           << "Hang Hani" << Qt::LeftToRight;
-    QTest::newRow("th_TH") << "0"
-                           << "1,234,567"
-                           << "I"
-                           << "Thai"
-                           << "Thai" << Qt::LeftToRight;
-    QTest::newRow("tr_TR") << "0"
-                           << "1.234.567" << u"İ"_qs << "Latn"
-                           << "Latn" << Qt::LeftToRight;
-    QTest::newRow("pt_BR") << "0"
-                           << "1.234.567"
-                           << "I"
-                           << "Latn"
-                           << "Latn" << Qt::LeftToRight;
-    QTest::newRow("ru_RU") << "0" << u"1\u00A0234\u00A0567"_qs << "I"
-                           << "Cyrl"
-                           << "Cyrl" << Qt::LeftToRight;
+    const auto row = [](const char *name, const QString &zero, const QString &number, const QString &capital,
+                        const QString &script, const QString &scripts, Qt::LayoutDirection direction) {
+        QTest::newRow(name) << zero << number << capital << script << scripts << direction;
+    };
+    row("en_US", "0", "1,234,567", "I", "Latn", "Latn", Qt::LeftToRight);
+    row("en_GB", "0", "1,234,567", "I", "Latn", "Latn", Qt::LeftToRight);
+    row("de_DE", "0", "1.234.567", "I", "Latn", "Latn", Qt::LeftToRight);
+    row("fi_FI", "0", u"1\u00A0234\u00A0567"_qs, "I", "Latn", "Latn", Qt::LeftToRight);
+    row("ar_EG", u"٠"_qs, u"١٬٢٣٤٬٥٦٧"_qs, "I", "Arab", "Arab", Qt::RightToLeft);
+    row("fa_IR", u"۰"_qs, u"۱٬۲۳۴٬۵۶۷"_qs, "I", "Arab", "Arab", Qt::RightToLeft);
+    row("he_IL", "0", "1,234,567", "I", "Hebr", "Hebr", Qt::RightToLeft);
+    row("hi_IN", "0", "12,34,567", "I", "Deva", "Deva", Qt::LeftToRight);
+    row("zh_CN", "0", "1,234,567", "I", "Hans", "Hani", Qt::LeftToRight);
+    row("zh_TW", "0", "1,234,567", "I", "Hant", "Hani Bopo", Qt::LeftToRight);
+    row("ja_JP", "0", "1,234,567", "I", "Jpan", "Kana Hira Hani", Qt::LeftToRight);
+    row("ko_KR", "0", "1,234,567", "I", "Kore", "Hang Hani", Qt::LeftToRight);
+    row("th_TH", "0", "1,234,567", "I", "Thai", "Thai", Qt::LeftToRight);
+    row("tr_TR", "0", "1.234.567", u"İ"_qs, "Latn", "Latn", Qt::LeftToRight);
+    row("pt_BR", "0", "1.234.567", "I", "Latn", "Latn", Qt::LeftToRight);
+    row("ru_RU", "0", u"1\u00A0234\u00A0567"_qs, "I", "Cyrl", "Cyrl", Qt::LeftToRight);
 }
 
 void tst_LocaleTable::writesNumbersAndLetters()
