@@ -130,7 +130,8 @@ class Phone:
 
     def _start_display(self):
         reader, writer = os.pipe()
-        self._start(["Xvfb", "-displayfd", str(writer), "-screen", "0", "480x854x24", "-nolisten", "tcp"],
+        # Or it would start anew when its first client goes, and turn away whoever comes just then.
+        self._start(["Xvfb", "-displayfd", str(writer), "-screen", "0", "480x854x24", "-nolisten", "tcp", "-noreset"],
                     pass_fds=[writer], stderr=subprocess.DEVNULL)
         os.close(writer)
         with os.fdopen(reader) as answer:
