@@ -56,10 +56,13 @@ bool waitForChanges()
 
 bool waitForTrigger(quint32 cookie, bool present)
 {
-    return QTest::qWaitFor([=] {
+    // A daemon that has just been started again may be slow on a busy machine.
+    constexpr int patience = 20000;
+    const auto isThere = [=] {
         quint64 trigger = 0;
         return Clock::Utility::instance()->triggerFromContext(cookie, trigger) == present;
-    });
+    };
+    return QTest::qWaitFor(isThere, patience);
 }
 
 } // namespace Support

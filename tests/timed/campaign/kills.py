@@ -20,6 +20,8 @@ MOST_ALARMS = 30
 # Shorter than the daemon's patience with a ringer, so that a second call does not hide that the first one is missing.
 GRACE = 4 * SECOND
 ALL = (1 << 24) - 1, (1 << 60) - 1, 0x7f, 0xfffffffe, 0x1ffe, False
+STOP = 4
+BUTTONS = [(1, {}), (2, {}), (3, {}), (0, {})]  # the numbers of the first three are their seconds
 
 
 def next_minute(moment):
@@ -53,7 +55,7 @@ class Alarm:
 
     def variant(self):
         event = (-1 if self.every_minute else self.ticker, KEEP_ALIVE | (0 if self.every_minute else SINGLE_SHOT), 0, 0,
-                 {"NAME": self.name}, [ALL] if self.every_minute else [], [(0, {}), (1, {})])
+                 {"NAME": self.name}, [ALL] if self.every_minute else [], BUTTONS)
         return GLib.Variant(EVENT, event)
 
 
@@ -133,9 +135,13 @@ class Campaign:
         return Call(self.bus, "cancel", GLib.Variant("(u)", (cookie,))), ("cancel", None, cookie)
 
     def answer(self, cookie, how):
+        if how < 0.1:
+            return Call(self.bus, "press", GLib.Variant("(uus)", (cookie, STOP, "user"))), ("dismiss", None, cookie)
         if how < 0.5:
             return Call(self.bus, "dismiss", GLib.Variant("(us)", (cookie, "user"))), ("dismiss", None, cookie)
         seconds = 1 + int(how * 10) % 3
+        if how > 0.8:
+            return Call(self.bus, "press", GLib.Variant("(uus)", (cookie, seconds, "user"))), ("snooze", seconds, cookie)
         return Call(self.bus, "snooze", GLib.Variant("(uus)", (cookie, seconds, "user"))), ("snooze", seconds, cookie)
 
     def change(self, choice):
