@@ -52,7 +52,7 @@ void requestLaunch()
 void watch()
 {
     seen.critical = capture->lines(QtCriticalMsg);
-    seen.isShown = applicationWindow && applicationWindow->isVisible() && mainPage && mainPage->isOnDisplay();
+    seen.isShown = applicationWindow->isVisible() && mainPage->isOnDisplay();
     seen.isLocked = applicationWindow->isOrientationLocked() && applicationWindow->orientation() == Qt::Vertical;
     noteEnd(mainPage, "page");
     noteEnd(applicationWindow, "window");
