@@ -122,6 +122,12 @@ QAccessible::State AccessibleWidget::state() const
         state.checked = button->isChecked();
         state.pressed = button->isDown();
     }
+    const QGraphicsItem *above = widget()->parentItem();
+    const auto *list = above ? qobject_cast<const List *>(above->toGraphicsObject()) : nullptr;
+    if (list && list->selectionModel()) {
+        state.selectable = true;
+        state.selected = list->isSelected(list->rowOf(widget()));
+    }
     return state;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/applicationpage.h"
 
+#include "platform/toolkit/pagechrome_p.h"
 #include "platform/toolkit/pannableviewport.h"
 
 #include <QGraphicsSceneResizeEvent>
@@ -13,7 +14,11 @@ ApplicationPage::ApplicationPage(QGraphicsItem *parent)
     , m_centralWidget(new Widget(this))
 { }
 
-ApplicationPage::~ApplicationPage() = default;
+ApplicationPage::~ApplicationPage()
+{
+    // While it leaves its window, that tells the chrome of a change.
+    delete m_chrome;
+}
 
 void ApplicationPage::setTitle(const QString &title)
 {
@@ -21,6 +26,7 @@ void ApplicationPage::setTitle(const QString &title)
         return;
     m_title = title;
     announceName();
+    updateChrome();
     emit titleChanged(title);
 }
 
@@ -35,6 +41,18 @@ void ApplicationPage::setComponentsDisplayMode(int componentMask, DisplayMode mo
         if (componentMask & component)
             m_displayModes[component] = mode;
     }
+    updateChrome();
+}
+
+void ApplicationPage::updateChrome()
+{
+    if (isOnDisplay() && !m_chrome && componentDisplayMode(NavigationBar) != Hide)
+        makeChrome();
+    if (!m_chrome)
+        return;
+    m_chrome->follow(targetWindow());
+    m_chrome->update();
+    arrange();
 }
 
 ApplicationPage::DisplayMode ApplicationPage::componentDisplayMode(Component component) const
@@ -57,10 +75,19 @@ void ApplicationPage::setPannable(bool isPannable)
 
 void ApplicationPage::aboutToAppear()
 {
-    if (m_isContentCreated)
-        return;
-    m_isContentCreated = true;
-    createContent();
+    if (!m_isContentCreated) {
+        m_isContentCreated = true;
+        createContent();
+    }
+    if (!m_chrome && componentDisplayMode(NavigationBar) != Hide)
+        makeChrome();
+    updateChrome();
+}
+
+void ApplicationPage::makeChrome()
+{
+    m_chrome = new PageChrome(this);
+    connect(m_chrome, &PageChrome::resized, this, &ApplicationPage::arrange);
 }
 
 void ApplicationPage::resizeEvent(QGraphicsSceneResizeEvent *event)
@@ -72,7 +99,7 @@ void ApplicationPage::resizeEvent(QGraphicsSceneResizeEvent *event)
 void ApplicationPage::arrange()
 {
     QGraphicsWidget *content = m_viewport ? static_cast<QGraphicsWidget *>(m_viewport) : m_centralWidget;
-    content->setGeometry(paddedRect());
+    content->setGeometry(m_chrome ? m_chrome->place(paddedRect()) : paddedRect());
 }
 
 } // namespace Touch

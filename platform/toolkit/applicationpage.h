@@ -8,6 +8,7 @@
 
 namespace Touch {
 
+class PageChrome;
 class PannableViewport;
 
 /**
@@ -40,7 +41,11 @@ public:
     /** Whether the central widget may be higher than the page and is panned then. */
     void setPannable(bool isPannable);
 
-    /** How the window's own parts are shown with this page; the mask is made of Component. */
+    /**
+     * How the page's navigation bar is shown, and whether its buttons are in it; the mask is made of Component. One that
+     * is hidden by itself slides in over the content when its edge is touched. The escape button is there where
+     * something is to go back to, the home button where nothing is. All are shown unless set.
+     */
     void setComponentsDisplayMode(int componentMask, DisplayMode mode);
     DisplayMode componentDisplayMode(Component component) const;
 
@@ -57,6 +62,8 @@ protected:
 
 private:
     void arrange();
+    void updateChrome();
+    void makeChrome();
 
     QString m_title;
     bool m_isContentCreated = false;
@@ -64,6 +71,7 @@ private:
     Widget *m_centralWidget = nullptr;
     bool m_isPannable = false;
     PannableViewport *m_viewport = nullptr; ///< made when the page is first pannable
+    PageChrome *m_chrome = nullptr;         ///< only of a page that shows a navigation bar
 };
 
 } // namespace Touch

@@ -69,9 +69,12 @@ QGraphicsLayout *BasicListItem::createLayout()
     m_imageWidget->setStyleName(QStringLiteral("CommonListItemIcon"));
     if (hasIcon())
         grid->addItem(m_imageWidget, 0, 0, hasSubtitle() ? 2 : 1, 1, Qt::AlignCenter);
-    grid->addItem(m_titleLabel, 0, column, 1, 1, Qt::AlignLeft | Qt::AlignVCenter);
-    if (hasSubtitle())
-        grid->addItem(m_subtitleLabel, 1, column, 1, 1, Qt::AlignLeft | Qt::AlignVCenter);
+    grid->addItem(m_titleLabel, 0, column, 1, 1, Qt::AlignLeft | (hasSubtitle() ? Qt::AlignBottom : Qt::AlignVCenter));
+    grid->setRowStretchFactor(0, 1);
+    if (hasSubtitle()) {
+        grid->addItem(m_subtitleLabel, 1, column, 1, 1, Qt::AlignLeft | Qt::AlignTop);
+        grid->setRowStretchFactor(1, 1);
+    }
     grid->setColumnStretchFactor(column, 1);
     return layout;
 }

@@ -31,4 +31,19 @@ QString done()
     return text("qtn_comm_command_done", "Done");
 }
 
+QString back()
+{
+    return text("qtn_comm_back", "Back");
+}
+
+QString home()
+{
+    return text("qtn_comm_home", "Home screen");
+}
+
+QString navigation()
+{
+    return text("qtn_comm_navigation", "Navigation");
+}
+
 } // namespace Touch::CommonText

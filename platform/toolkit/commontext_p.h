@@ -10,5 +10,8 @@ namespace Touch::CommonText {
 QString ok();
 QString cancel();
 QString done();
+QString back();
+QString home();
+QString navigation();
 
 } // namespace Touch::CommonText

@@ -4,6 +4,7 @@
 
 #include "platform/toolkit/abstractitemmodel.h"
 #include "platform/toolkit/cellcreator.h"
+#include "platform/toolkit/listtitles_p.h"
 #include "platform/toolkit/motion_p.h"
 #include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/pannableviewport.h"
@@ -25,6 +26,7 @@ constexpr int spareRows = 1;
 
 List::List(QGraphicsItem *parent)
     : Widget(parent)
+    , m_titles(std::make_unique<ListTitles>(this))
 {
     setFlag(ItemSendsScenePositionChanges);
     setFlag(ItemUsesExtendedStyleOption);
@@ -63,6 +65,7 @@ void List::setItemModel(QAbstractItemModel *model)
         connect(model, &QAbstractItemModel::rowsMoved, this, &List::rebuild);
         connect(model, &QObject::destroyed, this, &List::rebuild);
     }
+    renewSelection();
     rebuild();
 }
 
@@ -80,14 +83,18 @@ void List::setCellCreator(CellCreator *creator)
     rebuild();
 }
 
-void List::setSelectionMode(SelectionMode mode)
-{
-    m_selectionMode = mode;
-}
-
 void List::setShowGroups(bool showsGroups)
 {
+    if (m_showsGroups == showsGroups)
+        return;
     m_showsGroups = showsGroups;
+    rebuild();
+}
+
+void List::readGroups()
+{
+    m_titles->read(m_showsGroups ? m_model.data() : nullptr);
+    m_rows.setTitles(m_titles->firstRows(), m_showsGroups ? m_titles->height() : 0);
 }
 
 void List::setViewType(const QString &viewType)
@@ -115,6 +122,7 @@ void List::rebuild()
     m_outdated.clear();
     m_rows.setCount(m_model ? m_model->rowCount() : 0);
     m_rows.setRowHeight(m_creator ? m_creator->cellSize().height() : 0);
+    readGroups();
     updateGeometry();
     update();
     scheduleUpdate();
@@ -148,6 +156,7 @@ void List::rowsInserted(int first, int last)
     shiftFocus(first, count);
     rekey(first, count);
     m_rows.setCount(m_model->rowCount());
+    readGroups();
     if (isChangeAnimated(first, last))
         animateFrom(first + 1, -m_rows.rowHeight(), nullptr, true);
     updateGeometry();
@@ -167,6 +176,7 @@ void List::rowsRemoved(int first, int last)
     }
     rekey(first, first - last - 1);
     m_rows.setCount(m_model->rowCount());
+    readGroups();
     if (leaving)
         keepFocusOf(leaving);
     if (leaving)
@@ -281,6 +291,7 @@ void List::updateCells()
         placeCell(row, cell);
     }
     m_outdated.clear();
+    m_titles->place(m_rows, seen);
     m_recycler.hideAll();
     giveFocusBack();
     if (m_change.shift == 0)
@@ -298,6 +309,9 @@ void List::placeCell(int row, Widget *cell)
     cell->setGeometry(QRectF(0, qRound(m_rows.top(row)), size().width(), m_rows.rowHeight()));
     cell->setOpacity(1);
     cell->setVisible(true);
+    // What is chosen by tapping is chosen by keys as well.
+    if (m_selection && cell->focusPolicy() == Qt::NoFocus)
+        cell->setFocusPolicy(Qt::TabFocus);
 }
 
 void List::styleChanged()
@@ -309,7 +323,8 @@ void List::styleChanged()
 
 void List::followCellSize()
 {
-    if (m_creator && m_rows.rowHeight() != m_creator->cellSize().height())
+    const bool hasOtherTitles = m_showsGroups && m_rows.titleHeight() != m_titles->height();
+    if (hasOtherTitles || (m_creator && m_rows.rowHeight() != m_creator->cellSize().height()))
         rebuild();
 }
 
@@ -342,14 +357,17 @@ void List::resizeEvent(QGraphicsSceneResizeEvent *event)
 void List::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)
 {
     Widget::paint(painter, option, widget);
-    const Style &look = style();
-    const QRectF exposed = option->exposedRect;
-    if (!look.separatorColor.isValid() || m_rows.count() == 0)
+    if (m_rows.count() == 0)
         return;
+    const QColor separator = style().separatorColor;
     const QRectF line = paddedRect();
-    const int last = m_rows.rowAt(exposed.bottom());
-    for (int row = qMax(1, m_rows.rowAt(exposed.top())); row <= last; ++row)
-        painter->fillRect(QRectF(line.left(), qRound(m_rows.top(row)), line.width(), 1), look.separatorColor);
+    const int last = m_rows.rowAt(option->exposedRect.bottom());
+    for (int row = m_rows.rowAt(option->exposedRect.top()); row <= last; ++row) {
+        if (isSelected(row))
+            paintSelection(painter, row);
+        if (separator.isValid() && row > 0 && !m_rows.hasTitleAbove(row))
+            painter->fillRect(QRectF(line.left(), qRound(m_rows.top(row)), line.width(), 1), separator);
+    }
 }
 
 } // namespace Touch

@@ -12,11 +12,14 @@
 #include <QSet>
 
 class QAbstractItemModel;
+class QItemSelectionModel;
 class QVariantAnimation;
 
 namespace Touch {
 
 class CellCreator;
+class ListSelection;
+class ListTitles;
 
 /**
  * The rows of a model as cells, one below the other; as tall as all of them, to be put into a viewport. Only cells that
@@ -28,8 +31,9 @@ class List : public Widget
     Q_OBJECT
 
 public:
-    /** Taps are for the cells themselves. */
-    enum SelectionMode { NoSelection };
+    /** Without selection, taps are for the cells alone. With it, a tap on a cell or Space chooses its row as well. */
+    enum SelectionMode { NoSelection, SingleSelection, MultipleSelection };
+    Q_ENUM(SelectionMode)
 
     explicit List(QGraphicsItem *parent = nullptr);
     ~List() override;
@@ -38,9 +42,12 @@ public:
     void setItemModel(QAbstractItemModel *model);
     CellCreator *cellCreator() const { return m_creator.get(); }
     void setCellCreator(CellCreator *creator);
+    bool isSelected(int row) const;
     SelectionMode selectionMode() const { return m_selectionMode; }
     void setSelectionMode(SelectionMode mode);
-    /** Group titles are for models with groups; so far rows are shown without them either way. */
+    /** The chosen rows, of the model that is set; null without selection. */
+    QItemSelectionModel *selectionModel() const;
+    /** Whether the groups of an AbstractItemModel that has some get their titles. */
     bool showGroups() const { return m_showsGroups; }
     void setShowGroups(bool showsGroups);
     QString viewType() const { return m_viewType; }
@@ -62,12 +69,20 @@ protected:
     void resizeEvent(QGraphicsSceneResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool focusNextPrevChild(bool next) override;
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    void ungrabMouseEvent(QEvent *event) override;
+    bool sceneEventFilter(QGraphicsItem *watched, QEvent *event) override;
 
 private:
     void rowsInserted(int first, int last);
     void rowsRemoved(int first, int last);
     void dataChanged(int first, int last);
     void rebuild();
+    void readGroups();
+    void renewSelection();
+    int rowUnder(const QPointF &place) const;
+    void paintSelection(QPainter *painter, int row) const;
     void followCellSize();
     void rekey(int first, int by);
     void giveBack(Widget *cell);
@@ -98,6 +113,8 @@ private:
     bool m_showsGroups = false;
     QString m_viewType;
     ListRows m_rows;
+    std::unique_ptr<ListTitles> m_titles;
+    ListSelection *m_selection = nullptr; ///< only with a mode that selects
 
     // Cells
     QMap<int, Widget *> m_cells;

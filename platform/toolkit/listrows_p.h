@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <QtGlobal>
+#include <QList>
 
 namespace Touch {
 
-/** Where the rows of a list lie: all of one height, those after a change shifted while it is animated. */
+/**
+ * Where the rows of a list lie: all of one height, with room for a title above the first row of each group, those after
+ * a change shifted while it is animated.
+ */
 class ListRows
 {
 public:
@@ -14,17 +17,23 @@ public:
     void setCount(int count) { m_count = count; }
     qreal rowHeight() const { return m_rowHeight; }
     void setRowHeight(qreal height) { m_rowHeight = height; }
+    /** The first row of each group, upwards, and the height of a title. */
+    void setTitles(const QList<int> &firstRows, qreal height);
+    qreal titleHeight() const { return m_titleHeight; }
+    bool hasTitleAbove(int row) const;
     /** Moves a row and all after it by some pixels; 0 moves none. */
     void setShift(int fromRow, qreal shift);
 
-    qreal top(int row) const { return row * m_rowHeight + (row >= m_shiftedFrom ? m_shift : 0); }
-    qreal height() const { return m_count * m_rowHeight + m_shift; }
+    qreal top(int row) const;
+    qreal height() const { return m_count * m_rowHeight + qreal(m_firstRows.size()) * m_titleHeight + m_shift; }
     /** The row at a height, bounded to the rows there are; -1 if there is none. */
     int rowAt(qreal y) const;
 
 private:
     int m_count = 0;
     qreal m_rowHeight = 0;
+    QList<int> m_firstRows;
+    qreal m_titleHeight = 0;
     int m_shiftedFrom = 0;
     qreal m_shift = 0;
 };

@@ -64,6 +64,14 @@ void PannableViewport::setPanDirection(Qt::Orientations directions)
     arrange();
 }
 
+void PannableViewport::setFitsWidget(bool fits)
+{
+    if (m_fitsWidget == fits)
+        return;
+    m_fitsWidget = fits;
+    arrange();
+}
+
 QPointF PannableViewport::position() const
 {
     return {m_x.position(), m_y.position()};
@@ -96,15 +104,23 @@ void PannableViewport::ensureVisible(const QRectF &rect)
         setPosition(wanted);
 }
 
+QSizeF PannableViewport::wantedSize() const
+{
+    const Qt::SizeHint hint = m_fitsWidget ? Qt::MinimumSize : Qt::PreferredSize;
+    QSizeF wanted = size();
+    if (pans(Qt::Horizontal))
+        wanted.setWidth(qMax(wanted.width(), m_widget->effectiveSizeHint(hint).width()));
+    const QSizeF constraint(wanted.width(), -1);
+    if (pans(Qt::Vertical))
+        wanted.setHeight(qMax(wanted.height(), m_widget->effectiveSizeHint(hint, constraint).height()));
+    return wanted;
+}
+
 void PannableViewport::arrange()
 {
     if (!m_widget)
         return;
-    QSizeF wanted = size();
-    if (pans(Qt::Horizontal))
-        wanted.setWidth(qMax(wanted.width(), m_widget->effectiveSizeHint(Qt::PreferredSize).width()));
-    const QSizeF constraint(wanted.width(), -1);
-    wanted.setHeight(qMax(wanted.height(), m_widget->effectiveSizeHint(Qt::PreferredSize, constraint).height()));
+    const QSizeF wanted = wantedSize();
     m_widget->resize(wanted);
     m_x.setMaximum(pans(Qt::Horizontal) ? wanted.width() - size().width() : 0);
     m_y.setMaximum(pans(Qt::Vertical) ? wanted.height() - size().height() : 0);
@@ -142,6 +158,8 @@ bool PannableViewport::turnsIntoPanning(const QGraphicsSceneMouseEvent *event) c
         return false;
     const QPointF way = mapFromScene(event->scenePos()) - m_pressPos;
     const bool isSideways = std::abs(way.x()) > std::abs(way.y());
+    if (m_fitsWidget && (isSideways ? m_x : m_y).maximum() == 0)
+        return false;
     return pans(isSideways ? Qt::Horizontal : Qt::Vertical)
         && qMax(std::abs(way.x()), std::abs(way.y())) >= panThreshold;
 }

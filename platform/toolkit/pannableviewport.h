@@ -15,8 +15,8 @@ class ContentLayout;
 
 /**
  * Shows a part of a widget that may be larger than itself and lets the user pan it: by dragging, with a flick that runs
- * on, by wheel or by moving the focus. A press that turns into panning is taken from the control beneath. Owns its
- * widget. Nothing ticks once it rests.
+ * on, by wheel or by moving the focus. A press that turns into panning is taken from the control beneath. Past an
+ * end the widget gives way by half of the finger's way and springs back: that is its edge effect. Owns its widget. Nothing ticks once it rests.
  */
 class PannableViewport : public Widget
 {
@@ -33,6 +33,13 @@ public:
     /** Vertical unless set; with none, the widget cannot be panned and goes back to its start. */
     Qt::Orientations panDirection() const { return m_directions; }
     void setPanDirection(Qt::Orientations directions);
+
+    /**
+     * Whether the widget has to fit: it is then panned only as far as it cannot be made smaller, not where it merely
+     * prefers to be larger, and does not give way where there is nothing to pan.
+     */
+    bool fitsWidget() const { return m_fitsWidget; }
+    void setFitsWidget(bool fits);
 
     /** How far the widget is moved, in pixels from its start; positive is towards its end. */
     QPointF position() const;
@@ -67,12 +74,14 @@ private:
     void startMoving();
     void stopMoving();
     void arrange();
+    QSizeF wantedSize() const;
     void moveWidget();
     bool pans(Qt::Orientation direction) const { return m_directions.testFlag(direction); }
 
     ContentLayout *m_layout; ///< owned by the base
     QPointer<QGraphicsWidget> m_widget;
     Qt::Orientations m_directions = Qt::Vertical;
+    bool m_fitsWidget = false;
     Kinetics m_x;
     Kinetics m_y;
     QPointF m_reported;

@@ -3,6 +3,7 @@
 #include "platform/toolkit/sheet.h"
 
 #include "platform/toolkit/basicsheetheader.h"
+#include "platform/toolkit/pannableviewport.h"
 
 #include <QAction>
 #include <QGraphicsSceneResizeEvent>
@@ -11,8 +12,12 @@ namespace Touch {
 
 Sheet::Sheet(QGraphicsItem *parent)
     : SceneWindow(parent)
-    , m_centralWidget(new Widget(this))
-{ }
+    , m_viewport(new PannableViewport(this))
+    , m_centralWidget(new Widget)
+{
+    m_viewport->setFitsWidget(true);
+    m_viewport->setWidget(m_centralWidget);
+}
 
 Sheet::~Sheet() = default;
 
@@ -73,7 +78,7 @@ void Sheet::arrange()
         m_headerWidget->setGeometry(QRectF(area.topLeft(), QSizeF(area.width(), height)));
         area.setTop(area.top() + height);
     }
-    m_centralWidget->setGeometry(area);
+    m_viewport->setGeometry(area);
 }
 
 } // namespace Touch

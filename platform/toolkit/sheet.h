@@ -6,9 +6,11 @@
 
 namespace Touch {
 
+class PannableViewport;
+
 /**
- * A modal window that slides up over the whole window: a header on top, the central widget below it. It owns
- * both.
+ * A modal window that slides up over the whole window: a header on top, the central widget below it, panned where it
+ * cannot be made low enough. It owns both.
  */
 class Sheet : public SceneWindow
 {
@@ -39,7 +41,8 @@ private:
     void arrange();
 
     QGraphicsWidget *m_headerWidget = nullptr;
-    Widget *m_centralWidget = nullptr;
+    PannableViewport *m_viewport;
+    Widget *m_centralWidget;
 };
 
 } // namespace Touch

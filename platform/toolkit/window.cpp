@@ -157,10 +157,15 @@ bool Window::stepBack()
 {
     finishTransitions();
     SceneWindow *top = topSceneWindow();
-    if (!top || (top == m_stack.constFirst() && closesInsteadOfLast()))
+    if (!top || !leadsBackFrom(top))
         return false;
     top->stepBack();
     return true;
+}
+
+bool Window::leadsBackFrom(const SceneWindow *sceneWindow) const
+{
+    return !closesInsteadOfLast() || (!m_stack.isEmpty() && m_stack.constFirst() != sceneWindow);
 }
 
 void Window::closeAtOnce()

@@ -59,6 +59,8 @@ public:
 
     /** Leaves the topmost scene window as its cancel button would; false if there is nothing but a page. */
     bool stepBack();
+    /** Whether going back from a scene window leads to another one, here or in the window that this is chained to. */
+    bool leadsBackFrom(const SceneWindow *sceneWindow) const;
     /** Closes it, whatever lies above the page. */
     void closeAtOnce();
 

@@ -54,6 +54,8 @@ private slots:
     void hasTheNumbersOfItsStyles();
     void showsThePartsOfItsStyle_data();
     void showsThePartsOfItsStyle();
+    void centresItsTexts_data();
+    void centresItsTexts();
     void letsAnOverrideBuildTheLayoutOnce();
     void isMeasuredWithItsLayout();
     void isClickedByFingerAndKeys();
@@ -121,6 +123,29 @@ void TestBasicListItem::showsThePartsOfItsStyle()
         QTRY_VERIFY(item->titleLabel()->geometry().bottom() <= item->subtitleLabel()->geometry().top());
     if (hasIcon)
         QTRY_VERIFY(item->imageWidget()->geometry().right() < item->titleLabel()->geometry().left());
+}
+
+void TestBasicListItem::centresItsTexts_data()
+{
+    showsThePartsOfItsStyle_data();
+}
+
+void TestBasicListItem::centresItsTexts()
+{
+    QFETCH(BasicListItem::ItemStyle, style);
+    QFETCH(bool, hasSubtitle);
+    auto *item = new BasicListItem(style);
+    item->setTitle(QStringLiteral("Repeat"));
+    item->setSubtitle(QStringLiteral("Never"));
+    item->setPreferredHeight(120);
+    m_column->addItem(item);
+    m_column->addStretch();
+    QTRY_COMPARE(item->size().height(), 120.0);
+    QRectF texts = item->titleLabel()->geometry();
+    if (hasSubtitle)
+        texts |= item->subtitleLabel()->geometry();
+    QVERIFY2(qAbs(texts.center().y() - 60) <= 3, qPrintable(QString::number(texts.center().y())));
+    QVERIFY(texts.height() < 60);
 }
 
 void TestBasicListItem::letsAnOverrideBuildTheLayoutOnce()

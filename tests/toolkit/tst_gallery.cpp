@@ -129,6 +129,10 @@ void TestGallery::showsEveryControl()
     list.appear(&window);
     checkPicture(window, "list");
 
+    Gallery::ChoicesPage choices;
+    choices.appear(&window);
+    checkPicture(window, "choices");
+
     Gallery::RowsPage rows;
     rows.appear(&window);
     checkPicture(window, "rows");

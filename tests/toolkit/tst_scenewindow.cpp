@@ -86,6 +86,7 @@ void TestSceneWindow::init()
     m_window = new ApplicationWindow;
     m_page = new Page;
     m_page->setTitle(QStringLiteral("Main"));
+    m_page->setComponentsDisplayMode(ApplicationPage::NavigationBar, ApplicationPage::Hide);
     m_page->appear(m_window);
     m_window->show();
     m_window->activateWindow();
@@ -239,6 +240,7 @@ void TestSceneWindow::stopsWhatTicksWhileItIsCovered()
 void TestSceneWindow::remembersTheDisplayModesOfComponents()
 {
     QCOMPARE(m_page->componentDisplayMode(ApplicationPage::HomeButton), ApplicationPage::Show);
+    QCOMPARE(Page().componentDisplayMode(ApplicationPage::NavigationBar), ApplicationPage::Show);
     m_page->setComponentsDisplayMode(ApplicationPage::AllComponents, ApplicationPage::Hide);
     m_page->setComponentsDisplayMode(ApplicationPage::EscapeButton, ApplicationPage::AutoHide);
     QCOMPARE(m_page->componentDisplayMode(ApplicationPage::HomeButton), ApplicationPage::Hide);
@@ -262,7 +264,7 @@ void TestSceneWindow::showsTheActionsOfItsHeader()
     QCOMPARE(left->text(), QStringLiteral("Cancel"));
     QVERIFY(left->geometry().right() < right->geometry().left());
     QVERIFY(right->size().height() >= 48);
-    QCOMPARE(header->geometry().bottom(), sheet.centralWidget()->geometry().top());
+    QCOMPARE(header->geometry().bottom(), sheet.centralWidget()->sceneBoundingRect().top());
     const QSignalSpy triggered(&save, &QAction::triggered);
     Finger::tap(*m_window, right);
     QCOMPARE(triggered.count(), 1);
@@ -301,6 +303,7 @@ void TestSceneWindow::pansItsPageOnlyIfItMay()
     QTRY_VERIFY(m_page->centralWidget()->y() < -300);
     m_page->setPannable(false);
     QCOMPARE(m_page->centralWidget()->y(), 0.0);
+    QCOMPARE(m_page->centralWidget()->size(), QSizeF(480, 854));
 }
 
 QTEST_MAIN(TestSceneWindow)

@@ -21,6 +21,7 @@
 #include "tools/gallery/rows.h"
 
 #include <QAction>
+#include <QItemSelectionModel>
 
 using namespace Touch;
 
@@ -133,6 +134,29 @@ void ListPage::createContent()
     auto *column = new LinearLayoutPolicy(new Layout(centralWidget()), Qt::Vertical);
     viewport = new PannableViewport;
     list = makeList(this);
+    viewport->setWidget(list);
+    column->addItem(viewport);
+}
+
+ChoicesPage::ChoicesPage()
+{
+    setTitle(QStringLiteral("Choices"));
+    setComponentsDisplayMode(NavigationBar, AutoHide);
+}
+
+void ChoicesPage::createContent()
+{
+    ApplicationPage::createContent();
+    auto *column = new LinearLayoutPolicy(new Layout(centralWidget()), Qt::Vertical);
+    auto *viewport = new PannableViewport;
+    list = makeList(this);
+    list->setSelectionMode(List::MultipleSelection);
+    list->setShowGroups(true);
+    auto *rows = static_cast<Rows *>(list->itemModel());
+    rows->fill(9);
+    rows->group({{QStringLiteral("Weekdays"), 5}, {QStringLiteral("Weekend"), 2}, {QStringLiteral("Holidays"), 2}});
+    for (const int row : {1, 2, 5})
+        list->selectionModel()->select(rows->index(row, 0), QItemSelectionModel::Select);
     viewport->setWidget(list);
     column->addItem(viewport);
 }

@@ -49,6 +49,18 @@ public:
     Touch::PannableViewport *viewport = nullptr;
 };
 
+/** A page with a grouped list to choose several rows from; its navigation bar hides itself. */
+class ChoicesPage : public Touch::ApplicationPage
+{
+    Q_OBJECT
+
+public:
+    ChoicesPage();
+    void createContent() override;
+
+    Touch::List *list = nullptr;
+};
+
 /** A page of rows to tap: list items of all styles, and a choice; the first one has an object menu. */
 class RowsPage : public Touch::ApplicationPage
 {

@@ -20,7 +20,8 @@ const QCommandLineOption mirrored({"m", "mirrored"}, "Lays everything out from r
 const QCommandLineOption textScale({"t", "text-scale"}, "How much larger text is: 1 to 2.", "factor", "1");
 const QCommandLineOption inverted({"i", "inverted"}, "Shows the window in the other variant's colours.");
 const QCommandLineOption size({"s", "size"}, "Size of the window: 480x854.", "size", "480x854");
-const QCommandLineOption scene("scene", "What to show: page, rows, list, sheet or question (page).", "name", "page");
+const QCommandLineOption scene("scene", "What to show: page, rows, list, choices, sheet or question (page).", "name",
+                               "page");
 const QCommandLineOption picture({"p", "picture"}, "Writes a picture into a file and ends.", "file");
 
 void applyLook(const QCommandLineParser &options)
@@ -40,6 +41,8 @@ std::vector<std::unique_ptr<Touch::SceneWindow>> sceneWindows(const QString &nam
     std::vector<std::unique_ptr<Touch::SceneWindow>> result;
     if (name == QLatin1String("list"))
         result.push_back(std::make_unique<Gallery::ListPage>());
+    else if (name == QLatin1String("choices"))
+        result.push_back(std::make_unique<Gallery::ChoicesPage>());
     else if (name == QLatin1String("rows"))
         result.push_back(std::make_unique<Gallery::RowsPage>());
     else

@@ -42,6 +42,18 @@ void Rows::change(int row, const QString &text)
     emit dataChanged(index(row, 0), index(row, 0));
 }
 
+void Rows::group(const QList<QPair<QString, int>> &groups)
+{
+    beginResetModel();
+    m_groups = groups;
+    endResetModel();
+}
+
+int Rows::rowCountInGroup(int group) const
+{
+    return m_groups.isEmpty() ? rowCount() : m_groups.value(group).second;
+}
+
 int Rows::rowCount(const QModelIndex &) const
 {
     return int(m_texts.size());

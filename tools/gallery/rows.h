@@ -25,13 +25,16 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     using AbstractItemModel::itemData;
-    int groupCount() const override { return -1; }
-    int rowCountInGroup(int) const override { return rowCount(); }
-    QString groupTitle(int) const override { return {}; }
+    /** Groups the rows: so many in each, by title. */
+    void group(const QList<QPair<QString, int>> &groups);
+    int groupCount() const override { return m_groups.isEmpty() ? -1 : int(m_groups.size()); }
+    int rowCountInGroup(int group) const override;
+    QString groupTitle(int group) const override { return m_groups.value(group).first; }
     QVariant itemData(int, int, int) const override { return {}; }
 
 private:
     QStringList m_texts;
+    QList<QPair<QString, int>> m_groups;
 };
 
 /** A row that can be tapped. */
