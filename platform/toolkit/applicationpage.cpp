@@ -57,7 +57,7 @@ void ApplicationPage::updateChrome()
 
 ApplicationPage::DisplayMode ApplicationPage::componentDisplayMode(Component component) const
 {
-    return m_displayModes.value(component, Show);
+    return m_displayModes.value(component, component == NavigationBar ? Hide : Show);
 }
 
 void ApplicationPage::setPannable(bool isPannable)

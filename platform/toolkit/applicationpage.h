@@ -44,7 +44,7 @@ public:
     /**
      * How the page's navigation bar is shown, and whether its buttons are in it; the mask is made of Component. One that
      * is hidden by itself slides in over the content when its edge is touched. The escape button is there where
-     * something is to go back to, the home button where nothing is. All are shown unless set.
+     * something is to go back to, the home button where nothing is. Unless set, both are shown, but the bar is hidden.
      */
     void setComponentsDisplayMode(int componentMask, DisplayMode mode);
     DisplayMode componentDisplayMode(Component component) const;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <QGraphicsLayoutItem>
+#include <QWidget>
 
 namespace Touch {
 
@@ -106,8 +107,13 @@ QList<Segment> GridLayoutPolicy::segments(Qt::Orientation direction, const QList
     }
     const QHash<int, int> &stretches = direction == Qt::Horizontal ? m_columnStretch : m_rowStretch;
     for (auto it = stretches.begin(); it != stretches.end(); ++it) {
-        if (it.key() < count)
-            result[it.key()].stretch = it.value();
+        if (it.key() >= count)
+            continue;
+        Segment &segment = result[it.key()];
+        segment.stretch = it.value();
+        // What is told to stretch does so around items that do not.
+        if (it.value() > 0 && !segment.isEmpty)
+            segment.maximum = QWIDGETSIZE_MAX;
     }
     return result;
 }

@@ -89,6 +89,11 @@ void PageChrome::reveal()
     if (m_isRevealed)
         return;
     m_isRevealed = true;
+    setShown(m_shown);
+    if (m_edge->hasFocus()) {
+        Button *first = m_bar->escapeButton()->isVisible() ? m_bar->escapeButton() : m_bar->homeButton();
+        first->setFocus(Qt::TabFocusReason);
+    }
     m_edge->setVisible(false);
     slideTo(1);
 }
@@ -126,7 +131,7 @@ void PageChrome::slideTo(qreal shown)
 void PageChrome::setShown(qreal shown)
 {
     m_shown = shown;
-    m_bar->setVisible(shown > 0);
+    m_bar->setVisible(shown > 0 || m_isRevealed);
     m_bar->setPos(0, qRound((shown - 1) * m_bar->size().height()));
 }
 

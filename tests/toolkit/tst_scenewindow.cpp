@@ -86,7 +86,6 @@ void TestSceneWindow::init()
     m_window = new ApplicationWindow;
     m_page = new Page;
     m_page->setTitle(QStringLiteral("Main"));
-    m_page->setComponentsDisplayMode(ApplicationPage::NavigationBar, ApplicationPage::Hide);
     m_page->appear(m_window);
     m_window->show();
     m_window->activateWindow();
@@ -240,7 +239,7 @@ void TestSceneWindow::stopsWhatTicksWhileItIsCovered()
 void TestSceneWindow::remembersTheDisplayModesOfComponents()
 {
     QCOMPARE(m_page->componentDisplayMode(ApplicationPage::HomeButton), ApplicationPage::Show);
-    QCOMPARE(Page().componentDisplayMode(ApplicationPage::NavigationBar), ApplicationPage::Show);
+    QCOMPARE(m_page->componentDisplayMode(ApplicationPage::NavigationBar), ApplicationPage::Hide);
     m_page->setComponentsDisplayMode(ApplicationPage::AllComponents, ApplicationPage::Hide);
     m_page->setComponentsDisplayMode(ApplicationPage::EscapeButton, ApplicationPage::AutoHide);
     QCOMPARE(m_page->componentDisplayMode(ApplicationPage::HomeButton), ApplicationPage::Hide);

@@ -164,6 +164,7 @@ void ChoicesPage::createContent()
 RowsPage::RowsPage()
 {
     setTitle(QStringLiteral("Rows"));
+    setComponentsDisplayMode(NavigationBar, Show);
 }
 
 void RowsPage::createContent()
