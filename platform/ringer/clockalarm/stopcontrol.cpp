@@ -15,7 +15,7 @@ using Touch::Theme;
 namespace {
 
 constexpr auto Inset = 6.0; ///< between the track and the knob
-constexpr auto ReturnTime = 180;
+constexpr std::chrono::milliseconds ReturnTime{180};
 // A finger need not come quite to the end.
 constexpr auto EnoughProgress = 0.92;
 
@@ -183,7 +183,8 @@ void StopControl::changeEvent(QEvent *event)
 void StopControl::hold()
 {
     m_phase = Phase::Holding;
-    runTo(1, int(HoldTime * (1 - m_progress)));
+    const auto left = int(HoldTime * (1 - m_progress));
+    runTo(1, std::chrono::milliseconds(left));
 }
 
 void StopControl::letGo()
@@ -194,12 +195,12 @@ void StopControl::letGo()
     runTo(0, ReturnTime);
 }
 
-void StopControl::runTo(double progress, int milliseconds)
+void StopControl::runTo(double progress, std::chrono::milliseconds time)
 {
     m_run.stop();
     m_run.setStartValue(m_progress);
     m_run.setEndValue(progress);
-    m_run.setDuration(std::max(1, milliseconds));
+    m_run.setDuration(std::max(1, int(time.count())));
     m_run.start();
     update();
 }

@@ -5,6 +5,7 @@
 #include "platform/ringer/clockalarm/ringsettings.h"
 #include "platform/toolkit/widget.h"
 
+#include <chrono>
 #include <QVariantAnimation>
 
 /**
@@ -62,7 +63,7 @@ private:
     void setProgress(double progress);
     void hold();
     void letGo();
-    void runTo(double progress, int milliseconds);
+    void runTo(double progress, std::chrono::milliseconds time);
     void finish();
 
     StopGesture m_gesture = StopGesture::Slide;
