@@ -40,6 +40,12 @@ licence_heads() {
     ! git ls-files '*.cpp' '*.h' '*.py' '*.sh' '*CMakeLists.txt' '*.cmake' '*.xml' '*.qrc' '*.svg' '*.service' \
         '*.service.in' | xargs grep -L 'SPDX-License-Identifier: LGPL-2.1-or-later' | grep .
 }
+# What no CMakeLists.txt names is never run.
+every_test_is_built() {
+    ! git ls-files 'tests/*tst_*.cpp' | while read -r test; do
+        grep -qF "/$test\"" "$build/compile_commands.json" || echo "$test is built by no target"
+    done | grep .
+}
 no_sleep_in_tests() {
     ! git grep -nE 'QTest::qWait\(|QTest::qSleep|QThread::m?sleep|usleep\(|sleep_for|time\.sleep\(' -- tests
 }
@@ -49,6 +55,7 @@ check "includes: docs/architecture.md is obeyed" python3 tools/check_includes.py
 check "headers: each compiles alone" python3 tools/check_headers.py "$build"
 check "functions: none is longer than 60 lines" python3 tools/check_functions.py
 check "licence: every file has its head" licence_heads
+check "tests: each is built" every_test_is_built
 check "tests: none sleeps" no_sleep_in_tests
 check "tidy: files changed since $(git rev-parse --short "$base")" tidy
 exit $failed
