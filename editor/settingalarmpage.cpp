@@ -50,6 +50,8 @@ void SettingAlarmPage::loadAlarm(quint32 cookie, const QTime &time, const QStrin
                                  unsigned int snooze)
 {
     stopWaiting();
+    leaveResetDialog();
+    m_mayRestore = false;
     hideInformationBanner();
     m_snooze = snooze;
     m_cookie = cookie;
@@ -86,6 +88,8 @@ void SettingAlarmPage::resetContent()
     qDebug() << "void SettingAlarmPage::resetContent()";
     if (m_optionsPage)
         m_optionsPage->resetContent();
+    // The list asks without the sheet, which then does not leave.
+    leaveResetDialog();
     dismiss();
 }
 

@@ -32,14 +32,17 @@ void SettingAlarmPage::saveAlarm()
     QmAlarmEvent record = recordFromFields();
     storeRecord(record);
     if (isNewAlarm()) {
+        stopWaiting();
         dismiss();
         showInformationBanner(qtTrId("qtn_cloc_alarm_save_error"));
     } else {
         rememberTime(record.alarmTime());
     }
     record = QmAlarmEvent(m_cookie);
-    if (!record.isEnabled())
+    if (!record.isEnabled()) {
+        stopWaiting();
         dismiss();
+    }
 }
 
 QmAlarmEvent SettingAlarmPage::recordFromFields() const
