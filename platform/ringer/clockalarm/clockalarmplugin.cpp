@@ -4,6 +4,7 @@
 
 #include "platform/locale/locale.h"
 #include "platform/ringer/clockalarm/ringwindow.h"
+#include "platform/toolkit/desktoplook.h"
 #include "platform/toolkit/theme.h"
 
 #include <algorithm>
@@ -29,6 +30,7 @@ ClockAlarmPlugin::ClockAlarmPlugin()
     QString error;
     if (!Theme::instance().load(QStringLiteral(":/clockalarm/ring.json"), &error))
         qCWarning(lcClockAlarm, "Theme of the ring screen, ignoring: %s", qPrintable(error));
+    new Touch::DesktopLook(this);
     Touch::Locale::getDefault().connectSettings();
 }
 
