@@ -132,5 +132,20 @@
         <source>Delete</source>
         <translation>Delete</translation>
     </message>
+    <message id="qtn_comm_back">
+        <source>Back</source>
+        <extracomment>Spoken name of the button that leads one page back.</extracomment>
+        <translation>Back</translation>
+    </message>
+    <message id="qtn_comm_home">
+        <source>Home screen</source>
+        <extracomment>Spoken name of the button that puts the window out of the way.</extracomment>
+        <translation>Home screen</translation>
+    </message>
+    <message id="qtn_comm_navigation">
+        <source>Navigation</source>
+        <extracomment>Spoken name of the bar with a page's buttons and menu.</extracomment>
+        <translation>Navigation</translation>
+    </message>
 </context>
 </TS>
