@@ -18,7 +18,7 @@ AlarmEditorListItem::~AlarmEditorListItem() = default;
 
 void AlarmEditorListItem::setImageWidget(Touch::ImageWidget *imageWidget)
 {
-    if (m_imageWidget == imageWidget)
+    if (!imageWidget || m_imageWidget == imageWidget)
         return;
     delete m_imageWidget;
     m_imageWidget = imageWidget;

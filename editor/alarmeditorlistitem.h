@@ -21,7 +21,7 @@ public:
     ~AlarmEditorListItem() override;
 
     Touch::ImageWidget *imageWidget() const { return m_imageWidget; }
-    /** Takes the image and puts it where the arrow was, which is deleted. */
+    /** Takes the image and puts it where the arrow was, which is deleted; null changes nothing. */
     void setImageWidget(Touch::ImageWidget *imageWidget);
 
 protected:

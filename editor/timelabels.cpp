@@ -72,7 +72,9 @@ TimeLabels timeLabels(const Locale &locale, const QDateTime &moment)
     // In Iran the text begins with something that is no digit, which makes an empty first part.
     const int first = locale.categoryCountry(Locale::TimeCategory) == "IR" ? 1 : 0;
     const QString hour = parts.value(first);
-    labels.hour = hour.size() == 2 ? hour : locale.formatNumber(0) + hour;
+    // Not all digits are of one code unit.
+    const bool isTwoDigits = hour.toUcs4().size() == 2;
+    labels.hour = isTwoDigits ? hour : locale.formatNumber(0) + hour;
     labels.minute = parts.value(first + 1);
     return labels;
 }

@@ -173,6 +173,7 @@ void TestAlarmEditorListItem::theImageCanBeReplaced()
     auto *image = new ImageWidget;
     item->setImageWidget(image);
     item->setImageWidget(image);
+    item->setImageWidget(nullptr);
     QVERIFY(!before);
     QCOMPARE(item->imageWidget(), image);
     if (!isLaidOut)

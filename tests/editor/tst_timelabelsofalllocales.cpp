@@ -18,15 +18,16 @@ using Arrangement = TimeLabels::Arrangement;
 namespace {
 
 // One locale and more for every script, numbering, hour cycle and place of the marker that ICU knows.
-constexpr const char *LocaleNames[] = {
-    "af_ZA", "am_ET", "ar_EG", "ar_MA", "ar_SA",      "as_IN",  "az_AZ", "be_BY",  "bg_BG", "bn_BD", "bs_BA", "ca_ES",
-    "cs_CZ", "cy_GB", "da_DK", "de_AT", "de_DE",      "el_GR",  "en_AU", "en_CA",  "en_GB", "en_IN", "en_US", "es_ES",
-    "es_MX", "et_EE", "eu_ES", "fa_AF", "fa_IR",      "ckb_IR", "fi_FI", "fil_PH", "fr_CH", "fr_FR", "ga_IE", "gl_ES",
-    "gu_IN", "he_IL", "hi_IN", "hr_HR", "hu_HU",      "hy_AM",  "id_ID", "is_IS",  "it_IT", "ja_JP", "ka_GE", "kk_KZ",
-    "km_KH", "kn_IN", "ko_KR", "ky_KG", "lo_LA",      "lt_LT",  "lv_LV", "mk_MK",  "ml_IN", "mn_MN", "mr_IN", "ms_MY",
-    "my_MM", "nb_NO", "ne_NP", "nl_NL", "or_IN",      "pa_IN",  "pl_PL", "ps_AF",  "pt_BR", "pt_PT", "ro_RO", "ru_RU",
-    "si_LK", "sk_SK", "sl_SI", "sq_AL", "sr_Latn_RS", "sr_RS",  "sv_SE", "sw_TZ",  "ta_IN", "te_IN", "th_TH", "tr_TR",
-    "uk_UA", "ur_PK", "uz_UZ", "vi_VN", "zh_CN",      "zh_HK",  "zh_TW", "zu_ZA"};
+constexpr const char *LocaleNames[]
+    = {"af_ZA", "am_ET", "ar_EG", "ar_MA", "ar_SA",      "as_IN", "az_AZ", "be_BY",  "bg_BG", "bn_BD",  "bs_BA",
+       "ca_ES", "cs_CZ", "cy_GB", "da_DK", "de_AT",      "de_DE", "el_GR", "en_AU",  "en_CA", "en_GB",  "en_IN",
+       "en_US", "es_ES", "es_MX", "et_EE", "eu_ES",      "fa_AF", "fa_IR", "ckb_IR", "fi_FI", "fil_PH", "fr_CH",
+       "fr_FR", "ga_IE", "gl_ES", "gu_IN", "he_IL",      "hi_IN", "hr_HR", "hu_HU",  "hy_AM", "id_ID",  "is_IS",
+       "it_IT", "ja_JP", "ka_GE", "kk_KZ", "km_KH",      "kn_IN", "ko_KR", "ky_KG",  "lo_LA", "lt_LT",  "lv_LV",
+       "mk_MK", "ml_IN", "mn_MN", "mr_IN", "ms_MY",      "my_MM", "nb_NO", "ne_NP",  "nl_NL", "or_IN",  "pa_IN",
+       "pl_PL", "ps_AF", "pt_BR", "pt_PT", "ro_RO",      "ru_RU", "si_LK", "sk_SK",  "sl_SI", "sq_AL",  "sr_Latn_RS",
+       "sr_RS", "sv_SE", "sw_TZ", "ta_IN", "te_IN",      "th_TH", "tr_TR", "uk_UA",  "ur_PK", "uz_UZ",  "vi_VN",
+       "zh_CN", "zh_HK", "zh_TW", "zu_ZA", "ff_Adlm_GN", "ccp_BD"};
 
 const QList<QTime> Times{{0, 0}, {0, 5}, {8, 5}, {12, 0}, {13, 5}, {23, 59}};
 
