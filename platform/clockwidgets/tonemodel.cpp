@@ -12,6 +12,16 @@
 #include <QFileInfo>
 #include <QUrl>
 
+namespace {
+
+bool isOwnMusic(const QString &path)
+{
+    const QString music = Tones::musicFolder();
+    return !music.isEmpty() && path.startsWith(music + QLatin1Char('/'));
+}
+
+} // namespace
+
 ToneModel::ToneModel(QObject *parent)
     : QAbstractListModel(parent)
     , m_store(QStringLiteral("QTRACKER"))
@@ -56,16 +66,23 @@ QString ToneModel::bestTitle(const QString &path) const
     return title.isEmpty() ? AlertTone::niceNameOf(path) : title;
 }
 
+QString ToneModel::shippedAs(const QString &path) const
+{
+    if (m_shipped.contains(path))
+        return path;
+    const auto isSame
+        = [name = QFileInfo(path).fileName()](const QString &tone) { return QFileInfo(tone).fileName() == name; };
+    const auto tone = std::find_if(m_shipped.begin(), m_shipped.end(), isSame);
+    return tone == m_shipped.end() || isOwnMusic(path) ? QString() : *tone;
+}
+
 void ToneModel::arrange()
 {
     QStringList own;
-    const QString music = Tones::musicFolder() + QLatin1Char('/');
     for (auto file = m_titles.keyBegin(); file != m_titles.keyEnd(); ++file) {
-        if (file->startsWith(music))
+        if (isOwnMusic(*file))
             own += *file;
     }
-    if (!m_selected.isEmpty() && !m_shipped.contains(m_selected) && !own.contains(m_selected))
-        own += m_selected;
 
     QList<Tone> tones;
     for (const QString &path : std::as_const(m_shipped)) {
@@ -74,6 +91,8 @@ void ToneModel::arrange()
     }
     for (const QString &path : std::as_const(own))
         tones += {path, bestTitle(path), Tone::Own};
+    if (!own.contains(m_selected) && shippedAs(m_selected).isEmpty() && QFileInfo::exists(m_selected))
+        tones += {m_selected, bestTitle(m_selected), isOwnMusic(m_selected) ? Tone::Own : Tone::Elsewhere};
     QCollator order(QLocale(Touch::Locale::getDefault().categoryName(Touch::Locale::MessageCategory)));
     order.setNumericMode(true);
     order.setCaseSensitivity(Qt::CaseInsensitive);
@@ -119,7 +138,8 @@ void ToneModel::rowChanged(const QString &path)
 
 int ToneModel::rowOf(const QString &path) const
 {
-    const auto isIt = [&path](const Tone &tone) { return tone.path == path; };
+    const QString shipped = shippedAs(path);
+    const auto isIt = [&wanted = shipped.isEmpty() ? path : shipped](const Tone &tone) { return tone.path == wanted; };
     const auto tone = std::find_if(m_tones.begin(), m_tones.end(), isIt);
     return tone != m_tones.end() ? int(tone - m_tones.begin()) : -1;
 }
@@ -148,7 +168,7 @@ QVariant ToneModel::data(const QModelIndex &index, int role) const
     case IsOwnRole:
         return tone.kind == Tone::Own;
     case IsSelectedRole:
-        return tone.path == m_selected;
+        return index.row() == rowOf(m_selected);
     case IsPlayingRole:
         return tone.path == m_playing;
     default:

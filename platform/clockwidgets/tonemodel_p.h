@@ -23,7 +23,7 @@ public:
 
     /// Looks at files and store again.
     void refresh();
-    /// The tone that Done would take; a file that is not among the others becomes one of them.
+    /// The tone that Done would take; a file that is not among the others becomes one of them if it exists.
     QString selected() const { return m_selected; }
     void setSelected(const QString &path);
     QString playing() const { return m_playing; }
@@ -40,11 +40,13 @@ private:
     {
         QString path;
         QString title;
-        enum Kind { Silence, Shipped, Own } kind;
+        enum Kind { Silence, Shipped, Own, Elsewhere } kind; ///< in the order in which they are listed
     };
 
     void takeTitles(QSparqlResult &result);
     void arrange();
+    /// The listed one of a tone that is installed in several folders; empty if it is none of the system's.
+    QString shippedAs(const QString &path) const;
     QString bestTitle(const QString &path) const;
     void rowChanged(const QString &path);
 

@@ -3,6 +3,7 @@
 #include "platform/tones/tonefiles.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -24,7 +25,8 @@ QStringList ringToneFolders()
 
 QString musicFolder()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
+    const auto folder = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
+    return QDir(folder) == QDir::home() ? QString() : folder;
 }
 
 bool isSoundFile(const QString &name)

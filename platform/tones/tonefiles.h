@@ -25,7 +25,7 @@ struct FileScan
 
 /** Where tones lie: the system's folder, and "sounds/ring-tones" under each data folder. They need not exist. */
 [[nodiscard]] QStringList ringToneFolders();
-/** The user's own music. */
+/** The user's own music; empty where there is no folder for it, for which the desktop names the whole home. */
 [[nodiscard]] QString musicFolder();
 
 /** Whether the name is that of a sound file. */

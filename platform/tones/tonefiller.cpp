@@ -7,8 +7,20 @@
 
 namespace Tones {
 
+namespace {
+
+QStringList allFolders()
+{
+    QStringList folders = ringToneFolders();
+    if (const QString music = musicFolder(); !music.isEmpty())
+        folders += music;
+    return folders;
+}
+
+} // namespace
+
 ToneFiller::ToneFiller(QObject *parent)
-    : ToneFiller(ringToneFolders() << musicFolder(), {}, parent)
+    : ToneFiller(allFolders(), {}, parent)
 { }
 
 ToneFiller::ToneFiller(const QStringList &folders, const QSparqlConnectionOptions &options, QObject *parent)

@@ -20,6 +20,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 using Touch::Locale;
@@ -50,6 +51,8 @@ private Q_SLOTS:
     void noSoundComesFirstThenTonesThenMusic();
     void theTonesAreThereBeforeTheStoreAnswers();
     void aFileOfAnotherFolderIsListedWhileItIsChosen();
+    void aToneOfAnotherDataFolderIsTheListedOne();
+    void aFileThatIsGoneIsNotListed();
     void theChosenToneIsInSight();
     void aTapChoosesAndPlays();
     void anotherTapPlaysAnotherToneAlone();
@@ -196,13 +199,45 @@ void tst_AlertToneBrowserSheet::theTonesAreThereBeforeTheStoreAnswers()
 
 void tst_AlertToneBrowserSheet::aFileOfAnotherFolderIsListedWhileItIsChosen()
 {
-    AlertTone elsewhere("/elsewhere/My_own.ogg");
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("My_own.ogg");
+    QVERIFY(Support::writeTone(path, ""));
+    AlertTone elsewhere(path);
     AlertToneBrowserSheet sheet(&elsewhere);
     sheet.appear(m_window.get());
     const auto *tones = Support::itemIn<Touch::List>(&sheet)->itemModel();
     QCOMPARE(tones->rowCount(), 15);
     QCOMPARE(tones->index(14, 0).data().toString(), "My own");
-    QCOMPARE(sheet.selectedFile(), "/elsewhere/My_own.ogg");
+    QCOMPARE(sheet.selectedFile(), path);
+    const auto *cells = Support::itemIn<Touch::List>(&sheet);
+    QTRY_VERIFY(cells->cellAt(14));
+    QVERIFY(cells->cellAt(14)->accessibleName().contains("selected"));
+    QVERIFY2(!cells->cellAt(14)->accessibleName().contains("My music"), "it lies elsewhere");
+}
+
+void tst_AlertToneBrowserSheet::aToneOfAnotherDataFolderIsTheListedOne()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("Courier.aac");
+    QVERIFY(QFile::copy(shipped("Courier"), path));
+    AlertTone again(path);
+    AlertToneBrowserSheet sheet(&again);
+    sheet.appear(m_window.get());
+    const auto *cells = Support::itemIn<Touch::List>(&sheet);
+    QCOMPARE(cells->itemModel()->rowCount(), 14);
+    QTRY_VERIFY(cells->cellAt(2));
+    QVERIFY(cells->cellAt(2)->accessibleName().contains("Courier"));
+    QVERIFY(cells->cellAt(2)->accessibleName().contains("selected"));
+    QCOMPARE(sheet.selectedFile(), path);
+}
+
+void tst_AlertToneBrowserSheet::aFileThatIsGoneIsNotListed()
+{
+    AlertTone gone("/elsewhere/Gone.ogg");
+    AlertToneBrowserSheet sheet(&gone);
+    sheet.appear(m_window.get());
+    QCOMPARE(Support::itemIn<Touch::List>(&sheet)->itemModel()->rowCount(), 14);
+    QCOMPARE(sheet.selectedFile(), "/elsewhere/Gone.ogg");
 }
 
 void tst_AlertToneBrowserSheet::theChosenToneIsInSight()

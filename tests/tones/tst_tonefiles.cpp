@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -17,6 +18,8 @@ private slots:
     void soundFilesAreToldByTheirNames();
     void foldersAreSearchedToTheBottom();
     void foldersThatAreMissingHoldNothing();
+    void theWholeHomeIsNoMusicFolder_data();
+    void theWholeHomeIsNoMusicFolder();
     void aNameIsMadeFromTheFile_data();
     void aNameIsMadeFromTheFile();
 };
@@ -67,6 +70,28 @@ void TestToneFiles::foldersThatAreMissingHoldNothing()
     const auto scan = Tones::scanFolders({"/nowhere/at/all"});
     QVERIFY(scan.files.isEmpty());
     QVERIFY(scan.folders.isEmpty());
+}
+
+void TestToneFiles::theWholeHomeIsNoMusicFolder_data()
+{
+    QTest::addColumn<QByteArray>("named");
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("none") << QByteArray("$HOME/") << QString();
+    QTest::newRow("none, without a slash") << QByteArray("$HOME") << QString();
+    QTest::newRow("one in the home") << QByteArray("$HOME/Songs") << QDir::home().filePath("Songs");
+}
+
+void TestToneFiles::theWholeHomeIsNoMusicFolder()
+{
+    QFETCH(QByteArray, named);
+    QFETCH(QString, folder);
+    const QDir settings(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    QVERIFY(settings.mkpath("."));
+    QFile folders(settings.filePath("user-dirs.dirs"));
+    QVERIFY(folders.open(QIODevice::WriteOnly));
+    folders.write("XDG_MUSIC_DIR=\"" + named + "\"\n");
+    folders.close();
+    QCOMPARE(Tones::musicFolder(), folder);
 }
 
 void TestToneFiles::aNameIsMadeFromTheFile_data()
