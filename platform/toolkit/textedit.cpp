@@ -59,7 +59,11 @@ TextEdit::TextEdit(QGraphicsItem *parent)
     : TextEdit(QString(), parent)
 { }
 
-TextEdit::~TextEdit() = default;
+TextEdit::~TextEdit()
+{
+    // The proxy goes later, and with it the focus, when nothing here can take note of that any more.
+    m_proxy->disconnect(this);
+}
 
 QString TextEdit::text() const
 {

@@ -27,6 +27,7 @@ private slots:
     void keepsTextPromptAndCursor();
     void tellsWhyTheFocusCameAndWent();
     void losesTheFocusWhenItIsClearedOnIt();
+    void goesQuietlyWithTheFocus();
     void tellsOfReturn();
     void takesTheFocusByATapOnItsEdge();
     void copiesAndPastes();
@@ -133,6 +134,15 @@ void TestTextEdit::losesTheFocusWhenItIsClearedOnIt()
     m_edit->clearFocus();
     QVERIFY(!m_edit->hasFocus());
     QCOMPARE(lost.count(), 1);
+}
+
+void TestTextEdit::goesQuietlyWithTheFocus()
+{
+    m_edit->setFocus(Qt::OtherFocusReason);
+    QVERIFY(m_edit->hasFocus());
+    const QSignalSpy lost(m_edit, &TextEdit::lostFocus);
+    delete m_edit;
+    QCOMPARE(lost.count(), 0);
 }
 
 void TestTextEdit::tellsOfReturn()
