@@ -20,14 +20,26 @@ bool hasSlot(const QObject *receiver, const char *slot)
     return receiver->metaObject()->indexOfMethod(signature) >= 0;
 }
 
+/** One proxy for all interfaces of a thread: making one asks the bus, which would double the cost of reading an alarm. */
+std::shared_ptr<TimedProxy> proxyOfThread()
+{
+    static thread_local std::weak_ptr<TimedProxy> living;
+    std::shared_ptr<TimedProxy> proxy = living.lock();
+    if (!proxy) {
+        proxy = std::make_shared<TimedProxy>(QString::fromLatin1(Wire::Service), QString::fromLatin1(Wire::Path),
+                                             QDBusConnection::sessionBus());
+        living = proxy;
+    }
+    return proxy;
+}
+
 } // namespace
 
 Interface::Interface(QObject *parent)
     : QObject(parent)
 {
     Wire::registerTypes();
-    m_proxy = std::make_unique<TimedProxy>(QString::fromLatin1(Wire::Service), QString::fromLatin1(Wire::Path),
-                                           QDBusConnection::sessionBus());
+    m_proxy = proxyOfThread();
 }
 
 Interface::~Interface() = default;

@@ -60,7 +60,7 @@ public:
 private:
     void readTimeZone();
 
-    std::unique_ptr<TimedProxy> m_proxy;
+    std::shared_ptr<TimedProxy> m_proxy;
 };
 
 } // namespace Astel::Timed
