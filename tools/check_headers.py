@@ -37,9 +37,9 @@ def common_flags(build):
                 definitions.setdefault(word.split("=")[0], word)
             elif not word.endswith("/ccache"):
                 flags.append(word)
-    # Our own root comes first and is held to the warnings.
     # One library does without Qt's keywords beside GLib; the headers of the others use them.
     definitions.pop("-DQT_NO_KEYWORDS", None)
+    # Our own root comes first and is held to the warnings.
     return [*flags, *definitions.values(), f"-I{ROOT}", *(word for path in paths if path[1] != str(ROOT) for word in path)]
 
 
