@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 # SPDX-FileCopyrightText: 2026 The Clock authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
-"""check_headers.py BUILD-FOLDER: compiles every header by itself, with the flags that the build compiles sources with.
+"""check_headers.py BUILD-FOLDER: compiles every header by itself, with the flags that the build compiles sources with,
+as plain_commands.py has written them.
 
 A header that was checked and has not changed since, nor anything that was compiled with it, is passed over: the
 compiler's dependency files are kept in BUILD-FOLDER/headers.
@@ -23,7 +24,7 @@ def common_flags(build):
     flags = []
     definitions = {}
     paths = {}
-    for entry in json.loads((build / "compile_commands.json").read_text()):
+    for entry in json.loads((build / "plain" / "compile_commands.json").read_text()):
         words = iter(shlex.split(entry["command"]))
         flags = []
         for word in words:
@@ -35,7 +36,7 @@ def common_flags(build):
                 paths[("-isystem", word[2:])] = None
             elif word.startswith("-D"):
                 definitions.setdefault(word.split("=")[0], word)
-            elif not word.endswith("/ccache"):
+            else:
                 flags.append(word)
     # One library does without Qt's keywords beside GLib; the headers of the others use them.
     definitions.pop("-DQT_NO_KEYWORDS", None)

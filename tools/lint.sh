@@ -33,7 +33,7 @@ format() {
 folders='app|mainview|alarms|alarmlist|editor|backup|platform|alarmctl|tests'
 tidy() {
     changed=$(git diff --name-only --diff-filter=d "$base" -- '*.cpp' | grep -v '^bench/' || true)
-    [ -z "$changed" ] || echo "$changed" | xargs -P "$(nproc)" -n 2 clang-tidy-14 --quiet -p "$build" \
+    [ -z "$changed" ] || echo "$changed" | xargs -P "$(nproc)" -n 2 clang-tidy-14 --quiet -p "$build/plain" \
         --header-filter="^$PWD/($folders)/.*\.h\$"
 }
 licence_heads() {
@@ -50,6 +50,7 @@ no_sleep_in_tests() {
     ! git grep -nE 'QTest::qWait\(|QTest::qSleep|QThread::m?sleep|usleep\(|sleep_for|time\.sleep\(' -- tests
 }
 
+python3 tools/plain_commands.py "$build" || exit 1
 check "format: clang-format 14" format
 check "includes: docs/architecture.md is obeyed" python3 tools/check_includes.py
 check "headers: each compiles alone" python3 tools/check_headers.py "$build"

@@ -15,7 +15,8 @@ set(CMAKE_CXX_FLAGS_DEBUG "-O0 -g1")
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+    # What precompiled headers need of the cache.
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE_PROGRAM})
 endif()
 
 # The flags that every target of ours is compiled with.
@@ -32,11 +33,35 @@ if(CLOCK_SANITIZE)
     target_link_options(clock-flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Debug builds read the headers of Qt and of the standard library from one precompiled file, which halves their time.
+# The release build does without, so that a missing #include is seen there.
+option(CLOCK_PRECOMPILE "Precompile the headers of Qt and of the standard library" OFF)
+if(CLOCK_PRECOMPILE)
+    add_library(precompiled OBJECT ${CMAKE_CURRENT_LIST_DIR}/precompiled.cpp)
+    # The include folders alone: a macro such as QT_GUI_LIB would shut out the targets that do not define it.
+    foreach(module IN ITEMS Core Gui Widgets DBus)
+        target_include_directories(precompiled SYSTEM PRIVATE ${Qt6${module}_INCLUDE_DIRS})
+    endforeach()
+    target_compile_options(precompiled PRIVATE -fPIC)
+    if(CCACHE_PROGRAM)
+        target_compile_options(clock-flags INTERFACE -fpch-preprocess)
+    endif()
+    target_link_libraries(precompiled PRIVATE clock-flags)
+    target_precompile_headers(precompiled PRIVATE ${CMAKE_CURRENT_LIST_DIR}/precompiled.h)
+    set_target_properties(precompiled PROPERTIES AUTOMOC OFF)
+endif()
+function(clock_precompiled name)
+    if(CLOCK_PRECOMPILE)
+        target_precompile_headers(${name} REUSE_FROM precompiled)
+    endif()
+endfunction()
+
 # clock_library(NAME SOURCES ... LINK ...): the one library of a folder. What it links is passed on to its users.
 function(clock_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
     add_library(${name} STATIC ${arg_SOURCES})
     target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE clock-flags)
+    clock_precompiled(${name})
 endfunction()
 
 # clock_program(NAME SOURCES ... LINK ...): a program, put into the build folder's bin/.
@@ -44,6 +69,7 @@ function(clock_program name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ${arg_LINK} clock-flags)
+    clock_precompiled(${name})
 endfunction()
 
 # All tests that run under the sanitizers as well.
@@ -56,6 +82,7 @@ function(clock_test name)
     add_executable(${name} ${arg_SOURCES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     target_link_libraries(${name} PRIVATE Qt6::Test test-places ${arg_LINK} clock-flags)
+    clock_precompiled(${name})
     add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/support/in-own-home $<TARGET_FILE:${name}>)
     if("core" IN_LIST arg_LABELS)
         add_dependencies(core-tests ${name})
