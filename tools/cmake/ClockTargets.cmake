@@ -22,7 +22,7 @@ endif()
 # The flags that every target of ours is compiled with.
 add_library(clock-flags INTERFACE)
 target_compile_options(clock-flags INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Werror)
+    -pthread -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Werror)
 target_compile_definitions(clock-flags INTERFACE QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING)
 # Includes name the folder: #include "platform/toolkit/label.h".
 target_include_directories(clock-flags INTERFACE ${PROJECT_SOURCE_DIR})
@@ -38,6 +38,7 @@ endif()
 option(CLOCK_PRECOMPILE "Precompile the headers of Qt and of the standard library" OFF)
 if(CLOCK_PRECOMPILE)
     add_library(precompiled OBJECT ${CMAKE_CURRENT_LIST_DIR}/precompiled.cpp)
+    # All targets use -pthread, for it defines a macro, which has to be the same everywhere.
     # The include folders alone: a macro such as QT_GUI_LIB would shut out the targets that do not define it.
     foreach(module IN ITEMS Core Gui Widgets DBus)
         target_include_directories(precompiled SYSTEM PRIVATE ${Qt6${module}_INCLUDE_DIRS})
