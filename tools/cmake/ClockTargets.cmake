@@ -57,20 +57,25 @@ function(clock_precompiled name)
     endif()
 endfunction()
 
-# clock_library(NAME SOURCES ... LINK ...): the one library of a folder. What it links is passed on to its users.
+# clock_library(NAME [WITHOUT_QT] SOURCES ... LINK ...): the one library of a folder. What it links is passed on to its
+# users.
 function(clock_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "WITHOUT_QT" "" "SOURCES;LINK")
     add_library(${name} STATIC ${arg_SOURCES})
     target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE clock-flags)
-    clock_precompiled(${name})
+    if(NOT arg_WITHOUT_QT)
+        clock_precompiled(${name})
+    endif()
 endfunction()
 
-# clock_program(NAME SOURCES ... LINK ...): a program, put into the build folder's bin/.
+# clock_program(NAME [WITHOUT_QT] SOURCES ... LINK ...): a program, put into the build folder's bin/.
 function(clock_program name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "WITHOUT_QT" "" "SOURCES;LINK")
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ${arg_LINK} clock-flags)
-    clock_precompiled(${name})
+    if(NOT arg_WITHOUT_QT)
+        clock_precompiled(${name})
+    endif()
 endfunction()
 
 # All tests that run under the sanitizers as well.
