@@ -9,6 +9,7 @@
 #include "platform/ringer/ringcontroller.h"
 #include "platform/ringer/ringerservice.h"
 #include "platform/ringer/ringnotices.h"
+#include "platform/ringer/texts/ringtexts.h"
 #include "platform/ringer/timeddaemon.h"
 
 #include <QApplication>
@@ -87,11 +88,11 @@ int main(int argc, char **argv)
     if (QGuiApplication::platformName() == QLatin1String("offscreen"))
         qCWarning(lcRinger, "No display: alarms are heard, not seen");
 
+    RingTexts::install();
     auto &locale = Touch::Locale::getDefault();
-    if (!locale.installTrCatalog(QStringLiteral("ringer")))
-        qCWarning(lcRinger, "No texts found, ignoring");
-    locale.connectSettings();
-    QApplication::setLayoutDirection(locale.textDirection());
+    const auto mirror = [&locale] { QApplication::setLayoutDirection(locale.textDirection()); };
+    mirror();
+    QObject::connect(&locale, &Touch::Locale::settingsChanged, &application, mirror);
 
     Ringer::TimedDaemon daemon;
     Ringer::GstTonePlayer player;

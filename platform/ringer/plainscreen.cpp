@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/plainscreen.h"
 
+#include "platform/ringer/texts/ringtexts.h"
+
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -111,15 +112,12 @@ void PlainScreen::refresh()
     if (m_alarms.isEmpty())
         return;
     const auto &alarm = m_alarms.first();
-    //% "Clock"
-    setWindowTitle(qtTrId("qtn_ring_window"));
-    m_time->setText(QLocale().toString(alarm.due.toLocalTime().time(), QLocale::ShortFormat));
-    m_title->setText(alarm.title);
-    //% "Snooze"
-    m_snooze->setText(qtTrId("qtn_ring_snooze_plain"));
+    setWindowTitle(RingTexts::application());
+    m_time->setText(RingTexts::due(alarm.due));
+    m_title->setText(RingTexts::title(alarm.title));
+    m_snooze->setText(RingTexts::snooze(alarm.snoozeSeconds));
     m_snooze->setVisible(alarm.snoozeSeconds > 0);
-    //% "Stop"
-    m_stop->setText(qtTrId("qtn_ring_stop"));
+    m_stop->setText(RingTexts::stop());
     showFullScreen();
     raise();
     m_snooze->setFocus();

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/ringnotices.h"
 
-#include "platform/locale/locale.h"
 #include "platform/ringer/logging.h"
+#include "platform/ringer/texts/ringtexts.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -24,7 +24,6 @@ const auto StopKey = QStringLiteral("com.astel.ringer.stop");
 constexpr uchar Critical = 2;
 constexpr uint NewNotice = 0;
 constexpr int UntilClosed = 0;
-constexpr auto TitleLength = 90;
 
 QDBusMessage methodCall(const QString &method, const QVariantList &arguments)
 {
@@ -36,28 +35,23 @@ QDBusMessage methodCall(const QString &method, const QVariantList &arguments)
 QStringList actionsOf(const Alarm &alarm)
 {
     QStringList actions;
-    if (alarm.snoozeSeconds >= 60)
-        actions << SnoozeKey << qtTrId("qtn_ring_snooze", alarm.snoozeSeconds / 60);
-    else if (alarm.snoozeSeconds > 0)
-        actions << SnoozeKey << qtTrId("qtn_ring_snooze_plain");
-    return actions << StopKey << qtTrId("qtn_ring_stop");
+    if (alarm.snoozeSeconds > 0)
+        actions << SnoozeKey << RingTexts::snooze(alarm.snoozeSeconds);
+    return actions << StopKey << RingTexts::stop();
 }
 
 // The body holds nothing that a server could take for markup.
 QVariantList noticeOf(const Alarm &alarm)
 {
-    using Touch::Locale;
-    const auto title = alarm.title.simplified().left(TitleLength);
-    const auto time = Locale::getDefault().formatDateTime(alarm.due.toLocalTime(), Locale::DateNone, Locale::TimeShort);
     const QVariantMap hints{{"urgency", QVariant::fromValue(Critical)},
                             {"category", QStringLiteral("alarm")},
                             {"resident", true},
                             {"suppress-sound", true}};
-    return {qtTrId("qtn_ring_window"),
+    return {RingTexts::application(),
             NewNotice,
             QStringLiteral("alarm-symbolic"),
-            title.isEmpty() ? qtTrId("qtn_ring_untitled") : title,
-            time,
+            RingTexts::title(alarm.title),
+            RingTexts::due(alarm.due),
             actionsOf(alarm),
             hints,
             UntilClosed};

@@ -2,16 +2,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/answerteller.h"
 
+#include "platform/locale/locale.h"
 #include "platform/timed/lifecycle.h"
 #include "platform/timed/logging.h"
-#include "platform/timed/moments.h"
+#include "platform/timed/noticetexts.h"
 #include "platform/timed/notifier.h"
-#include "platform/timed/rules/zone.h"
 #include "platform/timed/zonesource.h"
 
-#include <chrono>
 #include <optional>
-#include <QDateTime>
 
 namespace Astel::Timed {
 
@@ -19,7 +17,7 @@ namespace {
 
 constexpr auto StopPrefix = "com.astel.timed.stop.";
 constexpr auto AgainPrefix = "com.astel.timed.again.";
-constexpr qint64 AgainAfter = 300; // seconds
+constexpr int AgainAfter = 300; // seconds
 constexpr auto Who = "notification";
 
 QString keyOf(const char *prefix, quint32 cookie)
@@ -34,15 +32,9 @@ std::optional<quint32> cookieOf(const char *prefix, const QString &key)
     return valid && key.startsWith(QLatin1String(prefix)) ? std::optional(cookie) : std::nullopt;
 }
 
-QString titleOf(const AlarmEvent &event)
-{
-    const QString title = event.wire().attributes.value("TITLE").simplified();
-    return title.isEmpty() ? QStringLiteral("Alarm") : title;
-}
-
 Notice quietNotice(const AlarmEvent &event, const QString &body, const Notice::Action &action)
 {
-    Notice notice{titleOf(event), body, {action}};
+    Notice notice{NoticeTexts::title(event.wire()), body, {action}};
     notice.tag = action.key;
     notice.category = QStringLiteral("x-alarm.answered");
     notice.urgency = Notice::Urgency::Low;
@@ -51,18 +43,18 @@ Notice quietNotice(const AlarmEvent &event, const QString &body, const Notice::A
 
 Notice snoozeNotice(const AlarmEvent &event, const Rules::Zone &zone)
 {
-    const qint64 moment = event.moment().value_or(0);
-    const int offset = int(zone.stretchAt(moment / MillisecondsOfSecond).offset);
-    const QString time = QDateTime::fromMSecsSinceEpoch(moment, Qt::OffsetFromUTC, offset).toString("HH:mm");
-    return quietNotice(event, QStringLiteral("Snoozed, rings again at %1.").arg(time),
-                       {keyOf(StopPrefix, event.cookie()), QStringLiteral("Stop")});
+    //% "Snoozed, rings again at %1."
+    const QString body = qtTrId("qtn_timed_snoozed").arg(NoticeTexts::time(event.moment().value_or(0), zone));
+    //% "Stop"
+    return quietNotice(event, body, {keyOf(StopPrefix, event.cookie()), qtTrId("qtn_timed_stop")});
 }
 
 Notice stoppedNotice(const AlarmEvent &event)
 {
-    return quietNotice(
-        event, QStringLiteral("Stopped."),
-        {keyOf(AgainPrefix, event.cookie()), QStringLiteral("Ring again in %1 minutes").arg(AgainAfter / 60)});
+    //% "Ring again in %n minute(s)"
+    const QString again = qtTrId("qtn_timed_ring_again", AgainAfter / 60);
+    //% "Stopped."
+    return quietNotice(event, qtTrId("qtn_timed_stopped"), {keyOf(AgainPrefix, event.cookie()), again});
 }
 
 } // namespace
@@ -77,6 +69,7 @@ AnswerTeller::AnswerTeller(LifeCycle &lifeCycle, Notifier &notifier, const ZoneS
     connect(&lifeCycle, &LifeCycle::stopped, this, &AnswerTeller::offerAgain);
     connect(&lifeCycle, &LifeCycle::settingsChanged, this, &AnswerTeller::tellAll);
     connect(&notifier, &Notifier::appeared, this, &AnswerTeller::tellAll);
+    connect(&Touch::Locale::getDefault(), &Touch::Locale::settingsChanged, this, &AnswerTeller::tellAll);
     connect(&notifier, &Notifier::chosen, this, &AnswerTeller::answer);
 }
 

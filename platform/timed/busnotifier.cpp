@@ -3,6 +3,7 @@
 #include "platform/timed/busnotifier.h"
 
 #include "platform/timed/logging.h"
+#include "platform/timed/noticetexts.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -71,8 +72,8 @@ void BusNotifier::send(const Notice &notice, const std::function<void(bool)> &do
 {
     QDBusMessage question = methodCall("Notify");
     const QVariantMap hints{{"urgency", QVariant::fromValue(toUrgency(notice.urgency))}, {"category", notice.category}};
-    question.setArguments({"Alarms", m_tagged.value(notice.tag, NewNotice), "alarm-symbolic", notice.summary,
-                           notice.body, toList(notice.actions), hints, UntilClosed});
+    question.setArguments({NoticeTexts::application(), m_tagged.value(notice.tag, NewNotice), "alarm-symbolic",
+                           notice.summary, notice.body, toList(notice.actions), hints, UntilClosed});
     auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, done, tag = notice.tag] {
         call->deleteLater();

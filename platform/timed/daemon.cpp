@@ -16,6 +16,7 @@
 #include "platform/timed/logging.h"
 #include "platform/timed/logind.h"
 #include "platform/timed/missedteller.h"
+#include "platform/timed/noticetexts.h"
 #include "platform/timed/ringing.h"
 #include "platform/timed/schedule.h"
 #include "platform/timed/sleepguard.h"
@@ -107,6 +108,7 @@ Daemon::~Daemon() = default;
 Result<std::unique_ptr<Daemon>> Daemon::create(const Settings &settings)
 {
     Wire::registerTypes();
+    NoticeTexts::install();
     if (const auto bus = QDBusConnection::sessionBus(); !bus.isConnected())
         return Error{BusError, QStringLiteral("no session bus: %1").arg(bus.lastError().message())};
     auto store = SqliteStore::create(settings.folder, SystemClock().now());
@@ -163,10 +165,11 @@ void Daemon::tellOfRestoration()
     if (!m_restorationUntold)
         return;
     m_restorationUntold = false;
-    const Notice notice{QStringLiteral("Alarms were restored"),
-                        QStringLiteral("The file of the alarms was damaged. An earlier copy took its place: the latest"
-                                       " changes may be missing, please look through your alarms."),
-                        {}};
+    //% "Alarms were restored"
+    const QString summary = qtTrId("qtn_timed_restored");
+    //% "The file of the alarms was damaged. An earlier copy took its place: the latest changes may be missing, please "
+    //% "look through your alarms."
+    const Notice notice{summary, qtTrId("qtn_timed_restored_why"), {}};
     m_parts->notifier.show(notice, [this](bool shown) {
         m_restorationUntold = !shown;
         // One that has just come may not be ready yet.

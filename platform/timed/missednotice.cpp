@@ -2,40 +2,47 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/missednotice.h"
 
-#include "platform/timed/moments.h"
-#include "platform/timed/rules/zone.h"
+#include "platform/timed/noticetexts.h"
 
 #include <algorithm>
-#include <QDateTime>
-#include <QLocale>
 #include <set>
 
 namespace Astel::Timed {
 
 namespace {
 
-constexpr auto TitleAttribute = "TITLE";
 constexpr auto ActionPrefix = "com.astel.timed.ring-now.";
 // More do not fit on a notification; all of them are in the journal.
 constexpr int MaximalLines = 8;
 constexpr int MaximalActions = 3;
 
-QString titleOf(const Miss &miss)
+QString reasonText(MissReason reason)
 {
-    const QString title = miss.event.attributes.value(TitleAttribute).simplified();
-    return title.isEmpty() ? QStringLiteral("Alarm") : title;
-}
-
-QString timeText(qint64 moment, const Rules::Zone &zone)
-{
-    const int offset = int(zone.stretchAt(moment / MillisecondsOfSecond).offset);
-    const auto local = QDateTime::fromMSecsSinceEpoch(moment, Qt::OffsetFromUTC, offset);
-    return QLocale(QLocale::English).toString(local, "ddd d MMM, HH:mm");
+    switch (reason) {
+    case MissReason::Off:
+        //% "the device was off"
+        return qtTrId("qtn_timed_missed_off");
+    case MissReason::Slept:
+        //% "the device did not wake up in time"
+        return qtTrId("qtn_timed_missed_slept");
+    case MissReason::ClockSet:
+        //% "the clock was set to a later time"
+        return qtTrId("qtn_timed_missed_clock_set");
+    case MissReason::Late:
+        //% "the device was not ready in time"
+        return qtTrId("qtn_timed_missed_late");
+    case MissReason::Unanswered:
+        break;
+    }
+    //% "it rang, but nobody answered"
+    return qtTrId("qtn_timed_missed_unanswered");
 }
 
 QString lineText(const Miss &miss, const Rules::Zone &zone)
 {
-    return QStringLiteral("%1, %2: %3").arg(titleOf(miss), timeText(miss.due, zone), missedReasonText(miss.reason));
+    //% "%1 (%2): %3"
+    return qtTrId("qtn_timed_missed_line")
+        .arg(NoticeTexts::title(miss.event), NoticeTexts::dayAndTime(miss.due, zone), reasonText(miss.reason));
 }
 
 QString bodyText(const QList<Miss> &misses, const Rules::Zone &zone)
@@ -43,8 +50,10 @@ QString bodyText(const QList<Miss> &misses, const Rules::Zone &zone)
     QStringList lines;
     for (const Miss &miss : misses.first(std::min<qsizetype>(misses.size(), MaximalLines)))
         lines.append(lineText(miss, zone));
-    if (misses.size() > MaximalLines)
-        lines.append(QStringLiteral("and %1 more").arg(misses.size() - MaximalLines));
+    if (misses.size() > MaximalLines) {
+        //% "and %n more"
+        lines.append(qtTrId("qtn_timed_missed_more", int(misses.size()) - MaximalLines));
+    }
     return lines.join('\n');
 }
 
@@ -55,10 +64,14 @@ QList<Notice::Action> ringNowActions(const QList<Miss> &misses)
     for (const Miss &miss : misses) {
         if (result.size() == MaximalActions || !offered.insert(miss.cookie).second)
             continue;
-        result.append({ActionPrefix + QString::number(miss.cookie), QStringLiteral("Ring now: ") + titleOf(miss)});
+        //% "Ring now: %1"
+        const QString label = qtTrId("qtn_timed_ring_title_now").arg(NoticeTexts::title(miss.event));
+        result.append({ActionPrefix + QString::number(miss.cookie), label});
     }
-    if (result.size() == 1)
-        result.first().label = QStringLiteral("Ring now");
+    if (result.size() == 1) {
+        //% "Ring now"
+        result.first().label = qtTrId("qtn_timed_ring_now");
+    }
     return result;
 }
 
@@ -66,26 +79,9 @@ QList<Notice::Action> ringNowActions(const QList<Miss> &misses)
 
 Notice missedNotice(const QList<Miss> &misses, const Rules::Zone &zone)
 {
-    const QString summary
-        = misses.size() == 1 ? QStringLiteral("Missed alarm") : QStringLiteral("%1 missed alarms").arg(misses.size());
+    //% "%n missed alarm(s)"
+    const QString summary = qtTrId("qtn_timed_missed", int(misses.size()));
     return {summary, bodyText(misses, zone), ringNowActions(misses)};
-}
-
-QString missedReasonText(MissReason reason)
-{
-    switch (reason) {
-    case MissReason::Off:
-        return QStringLiteral("the device was off");
-    case MissReason::Slept:
-        return QStringLiteral("the device did not wake up in time");
-    case MissReason::ClockSet:
-        return QStringLiteral("the clock was set to a later time");
-    case MissReason::Late:
-        return QStringLiteral("the device was not ready in time");
-    case MissReason::Unanswered:
-        break;
-    }
-    return QStringLiteral("it rang, but nobody answered");
 }
 
 std::optional<quint32> cookieToRing(const QString &actionKey)

@@ -14,8 +14,6 @@ class Zone;
 /** What the user reads about missed alarms, at least one: what, when by the wall clock of the zone, and why. */
 Notice missedNotice(const QList<Miss> &misses, const Rules::Zone &zone);
 
-QString missedReasonText(MissReason reason);
-
 /** The cookie of the alarm that an action of such a notice asks to ring again. */
 std::optional<quint32> cookieToRing(const QString &actionKey);
 

@@ -73,7 +73,7 @@ class DesktopFlow(unittest.TestCase):
         self.desktop.choose(number, keys["Snooze · 10 min"])
         phone.wait_for(lambda: len(self.desktop.notices("Wake up")) == 2, 10, "notification of the snooze")
         snoozed, body, keys, _ = self.desktop.notices("Wake up")[1]
-        self.assertRegex(body, r"^Snoozed, rings again at \d\d:\d\d\.$")
+        self.assertRegex(body, r"^Snoozed, rings again at \d+:\d\d\s[AP]M\.$")
         self.phone.kill("com.astel.ringer")
         self.desktop.choose(snoozed, keys["Stop"])
         phone.wait_for(lambda: self.state(cookie) == "FINISHED", 10, "stopped")

@@ -31,7 +31,8 @@ private:
 void TestRingScreens::initTestCase()
 {
     qputenv("CLOCK_REDUCED_MOTION", "1");
-    QVERIFY(m_texts.load(QCoreApplication::applicationDirPath() + "/../platform/ringer/translations/ringer_en.qm"));
+    QVERIFY(
+        m_texts.load(QCoreApplication::applicationDirPath() + "/../platform/ringer/texts/translations/ringer_en.qm"));
     QCoreApplication::installTranslator(&m_texts);
     QString reason;
     m_plugin = load(&reason);

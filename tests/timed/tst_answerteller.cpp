@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/answerteller.h"
+
+#include "platform/locale/locale.h"
+#include "platform/timed/noticetexts.h"
 #include "tests/timed/world.h"
 
 #include <QTest>
@@ -26,6 +29,7 @@ class tst_AnswerTeller : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void snoozedAlarmSaysWhenItRingsAgain();
     void noticeOfASnoozeStopsIt();
     void noticeOfASnoozeGoesWhenItRings();
@@ -36,6 +40,13 @@ private slots:
     void offerIsForOneTime();
     void onlyItsOwnActionsCount();
 };
+
+void tst_AnswerTeller::initTestCase()
+{
+    // Whatever the language of the machine.
+    Touch::Locale::setDefault(Touch::Locale(QStringLiteral("en_GB")));
+    NoticeTexts::install();
+}
 
 void tst_AnswerTeller::snoozedAlarmSaysWhenItRingsAgain()
 {

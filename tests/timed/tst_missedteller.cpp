@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "platform/timed/missednotice.h"
 #include "platform/timed/missedteller.h"
+
+#include "platform/locale/locale.h"
+#include "platform/timed/missednotice.h"
+#include "platform/timed/noticetexts.h"
 #include "tests/timed/world.h"
 
 #include <QTest>
@@ -33,6 +36,7 @@ class tst_MissedTeller : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void noticeSaysWhatWhenAndWhy_data();
     void noticeSaysWhatWhenAndWhy();
     void noticeOfMany();
@@ -50,6 +54,13 @@ private slots:
     void ringNowNeedsAMissedOrStoredAlarmThatIsSilent();
 };
 
+void tst_MissedTeller::initTestCase()
+{
+    // Whatever the language of the machine.
+    Touch::Locale::setDefault(Touch::Locale(QStringLiteral("en_GB")));
+    NoticeTexts::install();
+}
+
 void tst_MissedTeller::noticeSaysWhatWhenAndWhy_data()
 {
     QTest::addColumn<QString>("title");
@@ -59,11 +70,11 @@ void tst_MissedTeller::noticeSaysWhatWhenAndWhy_data()
     const auto row = [](const char *title, MissReason reason, const char *body) {
         QTest::newRow(body) << title << reason << body;
     };
-    row("Wake up", MissReason::Off, "Wake up, Fri 20 Nov, 07:00: the device was off");
-    row("", MissReason::Slept, "Alarm, Fri 20 Nov, 07:00: the device did not wake up in time");
-    row("  two\n lines ", MissReason::ClockSet, "two lines, Fri 20 Nov, 07:00: the clock was set to a later time");
-    row("x", MissReason::Late, "x, Fri 20 Nov, 07:00: the device was not ready in time");
-    row("x", MissReason::Unanswered, "x, Fri 20 Nov, 07:00: it rang, but nobody answered");
+    row("Wake up", MissReason::Off, "Wake up (Fri, 20 Nov, 07:00): the device was off");
+    row("", MissReason::Slept, "Alarm (Fri, 20 Nov, 07:00): the device did not wake up in time");
+    row("  two\n lines ", MissReason::ClockSet, "two lines (Fri, 20 Nov, 07:00): the clock was set to a later time");
+    row("x", MissReason::Late, "x (Fri, 20 Nov, 07:00): the device was not ready in time");
+    row("x", MissReason::Unanswered, "x (Fri, 20 Nov, 07:00): it rang, but nobody answered");
 }
 
 void tst_MissedTeller::noticeSaysWhatWhenAndWhy()
@@ -91,7 +102,7 @@ void tst_MissedTeller::noticeOfMany()
     QCOMPARE(notice.summary, "10 missed alarms");
     const QStringList lines = notice.body.split('\n');
     QCOMPARE(lines.size(), 9);
-    QCOMPARE(lines.first(), "Alarm 1, Fri 20 Nov, 06:00: the device was off");
+    QCOMPARE(lines.first(), "Alarm 1 (Fri, 20 Nov, 06:00): the device was off");
     QCOMPARE(lines.last(), "and 2 more");
     QStringList labels;
     for (const Notice::Action &action : notice.actions)
@@ -138,7 +149,7 @@ void tst_MissedTeller::untoldMissOutlivesTheDaemon()
     MissedTeller teller(world.parts->book, world.parts->life, notifier, world.zone);
     teller.start();
     QCOMPARE(notifier.notices.size(), 1);
-    QVERIFY(notifier.notices[0].body.startsWith("One, "));
+    QVERIFY(notifier.notices[0].body.startsWith("One ("));
     notifier.answer(true);
     world.restart(Seven + 3 * Hour);
     QVERIFY(world.parts->book.untold().isEmpty());
@@ -177,7 +188,7 @@ void tst_MissedTeller::missUnderWayIsNotToldTwice()
     emit notifier.appeared();
     world.setClock(Seven + Hour);
     QCOMPARE(notifier.notices.size(), 2);
-    QVERIFY(notifier.notices[1].body.startsWith("Two, "));
+    QVERIFY(notifier.notices[1].body.startsWith("Two ("));
 }
 
 void tst_MissedTeller::ringNowRingsOnceMore_data()

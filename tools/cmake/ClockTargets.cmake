@@ -83,6 +83,15 @@ function(clock_program name)
     endif()
 endfunction()
 
+# clock_catalogue(TARGET NAME LANGUAGE...): the texts of translations/NAME_LANGUAGE.ts, built into a target as
+# ":/translations/NAME_LANGUAGE.qm". The target asks for them with Q_INIT_RESOURCE(NAME_texts).
+function(clock_catalogue target name)
+    list(TRANSFORM ARGN REPLACE "(.+)" "translations/${name}_\\1.ts" OUTPUT_VARIABLE sources)
+    set_source_files_properties(${sources} PROPERTIES OUTPUT_LOCATION ${CMAKE_CURRENT_BINARY_DIR}/translations)
+    qt_add_lrelease(${target} TS_FILES ${sources} QM_FILES_OUTPUT_VARIABLE catalogues OPTIONS -idbased -silent)
+    qt_add_resources(${target} ${name}_texts PREFIX / BASE ${CMAKE_CURRENT_BINARY_DIR} FILES ${catalogues})
+endfunction()
+
 # All tests that run under the sanitizers as well.
 add_custom_target(core-tests)
 

@@ -3,10 +3,10 @@
 #include "platform/ringer/clockalarm/ringpage.h"
 
 #include "platform/locale/locale.h"
-#include "platform/ringer/clockalarm/ringtexts.h"
 #include "platform/ringer/clockalarm/snoozechoice.h"
 #include "platform/ringer/clockalarm/stopcontrol.h"
 #include "platform/ringer/clockalarm/waitingstack.h"
+#include "platform/ringer/texts/ringtexts.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/label.h"
 #include "platform/toolkit/layout.h"
@@ -91,7 +91,7 @@ void RingPage::announce()
     if (m_alarms.isEmpty())
         return;
     const auto &front = m_alarms.constFirst();
-    setAccessibleName(RingTexts::due(front) + QStringLiteral(", ") + RingTexts::title(front));
+    setAccessibleName(RingTexts::due(front.due) + QStringLiteral(", ") + RingTexts::title(front.title));
     if (!isOnDisplay())
         return;
     QAccessibleEvent event(this, QAccessible::Alert);
@@ -204,7 +204,7 @@ void RingPage::refresh()
     if (!isContentCreated() || m_alarms.isEmpty())
         return;
     const auto &front = m_alarms.constFirst();
-    m_alarmTitle->setText(RingTexts::title(front));
+    m_alarmTitle->setText(RingTexts::title(front.title));
     m_snooze->setText(RingTexts::snooze(front.snoozeSeconds));
     m_snooze->setVisible(front.snoozeSeconds > 0);
     m_choice->refresh();

@@ -3,6 +3,7 @@
 #include "platform/ringer/clockalarm/ringwindow.h"
 
 #include "platform/ringer/clockalarm/ringpage.h"
+#include "platform/ringer/texts/ringtexts.h"
 
 #include <chrono>
 #include <QCloseEvent>
@@ -49,8 +50,7 @@ RingWindow::RingWindow()
     : m_page(new RingPage)
 {
     setWindowFlag(Qt::WindowStaysOnTopHint);
-    //% "Clock"
-    setWindowTitle(qtTrId("qtn_ring_window"));
+    setWindowTitle(RingTexts::application());
     setStyleName(QStringLiteral("RingWindow"));
     connect(m_page, &RingPage::snoozePressed, this, &RingWindow::snooze);
     connect(m_page, &RingPage::stopPressed, this, &RingWindow::stop);

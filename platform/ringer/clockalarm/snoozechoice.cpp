@@ -3,7 +3,7 @@
 #include "platform/ringer/clockalarm/snoozechoice.h"
 
 #include "platform/locale/locale.h"
-#include "platform/ringer/clockalarm/ringtexts.h"
+#include "platform/ringer/texts/ringtexts.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/layout.h"
 #include "platform/toolkit/linearlayoutpolicy.h"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/clockalarm/stopcontrol.h"
 
+#include "platform/ringer/texts/ringtexts.h"
 #include "platform/toolkit/theme.h"
 
 #include <algorithm>
@@ -84,8 +85,7 @@ void StopControl::doAccessibleAction(const QString &)
 
 QString StopControl::shownText() const
 {
-    //% "Stop"
-    return qtTrId("qtn_ring_stop");
+    return RingTexts::stop();
 }
 
 QString StopControl::hint() const

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/clockalarm/waitingstack.h"
 
-#include "platform/ringer/clockalarm/ringtexts.h"
+#include "platform/ringer/texts/ringtexts.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/label.h"
 #include "platform/toolkit/layout.h"
@@ -66,7 +66,8 @@ void WaitingStack::refresh()
         m_cards.at(index)->setVisible(isShown);
         if (isShown) {
             const auto &alarm = m_alarms.at(index);
-            m_cards.at(index)->setText(RingTexts::due(alarm) + QStringLiteral(" · ") + RingTexts::title(alarm));
+            m_cards.at(index)->setText(RingTexts::due(alarm.due) + QStringLiteral(" · ")
+                                       + RingTexts::title(alarm.title));
         }
     }
     layout()->invalidate();

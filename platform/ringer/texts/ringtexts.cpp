@@ -1,12 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "platform/ringer/clockalarm/ringtexts.h"
+#include "platform/ringer/texts/ringtexts.h"
 
 #include "platform/locale/locale.h"
-#include "platform/ringer/ringplugin.h"
 
-using Ringer::Alarm;
+#include <QDateTime>
+#include <QDir>
+
 using Touch::Locale;
+
+// Stands outside of every namespace, as the macro asks for.
+static void initTexts()
+{
+    // A linker leaves the resources of a static library out unless they are asked for.
+    Q_INIT_RESOURCE(ringer_texts);
+}
 
 namespace RingTexts {
 
@@ -17,9 +25,23 @@ constexpr auto TitleLength = 90;
 
 } // namespace
 
-QString title(const Alarm &alarm)
+void install()
 {
-    const auto text = alarm.title.simplified();
+    initTexts();
+    auto &locale = Locale::getDefault();
+    locale.installTrCatalog(QStringLiteral("ringer"));
+    locale.connectSettings();
+}
+
+QString application()
+{
+    //% "Clock"
+    return qtTrId("qtn_ring_window");
+}
+
+QString title(const QString &title)
+{
+    const auto text = title.simplified();
     if (text.isEmpty()) {
         //% "Alarm"
         return qtTrId("qtn_ring_untitled");
@@ -27,9 +49,9 @@ QString title(const Alarm &alarm)
     return text.size() > TitleLength ? text.left(TitleLength) + QStringLiteral("…") : text;
 }
 
-QString due(const Alarm &alarm)
+QString due(const QDateTime &moment)
 {
-    return Locale::getDefault().formatDateTime(alarm.due.toLocalTime(), Locale::DateNone, Locale::TimeShort);
+    return Locale::getDefault().formatDateTime(moment.toLocalTime(), Locale::DateNone, Locale::TimeShort);
 }
 
 QString snooze(int seconds)
@@ -40,6 +62,12 @@ QString snooze(int seconds)
     }
     //% "Snooze · %n min"
     return qtTrId("qtn_ring_snooze", seconds / 60);
+}
+
+QString stop()
+{
+    //% "Stop"
+    return qtTrId("qtn_ring_stop");
 }
 
 QString bigTime(const QDateTime &moment)
