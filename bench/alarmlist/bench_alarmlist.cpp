@@ -19,6 +19,7 @@ namespace {
 
 constexpr int runs = 9;
 constexpr int scrolledRows = 500;
+constexpr int mostRows = 1000;
 constexpr int scrollStep = 40; ///< pixels a frame
 
 /** Listens to the daemon as the main page does, by which the bus tells at once who owns the daemon's name. */
@@ -117,9 +118,12 @@ void measureScrolling(AlarmSection &section)
 
 } // namespace
 
+/** bench_alarmlist [ALARMS]: with up to so many alarms. */
 int main(int argc, char **argv)
 {
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    const int most = arguments.size() > 1 ? arguments[1].toInt() : mostRows;
     QLoggingCategory::setFilterRules("*.debug=false");
     AlarmSection section;
     Listener listener;
@@ -129,7 +133,9 @@ int main(int argc, char **argv)
     if (!timed.settings_changed_connect(&listener, SLOT(timeChanged(const Astel::Timed::WallClock::Info &, bool))))
         return 1;
     int stored = 0;
-    for (const int count : {10, 100, scrolledRows, 1000}) {
+    for (const int count : {10, 100, scrolledRows, mostRows}) {
+        if (count > most)
+            break;
         fillUp(stored, count);
         measureLoading(section, count);
         measureSaving(section, count);

@@ -23,7 +23,7 @@
 
 namespace {
 
-constexpr int DragTime = 5000; ///< in milliseconds
+constexpr int UsualDragTime = 5; ///< in seconds
 constexpr int MoveTime = 8;
 constexpr double DegreesOfMove = 1.1; ///< a finger that sets single minutes
 
@@ -116,12 +116,12 @@ TimePicker *pickerIn(QGraphicsItem *item)
     return nullptr;
 }
 
-void dragDial(FrameMeter &application, Touch::Window &window)
+void dragDial(FrameMeter &application, Touch::Window &window, int seconds)
 {
     const Finger finger(&window, pickerIn(SettingAlarmPage::instance()));
     application.measure(window.viewport());
     QEventLoop loop;
-    QTimer::singleShot(DragTime, &loop, &QEventLoop::quit);
+    QTimer::singleShot(seconds * 1000, &loop, &QEventLoop::quit);
     loop.exec();
     application.measure(nullptr);
 }
@@ -149,10 +149,12 @@ void report(const char *what, const QList<double> &frames)
 
 } // namespace
 
+/** bench-editor [SECONDS]: drags the dial for so long. */
 int main(int argc, char **argv)
 {
     qputenv("CLOCK_REDUCED_MOTION", "1");
     FrameMeter application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
     initClockData();
     QString error;
     if (!Touch::Theme::instance().load(":/theme/clock.json", &error))
@@ -174,7 +176,7 @@ int main(int argc, char **argv)
         return &window;
     });
     QTextStream(stdout) << "an empty page: " << start << " ms\nthe editor: " << editor << " ms" << Qt::endl;
-    dragDial(application, window);
+    dragDial(application, window, arguments.size() > 1 ? arguments[1].toInt() : UsualDragTime);
     report("dragging the minute", application.frames());
     const double options = timeToPicture([] {
         SettingAlarmPage::instance()->displayOptionsPage();

@@ -38,7 +38,7 @@ using namespace Astel::Timed;
 
 namespace {
 
-constexpr int ManyCommits = 1000;
+constexpr int UsualCommits = 1000;
 constexpr int StartTimeout = 10000;
 constexpr qint64 RingTime = 120000;
 
@@ -272,7 +272,6 @@ void addEvent(benchmark::State &state)
     state.counters["4 call us"] = median(called);
     state.counters["4 call ratio"] = median(called) / median(barely);
 }
-BENCHMARK(addEvent)->Iterations(ManyCommits)->UseRealTime()->Unit(benchmark::kMicrosecond);
 
 /** From the start of the process to the published triggers of many events. */
 void startWithManyEvents(benchmark::State &state)
@@ -298,9 +297,17 @@ BENCHMARK(startWithManyEvents)
 
 } // namespace
 
+/** bench_daemon [--commits N] [OPTIONS OF THE LIBRARY]: with so many events added one by one. */
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    const qsizetype option = arguments.indexOf("--commits");
+    const int commits = option > 0 ? arguments.value(option + 1).toInt() : UsualCommits;
+    benchmark::RegisterBenchmark("addEvent", addEvent)
+        ->Iterations(commits)
+        ->UseRealTime()
+        ->Unit(benchmark::kMicrosecond);
     Wire::registerTypes();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

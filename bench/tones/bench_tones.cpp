@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int Files = 1000;
+constexpr int UsualFiles = 1000;
 constexpr int Queries = 200;
 
 double milliseconds(const QElapsedTimer &time)
@@ -87,13 +87,13 @@ double queryTime(QSparqlConnection &connection, const QString &path)
     return taken;
 }
 
-void measureQueries(const QTemporaryDir &folder, const QSparqlConnectionOptions &options)
+void measureQueries(const QTemporaryDir &folder, const QSparqlConnectionOptions &options, int files)
 {
     QSparqlConnection connection(QStringLiteral("QTRACKER"), options);
     std::printf("title, store opened for it  %.1f ms\n", queryTime(connection, tonePath(folder, 0)));
     std::vector<double> times;
     for (int number = 0; number < Queries; ++number)
-        times.push_back(queryTime(connection, tonePath(folder, number * (Files / Queries))));
+        times.push_back(queryTime(connection, tonePath(folder, number * files / Queries)));
     std::sort(times.begin(), times.end());
     std::printf("title, store open           median %.2f ms, worst of %d: %.2f ms\n", times[Queries / 2], Queries,
                 times.back());
@@ -101,11 +101,14 @@ void measureQueries(const QTemporaryDir &folder, const QSparqlConnectionOptions 
 
 } // namespace
 
+/** bench_tones [FILES]: with so many tones. */
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    const int files = arguments.size() > 1 ? arguments[1].toInt() : UsualFiles;
     const QTemporaryDir folder;
-    for (int number = 0; number < Files; ++number) {
+    for (int number = 0; number < files; ++number) {
         if (!Support::writeTone(tonePath(folder, number), QStringLiteral("Title of tone %1").arg(number)))
             return 1;
     }
@@ -113,6 +116,6 @@ int main(int argc, char **argv)
     options.setStoreFolder(folder.filePath(QStringLiteral("store")));
     measureFill(folder, options, "first fill");
     measureFill(folder, options, "nothing has changed");
-    measureQueries(folder, options);
+    measureQueries(folder, options, files);
     return 0;
 }

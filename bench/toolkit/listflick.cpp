@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// Flicks a list of 1,000 rows for ten seconds in a window of 480 x 854 and prints what the frames took and how many
-// cells there were at most.
+// bench-list [SECONDS]: flicks a list of 1,000 rows for so long, ten seconds unless given, in a window of 480 x 854 and
+// prints what the frames took and how many cells there were at most.
 #include "bench/toolkit/framemeter.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/list.h"
@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int duration = 10000; ///< of the measurement, in milliseconds
+constexpr int usualDuration = 10; ///< of the measurement, in seconds
 constexpr int moveTime = 8;
 constexpr int movesInFlick = 8;
 constexpr int ticksBetweenFlicks = 80;
@@ -87,6 +87,8 @@ void report(const QList<double> &frames, int cells)
 int main(int argc, char **argv)
 {
     FrameMeter application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    const int duration = arguments.size() > 1 ? arguments[1].toInt() : usualDuration;
     Touch::ApplicationWindow window;
     window.resize(480, 854);
     Gallery::ListPage page;
@@ -98,7 +100,7 @@ int main(int argc, char **argv)
                      [&] { cells = qMax(cells, cellCount(*page.list)); });
     const Finger finger(&window);
     QTimer::singleShot(1000, &window, [&] { application.measure(window.viewport()); });
-    QTimer::singleShot(1000 + duration, &application, &QApplication::quit);
+    QTimer::singleShot(1000 * (1 + duration), &application, &QApplication::quit);
     const int result = QApplication::exec();
     application.measure(nullptr);
     report(application.frames(), cells);
