@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/locale/catalogs_p.h"
 
+#include "platform/locale/countrynames_p.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QStandardPaths>
@@ -12,6 +14,8 @@ namespace Touch {
 
 namespace {
 
+constexpr QLatin1StringView Countries("countries");
+
 QString fileOf(const QString &name, const QString &locale)
 {
     const QString file = QStringLiteral("translations/%1_%2.qm").arg(name, locale);
@@ -21,15 +25,30 @@ QString fileOf(const QString &name, const QString &locale)
         : QStandardPaths::locate(QStandardPaths::GenericDataLocation, QStringLiteral("clock/") + file);
 }
 
+icu::Locale likely(const QString &name)
+{
+    icu::Locale locale(name.toLatin1().constData());
+    UErrorCode error = U_ZERO_ERROR;
+    locale.addLikelySubtags(error);
+    return locale;
+}
+
+QString joined(const char *language, const char *part)
+{
+    return QStringLiteral("%1_%2").arg(QLatin1String(language), QLatin1String(part));
+}
+
 // From the source language up to the region.
 QStringList fallbacks(const QByteArray &name)
 {
     icu::Locale locale(name.constData());
-    QStringList names{QStringLiteral("en"), QString::fromLatin1(locale.getLanguage())};
-    icu::Locale full(locale);
-    UErrorCode error = U_ZERO_ERROR;
-    full.addLikelySubtags(error);
-    names << QStringLiteral("%1_%2").arg(QLatin1String(full.getLanguage()), QLatin1String(full.getScript()));
+    const icu::Locale full = likely(QString::fromLatin1(name));
+    const QString written = joined(full.getLanguage(), full.getScript());
+    QStringList names{QStringLiteral("en"), QString::fromLatin1(locale.getLanguage()), written};
+    // Where most who write it so live: Portugal reads Brazil's texts rather than English ones, Hong Kong Taiwan's.
+    const QString usual = joined(full.getLanguage(), likely(written).getCountry());
+    if (qstrcmp(likely(usual).getScript(), full.getScript()) == 0)
+        names << usual;
     QStringList parts;
     for (const char *part : {locale.getLanguage(), locale.getScript(), locale.getCountry()}) {
         if (*part)
@@ -38,6 +57,12 @@ QStringList fallbacks(const QByteArray &name)
     names << parts.join(u'_');
     names.removeDuplicates();
     return names;
+}
+
+void install(std::vector<std::unique_ptr<QTranslator>> &shown, std::unique_ptr<QTranslator> translator)
+{
+    if (QCoreApplication::installTranslator(translator.get()))
+        shown.push_back(std::move(translator));
 }
 
 } // namespace
@@ -63,6 +88,11 @@ QStringList Catalogs::files(const QString &name, const QByteArray &locale)
     return found;
 }
 
+bool Catalogs::exists(const QString &name, const QByteArray &locale)
+{
+    return name == Countries || !files(name, locale).isEmpty();
+}
+
 void Catalogs::show(const QStringList &names, const QByteArray &locale)
 {
     if (m_locale != locale)
@@ -72,10 +102,12 @@ void Catalogs::show(const QStringList &names, const QByteArray &locale)
         auto &translators = m_shown[name];
         if (!translators.empty())
             continue;
+        if (name == Countries)
+            install(translators, std::make_unique<CountryNames>(locale));
         for (const QString &file : files(name, locale)) {
             auto translator = std::make_unique<QTranslator>();
-            if (translator->load(file) && QCoreApplication::installTranslator(translator.get()))
-                translators.push_back(std::move(translator));
+            if (translator->load(file))
+                install(translators, std::move(translator));
         }
     }
 }

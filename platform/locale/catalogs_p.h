@@ -22,6 +22,8 @@ public:
     /// alone.
     void show(const QStringList &names, const QByteArray &locale);
 
+    /// Whether there is a text of it in this locale or in one that it falls back to.
+    static bool exists(const QString &name, const QByteArray &locale);
     /// The files of a catalogue, the one to be asked first at the end.
     static QStringList files(const QString &name, const QByteArray &locale);
 

@@ -6,6 +6,7 @@
 #include "platform/locale/icu_p.h"
 #include "platform/locale/systemsettings_p.h"
 
+#include <QLocale>
 #include <unicode/locid.h>
 #include <unicode/uscript.h>
 
@@ -232,11 +233,13 @@ bool Locale::installTrCatalog(const QString &name)
         d->catalogs << name;
     if (this == &getDefault())
         showCatalogs();
-    return !Catalogs::files(name, d->settings.names[MessageCategory]).isEmpty();
+    return Catalogs::exists(name, d->settings.names[MessageCategory]);
 }
 
 void Locale::showCatalogs() const
 {
+    // The digits of %L1 and %Ln.
+    QLocale::setDefault(QLocale(categoryName(NumericCategory)));
     Catalogs::instance().show(d->catalogs, d->settings.names[MessageCategory]);
 }
 

@@ -87,8 +87,9 @@ public:
 
     /// Adds the catalogues `<name>_<locale>.qm` from `:/translations`, else from `clock/translations` in the
     /// data folders: the region's before the language's before the English ones, a text missing in one comes
-    /// from the next. Shown while this is, or once it becomes, the default. Needs the application object.
-    /// False: none found.
+    /// from the next. "countries" has the names of all countries without a file, as `qtn_country_<code>`. Shown
+    /// while this is, or once it becomes, the default; the digits of `%L1` and `%Ln` are this locale's then. Needs
+    /// the application object. False: none found.
     bool installTrCatalog(const QString &name);
 
     /// Follows the system's settings from now on; a locale with a fixed name follows the time format alone.

@@ -40,7 +40,12 @@ class tst_Catalogs : public QObject
 private Q_SLOTS:
     void isNotShownBeforeItsLocaleIsTheDefault();
     void fallsBackFromRegionToLanguageToEnglish();
+    void fallsBackToWhereMostLiveWhoWriteItSo_data();
+    void fallsBackToWhereMostLiveWhoWriteItSo();
     void showsThePluralForms();
+    void showsTheDigitsOfTheLocale();
+    void knowsAllCountriesWithoutAFile();
+    void knowsNoOtherCountries();
     void stayWhenAnotherLocaleBecomesTheDefault();
     void installingTwiceChangesNothing();
     void looksInTheDataFoldersToo();
@@ -68,6 +73,26 @@ void tst_Catalogs::fallsBackFromRegionToLanguageToEnglish()
     QCOMPARE(qtTrId("planet_earth"), u"Earth"_qs);
 }
 
+void tst_Catalogs::fallsBackToWhereMostLiveWhoWriteItSo_data()
+{
+    QTest::addColumn<QString>("earth");
+    QTest::newRow("pt") << u"Terra"_qs;
+    QTest::newRow("pt_BR") << u"Terra"_qs;
+    QTest::newRow("pt_PT") << u"Terra"_qs;
+    for (const char *simplified : {"zh", "zh_CN", "zh_SG", "zh_Hans", "zh_Hans_HK"})
+        QTest::newRow(simplified) << u"地球，简体"_qs;
+    for (const char *traditional : {"zh_TW", "zh_HK", "zh_MO", "zh_Hant", "zh_Hant_US"})
+        QTest::newRow(traditional) << u"地球，繁體"_qs;
+}
+
+void tst_Catalogs::fallsBackToWhereMostLiveWhoWriteItSo()
+{
+    QFETCH(QString, earth);
+    Locale::setDefault(withPlanets(QTest::currentDataTag()));
+    QCOMPARE(qtTrId("planet_earth"), earth);
+    QCOMPARE(qtTrId("planet_venus"), u"Venus in English"_qs);
+}
+
 void tst_Catalogs::showsThePluralForms()
 {
     Locale::setDefault(withPlanets("en_GB"));
@@ -78,6 +103,37 @@ void tst_Catalogs::showsThePluralForms()
     QCOMPARE(qtTrId("planet_count", 2), u"2 планеты"_qs);
     QCOMPARE(qtTrId("planet_count", 8), u"8 планет"_qs);
     QCOMPARE(qtTrId("planet_count", 21), u"21 планета"_qs);
+}
+
+void tst_Catalogs::showsTheDigitsOfTheLocale()
+{
+    Locale::setDefault(withPlanets("fa_IR"));
+    QCOMPARE(qtTrId("planet_count", 8), u"۸ سیاره"_qs);
+    QCOMPARE(qtTrId("planet_place").arg(3), u"سیارهٔ ۳"_qs);
+    Locale::setDefault(withPlanets("en_GB"));
+    QCOMPARE(qtTrId("planet_count", 8), u"8 planets"_qs);
+}
+
+void tst_Catalogs::knowsAllCountriesWithoutAFile()
+{
+    Locale german(u"de_DE"_qs);
+    QVERIFY(german.installTrCatalog(u"countries"_qs));
+    Locale::setDefault(german);
+    QCOMPARE(qtTrId("qtn_country_se"), u"Schweden"_qs);
+    Locale::setDefault(Locale(u"ja_JP"_qs));
+    QCOMPARE(qtTrId("qtn_country_se"), u"スウェーデン"_qs);
+    Locale::setDefault(Locale(u"en_GB"_qs));
+    QCOMPARE(qtTrId("qtn_country_de"), u"Germany"_qs);
+}
+
+void tst_Catalogs::knowsNoOtherCountries()
+{
+    Locale english(u"en_GB"_qs);
+    english.installTrCatalog(u"countries"_qs);
+    Locale::setDefault(english);
+    QCOMPARE(qtTrId("qtn_country_zz"), u"qtn_country_zz"_qs);
+    QCOMPARE(qtTrId("qtn_country_"), u"qtn_country_"_qs);
+    QCOMPARE(qtTrId("planet_of_nobody"), u"planet_of_nobody"_qs);
 }
 
 void tst_Catalogs::stayWhenAnotherLocaleBecomesTheDefault()
