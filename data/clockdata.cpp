@@ -7,6 +7,6 @@
 void initClockData()
 {
     // A linker leaves the resources of a static library out unless they are asked for.
-    Q_INIT_RESOURCE(clockdata_texts);
+    Q_INIT_RESOURCE(clock_texts);
     Q_INIT_RESOURCE(clockdata_looks);
 }

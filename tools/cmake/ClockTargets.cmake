@@ -83,6 +83,10 @@ function(clock_program name)
     endif()
 endfunction()
 
+# The languages that every catalogue of texts is there in.
+set(CLOCK_LANGUAGES
+    ar bn cs de el en es fa fi fr he hi hu id it ja ko nl pl pt_BR ro ru sv th tr uk vi zh_CN zh_TW)
+
 # clock_catalogue(TARGET NAME LANGUAGE...): the texts of translations/NAME_LANGUAGE.ts, built into a target as
 # ":/translations/NAME_LANGUAGE.qm". The target asks for them with Q_INIT_RESOURCE(NAME_texts).
 function(clock_catalogue target name)

@@ -1,0 +1,155 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Clock authors -->
+<!-- SPDX-License-Identifier: LGPL-2.1-or-later -->
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="qtn_cloc_title">
+        <source>Clock</source>
+        <translation>الساعة</translation>
+    </message>
+    <message id="qtn_cloc_alarms_header">
+        <source>Alarms</source>
+        <translation>المنبّهات</translation>
+    </message>
+    <message id="qtn_cloc_new_alarm">
+        <source>New alarm</source>
+        <extracomment>Spoken name of the button with the plus sign.</extracomment>
+        <translation>منبّه جديد</translation>
+    </message>
+    <message id="qtn_cloc_no_alarms">
+        <source>No alarms yet</source>
+        <translation>لا توجد منبّهات بعد</translation>
+    </message>
+    <message id="qtn_cloc_no_alarms_hint">
+        <source>Tap + to add your first one.</source>
+        <translation>اضغط على + لإضافة أول منبّه.</translation>
+    </message>
+    <message id="qtn_cloc_alarm_title">
+        <source>Alarm</source>
+        <extracomment>Title of an alarm that was saved without one.</extracomment>
+        <translation>منبّه</translation>
+    </message>
+    <message id="qtn_cloc_alarm_title_tooltip">
+        <source>Alarm name</source>
+        <extracomment>Prompt in the empty title field.</extracomment>
+        <translation>اسم المنبّه</translation>
+    </message>
+    <message id="qtn_cloc_time_left_alarm">
+        <source>Alarm in %1</source>
+        <extracomment>%1 is a span of time, "07:05" or "about 3 days".</extracomment>
+        <translation>المنبّه بعد %1</translation>
+    </message>
+    <message id="qtn_cloc_about_days" numerus="yes">
+        <source>about %n day(s)</source>
+        <translation>
+            <numerusform>%Ln يوم تقريبًا</numerusform>
+            <numerusform>يوم واحد تقريبًا</numerusform>
+            <numerusform>يومين تقريبًا</numerusform>
+            <numerusform>%Ln أيام تقريبًا</numerusform>
+            <numerusform>%Ln يومًا تقريبًا</numerusform>
+            <numerusform>%Ln يوم تقريبًا</numerusform>
+        </translation>
+    </message>
+    <message id="qtn_cloc_set_repeat">
+        <source>Repeat</source>
+        <extracomment>Title of the dialog in which weekdays are chosen.</extracomment>
+        <translation>تكرار</translation>
+    </message>
+    <message id="qtn_cloc_repeatalarm_rulenever">
+        <source>Never</source>
+        <translation>أبدًا</translation>
+    </message>
+    <message id="qtn_cloc_repeatalarm_ruleeveryday">
+        <source>Every day</source>
+        <translation>كل يوم</translation>
+    </message>
+    <message id="qtn_cloc_more_options">
+        <source>More options</source>
+        <translation>المزيد من الخيارات</translation>
+    </message>
+    <message id="qtn_cloc_alarm_options">
+        <source>Alarm options</source>
+        <translation>خيارات المنبّه</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_repeattitle">
+        <source>Repeat</source>
+        <translation>تكرار</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_snoozesetting">
+        <source>Snooze</source>
+        <translation>غفوة</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_snooze">
+        <source>%1 minutes</source>
+        <translation>%L1 د</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_tone">
+        <source>Alarm tone</source>
+        <translation>نغمة المنبّه</translation>
+    </message>
+    <message id="qtn_cloc_alarm_save_error">
+        <source>The alarm could not be saved</source>
+        <translation>تعذّر حفظ المنبّه</translation>
+    </message>
+    <message id="qtn_cloc_alarm_delete_error">
+        <source>The alarm could not be deleted</source>
+        <translation>تعذّر حذف المنبّه</translation>
+    </message>
+    <message id="qtn_cloc_reset_alarm">
+        <source>Clocks go forward</source>
+        <extracomment>Title of the question about an alarm at a time that summer time skips.</extracomment>
+        <translation>تقديم الساعة</translation>
+    </message>
+    <message id="qtn_cloc_dst_transition_warning">
+        <source>The clocks change before this alarm, so it would not ring at the time you chose. Set it to %1 instead?</source>
+        <extracomment>%1 is the time one hour earlier.</extracomment>
+        <translation>ستتغيّر الساعة قبل موعد هذا المنبّه، فلن يرن في الوقت الذي اخترته. هل تريد ضبطه على %1 بدلاً من ذلك؟</translation>
+    </message>
+    <message id="qtn_cloc_set_manually">
+        <source>Choose another time</source>
+        <translation>اختيار وقت آخر</translation>
+    </message>
+    <message id="qtn_comm_time_am">
+        <source>AM</source>
+        <translation>ص</translation>
+    </message>
+    <message id="qtn_comm_ok">
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message id="qtn_comm_save">
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+    <message id="qtn_comm_cancel">
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message id="qtn_comm_command_done">
+        <source>Done</source>
+        <extracomment>On the input method's key that ends the editing of the title.</extracomment>
+        <translation>تم</translation>
+    </message>
+    <message id="qtn_comm_delete">
+        <source>Delete</source>
+        <translation>حذف</translation>
+    </message>
+    <message id="qtn_comm_back">
+        <source>Back</source>
+        <extracomment>Spoken name of the button that leads one page back.</extracomment>
+        <translation>رجوع</translation>
+    </message>
+    <message id="qtn_comm_home">
+        <source>Home screen</source>
+        <extracomment>Spoken name of the button that puts the window out of the way.</extracomment>
+        <translation>الشاشة الرئيسية</translation>
+    </message>
+    <message id="qtn_comm_navigation">
+        <source>Navigation</source>
+        <extracomment>Spoken name of the bar with a page's buttons and menu.</extracomment>
+        <translation>التنقّل</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,151 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Clock authors -->
+<!-- SPDX-License-Identifier: LGPL-2.1-or-later -->
+<TS version="2.1" language="el" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="qtn_cloc_title">
+        <source>Clock</source>
+        <translation>Ρολόι</translation>
+    </message>
+    <message id="qtn_cloc_alarms_header">
+        <source>Alarms</source>
+        <translation>Ξυπνητήρια</translation>
+    </message>
+    <message id="qtn_cloc_new_alarm">
+        <source>New alarm</source>
+        <extracomment>Spoken name of the button with the plus sign.</extracomment>
+        <translation>Νέο ξυπνητήρι</translation>
+    </message>
+    <message id="qtn_cloc_no_alarms">
+        <source>No alarms yet</source>
+        <translation>Κανένα ξυπνητήρι ακόμα</translation>
+    </message>
+    <message id="qtn_cloc_no_alarms_hint">
+        <source>Tap + to add your first one.</source>
+        <translation>Πατήστε + για να προσθέσετε το πρώτο.</translation>
+    </message>
+    <message id="qtn_cloc_alarm_title">
+        <source>Alarm</source>
+        <extracomment>Title of an alarm that was saved without one.</extracomment>
+        <translation>Ξυπνητήρι</translation>
+    </message>
+    <message id="qtn_cloc_alarm_title_tooltip">
+        <source>Alarm name</source>
+        <extracomment>Prompt in the empty title field.</extracomment>
+        <translation>Όνομα ξυπνητηριού</translation>
+    </message>
+    <message id="qtn_cloc_time_left_alarm">
+        <source>Alarm in %1</source>
+        <extracomment>%1 is a span of time, "07:05" or "about 3 days".</extracomment>
+        <translation>Ξυπνητήρι σε %1</translation>
+    </message>
+    <message id="qtn_cloc_about_days" numerus="yes">
+        <source>about %n day(s)</source>
+        <translation>
+            <numerusform>περίπου %n ημέρα</numerusform>
+            <numerusform>περίπου %n ημέρες</numerusform>
+        </translation>
+    </message>
+    <message id="qtn_cloc_set_repeat">
+        <source>Repeat</source>
+        <extracomment>Title of the dialog in which weekdays are chosen.</extracomment>
+        <translation>Επανάληψη</translation>
+    </message>
+    <message id="qtn_cloc_repeatalarm_rulenever">
+        <source>Never</source>
+        <translation>Ποτέ</translation>
+    </message>
+    <message id="qtn_cloc_repeatalarm_ruleeveryday">
+        <source>Every day</source>
+        <translation>Κάθε μέρα</translation>
+    </message>
+    <message id="qtn_cloc_more_options">
+        <source>More options</source>
+        <translation>Περισσότερες επιλογές</translation>
+    </message>
+    <message id="qtn_cloc_alarm_options">
+        <source>Alarm options</source>
+        <translation>Επιλογές ξυπνητηριού</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_repeattitle">
+        <source>Repeat</source>
+        <translation>Επανάληψη</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_snoozesetting">
+        <source>Snooze</source>
+        <translation>Αναβολή</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_snooze">
+        <source>%1 minutes</source>
+        <translation>%1 λεπτά</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_tone">
+        <source>Alarm tone</source>
+        <translation>Ήχος ξυπνητηριού</translation>
+    </message>
+    <message id="qtn_cloc_alarm_save_error">
+        <source>The alarm could not be saved</source>
+        <translation>Δεν ήταν δυνατή η αποθήκευση του ξυπνητηριού</translation>
+    </message>
+    <message id="qtn_cloc_alarm_delete_error">
+        <source>The alarm could not be deleted</source>
+        <translation>Δεν ήταν δυνατή η διαγραφή του ξυπνητηριού</translation>
+    </message>
+    <message id="qtn_cloc_reset_alarm">
+        <source>Clocks go forward</source>
+        <extracomment>Title of the question about an alarm at a time that summer time skips.</extracomment>
+        <translation>Η ώρα πηγαίνει μπροστά</translation>
+    </message>
+    <message id="qtn_cloc_dst_transition_warning">
+        <source>The clocks change before this alarm, so it would not ring at the time you chose. Set it to %1 instead?</source>
+        <extracomment>%1 is the time one hour earlier.</extracomment>
+        <translation>Η ώρα αλλάζει πριν από αυτό το ξυπνητήρι, οπότε δεν θα χτυπούσε την ώρα που επιλέξατε. Να οριστεί στις %1;</translation>
+    </message>
+    <message id="qtn_cloc_set_manually">
+        <source>Choose another time</source>
+        <translation>Επιλογή άλλης ώρας</translation>
+    </message>
+    <message id="qtn_comm_time_am">
+        <source>AM</source>
+        <translation>π.μ.</translation>
+    </message>
+    <message id="qtn_comm_ok">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="qtn_comm_save">
+        <source>Save</source>
+        <translation>Αποθήκευση</translation>
+    </message>
+    <message id="qtn_comm_cancel">
+        <source>Cancel</source>
+        <translation>Ακύρωση</translation>
+    </message>
+    <message id="qtn_comm_command_done">
+        <source>Done</source>
+        <extracomment>On the input method's key that ends the editing of the title.</extracomment>
+        <translation>Τέλος</translation>
+    </message>
+    <message id="qtn_comm_delete">
+        <source>Delete</source>
+        <translation>Διαγραφή</translation>
+    </message>
+    <message id="qtn_comm_back">
+        <source>Back</source>
+        <extracomment>Spoken name of the button that leads one page back.</extracomment>
+        <translation>Πίσω</translation>
+    </message>
+    <message id="qtn_comm_home">
+        <source>Home screen</source>
+        <extracomment>Spoken name of the button that puts the window out of the way.</extracomment>
+        <translation>Αρχική οθόνη</translation>
+    </message>
+    <message id="qtn_comm_navigation">
+        <source>Navigation</source>
+        <extracomment>Spoken name of the bar with a page's buttons and menu.</extracomment>
+        <translation>Πλοήγηση</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,150 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Clock authors -->
+<!-- SPDX-License-Identifier: LGPL-2.1-or-later -->
+<TS version="2.1" language="fa" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="qtn_cloc_title">
+        <source>Clock</source>
+        <translation>ساعت</translation>
+    </message>
+    <message id="qtn_cloc_alarms_header">
+        <source>Alarms</source>
+        <translation>زنگ‌های هشدار</translation>
+    </message>
+    <message id="qtn_cloc_new_alarm">
+        <source>New alarm</source>
+        <extracomment>Spoken name of the button with the plus sign.</extracomment>
+        <translation>زنگ هشدار جدید</translation>
+    </message>
+    <message id="qtn_cloc_no_alarms">
+        <source>No alarms yet</source>
+        <translation>هنوز زنگ هشداری نیست</translation>
+    </message>
+    <message id="qtn_cloc_no_alarms_hint">
+        <source>Tap + to add your first one.</source>
+        <translation>برای افزودن اولین زنگ، + را لمس کنید.</translation>
+    </message>
+    <message id="qtn_cloc_alarm_title">
+        <source>Alarm</source>
+        <extracomment>Title of an alarm that was saved without one.</extracomment>
+        <translation>زنگ هشدار</translation>
+    </message>
+    <message id="qtn_cloc_alarm_title_tooltip">
+        <source>Alarm name</source>
+        <extracomment>Prompt in the empty title field.</extracomment>
+        <translation>نام زنگ هشدار</translation>
+    </message>
+    <message id="qtn_cloc_time_left_alarm">
+        <source>Alarm in %1</source>
+        <extracomment>%1 is a span of time, "07:05" or "about 3 days".</extracomment>
+        <translation>هشدار تا %1 دیگر</translation>
+    </message>
+    <message id="qtn_cloc_about_days" numerus="yes">
+        <source>about %n day(s)</source>
+        <translation>
+            <numerusform>حدود %Ln روز</numerusform>
+        </translation>
+    </message>
+    <message id="qtn_cloc_set_repeat">
+        <source>Repeat</source>
+        <extracomment>Title of the dialog in which weekdays are chosen.</extracomment>
+        <translation>تکرار</translation>
+    </message>
+    <message id="qtn_cloc_repeatalarm_rulenever">
+        <source>Never</source>
+        <translation>هرگز</translation>
+    </message>
+    <message id="qtn_cloc_repeatalarm_ruleeveryday">
+        <source>Every day</source>
+        <translation>هر روز</translation>
+    </message>
+    <message id="qtn_cloc_more_options">
+        <source>More options</source>
+        <translation>گزینه‌های بیشتر</translation>
+    </message>
+    <message id="qtn_cloc_alarm_options">
+        <source>Alarm options</source>
+        <translation>گزینه‌های زنگ هشدار</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_repeattitle">
+        <source>Repeat</source>
+        <translation>تکرار</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_snoozesetting">
+        <source>Snooze</source>
+        <translation>تعویق</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_snooze">
+        <source>%1 minutes</source>
+        <translation>%L1 دقیقه</translation>
+    </message>
+    <message id="qtn_cloc_alarmeditor_tone">
+        <source>Alarm tone</source>
+        <translation>صدای زنگ</translation>
+    </message>
+    <message id="qtn_cloc_alarm_save_error">
+        <source>The alarm could not be saved</source>
+        <translation>زنگ هشدار ذخیره نشد</translation>
+    </message>
+    <message id="qtn_cloc_alarm_delete_error">
+        <source>The alarm could not be deleted</source>
+        <translation>زنگ هشدار حذف نشد</translation>
+    </message>
+    <message id="qtn_cloc_reset_alarm">
+        <source>Clocks go forward</source>
+        <extracomment>Title of the question about an alarm at a time that summer time skips.</extracomment>
+        <translation>جلو رفتن ساعت</translation>
+    </message>
+    <message id="qtn_cloc_dst_transition_warning">
+        <source>The clocks change before this alarm, so it would not ring at the time you chose. Set it to %1 instead?</source>
+        <extracomment>%1 is the time one hour earlier.</extracomment>
+        <translation>پیش از این زنگ، ساعت تغییر می‌کند و زنگ در زمان انتخابی شما به صدا در نمی‌آید. به‌جای آن روی %1 تنظیم شود؟</translation>
+    </message>
+    <message id="qtn_cloc_set_manually">
+        <source>Choose another time</source>
+        <translation>انتخاب زمان دیگر</translation>
+    </message>
+    <message id="qtn_comm_time_am">
+        <source>AM</source>
+        <translation>قبل‌ازظهر</translation>
+    </message>
+    <message id="qtn_comm_ok">
+        <source>OK</source>
+        <translation>تأیید</translation>
+    </message>
+    <message id="qtn_comm_save">
+        <source>Save</source>
+        <translation>ذخیره</translation>
+    </message>
+    <message id="qtn_comm_cancel">
+        <source>Cancel</source>
+        <translation>لغو</translation>
+    </message>
+    <message id="qtn_comm_command_done">
+        <source>Done</source>
+        <extracomment>On the input method's key that ends the editing of the title.</extracomment>
+        <translation>تمام</translation>
+    </message>
+    <message id="qtn_comm_delete">
+        <source>Delete</source>
+        <translation>حذف</translation>
+    </message>
+    <message id="qtn_comm_back">
+        <source>Back</source>
+        <extracomment>Spoken name of the button that leads one page back.</extracomment>
+        <translation>بازگشت</translation>
+    </message>
+    <message id="qtn_comm_home">
+        <source>Home screen</source>
+        <extracomment>Spoken name of the button that puts the window out of the way.</extracomment>
+        <translation>صفحهٔ اصلی</translation>
+    </message>
+    <message id="qtn_comm_navigation">
+        <source>Navigation</source>
+        <extracomment>Spoken name of the bar with a page's buttons and menu.</extracomment>
+        <translation>پیمایش</translation>
+    </message>
+</context>
+</TS>

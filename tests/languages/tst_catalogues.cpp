@@ -1,0 +1,274 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "data/clockdata.h"
+#include "platform/locale/locale.h"
+#include "tests/languages/catalogue.h"
+#include "tests/languages/languages.h"
+#include "tests/support/places.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QHash>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+#include <QTranslator>
+
+namespace {
+
+// Each with the folder of its files.
+const QHash<QString, QString> catalogueFolders{
+    {"clock", "data/translations"},
+    {"sounds", "platform/clockwidgets/translations"},
+};
+
+// How many forms Qt picks from, by the count.
+const QHash<QString, int> pluralForms{
+    {"ar", 6}, {"bn", 2}, {"cs", 3}, {"de", 2},    {"el", 2},    {"en", 2}, {"es", 2}, {"fa", 1},
+    {"fi", 2}, {"fr", 2}, {"he", 2}, {"hi", 2},    {"hu", 1},    {"id", 1}, {"it", 2}, {"ja", 1},
+    {"ko", 1}, {"nl", 2}, {"pl", 3}, {"pt_BR", 2}, {"ro", 3},    {"ru", 3}, {"sv", 2}, {"th", 1},
+    {"tr", 1}, {"uk", 3}, {"vi", 1}, {"zh_CN", 1}, {"zh_TW", 1},
+};
+
+// These may be the same in any language, ...
+const QStringList sameAnywhere{"qtn_comm_ok", "qtn_comm_time_am"};
+// ... and these are the same word by chance.
+const QHash<QString, QStringList> sameAsEnglish{
+    {"qtn_cloc_alarm_title", {"id", "pl", "sv", "tr"}},
+    {"qtn_cloc_alarmeditor_snooze", {"fr"}},
+    {"qtn_comm_navigation", {"de", "fr"}},
+};
+
+QString path(const QString &catalogue, const QString &language)
+{
+    return Places::source(QStringLiteral("%1/%2_%3.ts").arg(catalogueFolders[catalogue], catalogue, language));
+}
+
+Catalogue english(const QString &catalogue)
+{
+    return Catalogue::read(path(catalogue, "en"));
+}
+
+QStringList placeholders(const QString &text)
+{
+    static const QRegularExpression expression("%L?(n|\\d)");
+    QStringList found;
+    for (auto match = expression.globalMatch(text); match.hasNext();)
+        found << match.next().captured(1);
+    found.sort();
+    return found;
+}
+
+/** The names of texts in the sources of application and platform. */
+QSet<QString> usedTexts()
+{
+    static const QRegularExpression expression("\"(qtn_(?!country_)[a-z_0-9]+)\"");
+    QSet<QString> used;
+    for (const char *folder :
+         {"alarms", "alarmlist", "editor", "mainview", "app", "platform/clockwidgets", "platform/toolkit"}) {
+        QDirIterator files(Places::source(folder), {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            if (!file.open(QIODevice::ReadOnly))
+                return {};
+            const QString text = QString::fromUtf8(file.readAll());
+            for (auto match = expression.globalMatch(text); match.hasNext();)
+                used << match.next().captured(1);
+        }
+    }
+    return used;
+}
+
+} // namespace
+
+/** The texts of all catalogues, in all languages. */
+class TestCatalogues : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void theFilesAreThoseThatAreBuilt_data();
+    void theFilesAreThoseThatAreBuilt();
+    void theSourcesUseAllTextsAndNoOthers();
+    void allTextsAreThere_data() { addRows(); }
+    void allTextsAreThere();
+    void noTextIsUnfinished_data() { addRows(); }
+    void noTextIsUnfinished();
+    void thePluralFormsAreComplete_data() { addRows(); }
+    void thePluralFormsAreComplete();
+    void thePlaceholdersAreKept_data() { addRows(); }
+    void thePlaceholdersAreKept();
+    void eachCountHasATextOfItsOwn_data() { addRows(); }
+    void eachCountHasATextOfItsOwn();
+    void noTextIsLeftInEnglish_data() { addRows(); }
+    void noTextIsLeftInEnglish();
+    void theMorningIsCalledAsInTimes_data();
+    void theMorningIsCalledAsInTimes();
+
+private:
+    static void addRows();
+    static Catalogue translated();
+};
+
+void TestCatalogues::initTestCase()
+{
+    initClockData();
+}
+
+void TestCatalogues::addRows()
+{
+    QTest::addColumn<QString>("catalogue");
+    QTest::addColumn<QString>("language");
+    for (auto each = catalogueFolders.keyBegin(); each != catalogueFolders.keyEnd(); ++each) {
+        for (const QString &language : builtLanguages())
+            QTest::addRow("%s in %s", qPrintable(*each), qPrintable(language)) << *each << language;
+    }
+}
+
+/** The catalogue of the row. */
+Catalogue TestCatalogues::translated()
+{
+    QFETCH(QString, catalogue);
+    QFETCH(QString, language);
+    return Catalogue::read(path(catalogue, language));
+}
+
+void TestCatalogues::theFilesAreThoseThatAreBuilt_data()
+{
+    QTest::addColumn<QString>("catalogue");
+    for (auto each = catalogueFolders.keyBegin(); each != catalogueFolders.keyEnd(); ++each)
+        QTest::newRow(qPrintable(*each)) << *each;
+}
+
+void TestCatalogues::theFilesAreThoseThatAreBuilt()
+{
+    QFETCH(QString, catalogue);
+    QStringList expected;
+    for (const QString &language : builtLanguages())
+        expected << QStringLiteral("%1_%2.ts").arg(catalogue, language);
+    expected.sort();
+    QCOMPARE(QDir(Places::source(catalogueFolders[catalogue])).entryList({"*.ts"}, QDir::Files, QDir::Name), expected);
+}
+
+void TestCatalogues::theSourcesUseAllTextsAndNoOthers()
+{
+    QSet<QString> known;
+    for (auto each = catalogueFolders.keyBegin(); each != catalogueFolders.keyEnd(); ++each) {
+        const Catalogue catalogue = english(*each);
+        for (const CatalogueText &text : catalogue.texts)
+            known << text.id;
+    }
+    const QSet<QString> used = usedTexts();
+    QCOMPARE((used - known).values().join(' '), QString());
+    QCOMPARE((known - used).values().join(' '), QString());
+}
+
+void TestCatalogues::allTextsAreThere()
+{
+    QFETCH(QString, catalogue);
+    QFETCH(QString, language);
+    const Catalogue expected = english(catalogue);
+    const Catalogue found = translated();
+    QVERIFY2(found.error.isEmpty(), qPrintable(found.error));
+    QCOMPARE(found.language, language);
+    QCOMPARE(found.texts.size(), expected.texts.size());
+    QVERIFY(!found.texts.isEmpty());
+    for (qsizetype i = 0; i < found.texts.size(); ++i) {
+        QCOMPARE(found.texts[i].id, expected.texts[i].id);
+        QCOMPARE(found.texts[i].source, expected.texts[i].source);
+        QCOMPARE(found.texts[i].isPlural, expected.texts[i].isPlural);
+    }
+}
+
+void TestCatalogues::noTextIsUnfinished()
+{
+    const Catalogue found = translated();
+    for (const CatalogueText &text : found.texts) {
+        QVERIFY2(!text.isMarked, qPrintable(text.id));
+        for (const QString &form : text.forms) {
+            QVERIFY2(!form.isEmpty(), qPrintable(text.id));
+            QCOMPARE(form.simplified(), QString(form).replace(QChar::Nbsp, u' '));
+        }
+    }
+}
+
+void TestCatalogues::thePluralFormsAreComplete()
+{
+    QFETCH(QString, language);
+    QVERIFY(pluralForms.contains(language));
+    const Catalogue found = translated();
+    for (const CatalogueText &text : found.texts)
+        QVERIFY2(text.forms.size() == (text.isPlural ? pluralForms[language] : 1), qPrintable(text.id));
+}
+
+void TestCatalogues::thePlaceholdersAreKept()
+{
+    const Catalogue found = translated();
+    for (const CatalogueText &text : found.texts) {
+        const QStringList expected = placeholders(text.source);
+        for (const QString &form : text.forms) {
+            QStringList kept = placeholders(form);
+            // A form for one count alone may have it in words: "two alarms".
+            if (text.isPlural && !kept.contains("n"))
+                kept.prepend("n");
+            QVERIFY2(kept == expected, qPrintable(text.id + ": " + form));
+        }
+    }
+}
+
+void TestCatalogues::eachCountHasATextOfItsOwn()
+{
+    QFETCH(QString, catalogue);
+    QFETCH(QString, language);
+    QTranslator translator;
+    QVERIFY(translator.load(QStringLiteral(":/translations/%1_%2.qm").arg(catalogue, language)));
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const Catalogue found = translated();
+    for (const CatalogueText &text : found.texts) {
+        QSet<QString> told;
+        for (int count = 1; text.isPlural && count <= 200; ++count) {
+            const QString shown = qtTrId(text.id.toUtf8(), count);
+            QVERIFY2(!told.contains(shown) && !shown.contains(u'%') && shown != text.id, qPrintable(shown));
+            told << shown;
+        }
+    }
+}
+
+void TestCatalogues::noTextIsLeftInEnglish()
+{
+    QFETCH(QString, catalogue);
+    QFETCH(QString, language);
+    if (language == u"en")
+        return;
+    const Catalogue original = english(catalogue);
+    const Catalogue found = translated();
+    QStringList left;
+    for (qsizetype i = 0; i < found.texts.size(); ++i) {
+        const CatalogueText &text = found.texts[i];
+        const bool maySay = sameAnywhere.contains(text.id) || sameAsEnglish[text.id].contains(language);
+        if (text.forms.first() == original.texts[i].forms.first() && !maySay)
+            left << text.id;
+    }
+    QCOMPARE(left.join(' '), QString());
+}
+
+void TestCatalogues::theMorningIsCalledAsInTimes_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : builtLanguages())
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void TestCatalogues::theMorningIsCalledAsInTimes()
+{
+    QFETCH(QString, language);
+    Touch::Locale locale(language);
+    QVERIFY(locale.installTrCatalog("clock"));
+    Touch::Locale::setDefault(locale);
+    const QDateTime morning(QDate(2026, 1, 1), QTime(8, 0), Qt::UTC);
+    QCOMPARE(qtTrId("qtn_comm_time_am"), locale.formatDateTime(morning, "%p"));
+}
+
+QTEST_GUILESS_MAIN(TestCatalogues)
+#include "tst_catalogues.moc"
