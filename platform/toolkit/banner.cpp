@@ -42,6 +42,8 @@ void Banner::setTitle(const QString &title)
     if (m_label->text() == title)
         return;
     m_label->setText(title);
+    // Its size is asked for before the layout tells of the change.
+    updateGeometry();
     if (!isOnDisplay())
         return;
     setGeometry(placement(scene()->sceneRect().size()));

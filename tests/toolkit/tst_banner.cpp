@@ -24,6 +24,7 @@ private slots:
     void goesAtATap();
     void takesNeitherFocusNorBackStep();
     void fitsItsTitle();
+    void fitsTheNextTitle();
     void showsTheNextTextAtOnce();
     void isAnAlertForThoseWhoDoNotSeeIt();
 
@@ -114,6 +115,19 @@ void TestBanner::fitsItsTitle()
     QVERIFY(banner.size().width() <= m_page->size().width());
     QCOMPARE(banner.geometry().bottom(), small.bottom());
     QVERIFY(qAbs(banner.geometry().center().x() - m_page->size().width() / 2) <= 1);
+}
+
+void TestBanner::fitsTheNextTitle()
+{
+    Banner banner;
+    banner.setTitle(QStringLiteral("Short"));
+    banner.appear(m_window);
+    const QRectF small = banner.geometry();
+    banner.disappear();
+    banner.setTitle(QStringLiteral("Longer, but one line"));
+    banner.appear(m_window);
+    QVERIFY(banner.size().width() > small.width());
+    QCOMPARE(banner.size().height(), small.height());
 }
 
 void TestBanner::showsTheNextTextAtOnce()
