@@ -63,6 +63,8 @@ void AlarmEditorListItem::placeTitleAndSubtitle()
     m_grid->addItem(titleLabel(), 0, 0, 1, 1, Qt::AlignLeft | Qt::AlignVCenter);
     subtitleLabel()->setStyleName("CommonTitleBottom");
     subtitleLabel()->setObjectName("AlarmOptionSubTitle");
+    // The days of a week do not fit on one line in every language.
+    subtitleLabel()->setWordWrap(true);
     m_grid->addItem(subtitleLabel(), 1, 0, 1, 1, Qt::AlignLeft | Qt::AlignVCenter);
     // Takes what is left of the height beside the image, also below an empty subtitle.
     m_grid->addItem(new Touch::Widget(this), 2, 0);

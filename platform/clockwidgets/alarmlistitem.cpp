@@ -18,6 +18,8 @@ using Touch::Locale;
 namespace {
 
 constexpr qreal lineGap = 2;
+/** How small, as a share of its size, the repeat text gets to fit. */
+constexpr qreal smallestShare = 0.75;
 /** With larger text than that, what the alarm is called stands below its time. */
 constexpr qreal largestScaleInLine = 1.25;
 
@@ -190,6 +192,43 @@ QSizeF AlarmListItem::sizeHint(Qt::SizeHint which, const QSizeF &constraint) con
     return size;
 }
 
+// What the alarm is called and how it repeats, between the time and the switch or below the time.
+QRectF AlarmListItem::textsRect() const
+{
+    const qreal spacing = style().spacing;
+    QRectF texts = rect().marginsRemoved(style().padding);
+    texts.setRight(texts.right() - m_switch->size().width() - spacing);
+    if (isStacked())
+        texts.setTop(texts.top() + lineHeight("Time"));
+    else
+        texts.setLeft(texts.left() + timeWidth() + spacing);
+    return texts;
+}
+
+QSizeF AlarmListItem::repeatRoom() const
+{
+    const QRectF texts = textsRect();
+    const qreal above = m_subTitle.isEmpty() ? 0 : lineHeight("Title") + lineGap;
+    return {texts.width(), texts.height() - above};
+}
+
+// Rather on two lines, and rather smaller, than cut off.
+Touch::Style AlarmListItem::repeatStyle() const
+{
+    Touch::Style style = *partStyle(*this, QStringLiteral("AlarmItemRepeat"));
+    const QSizeF room = repeatRoom();
+    const int smallest = qRound(smallestShare * style.pixelSize);
+    while (style.pixelSize > smallest && wrappedHeight(style, m_subText, room.width()) > room.height())
+        --style.pixelSize;
+    return style;
+}
+
+bool AlarmListItem::showsWholeSubText() const
+{
+    const QSizeF room = repeatRoom();
+    return m_itemStyle == OneLine || wrappedHeight(repeatStyle(), m_subText, room.width()) <= room.height();
+}
+
 void AlarmListItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     const Touch::Style &look = style();
@@ -197,16 +236,11 @@ void AlarmListItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, Q
     painter->save();
     painter->setLayoutDirection(layoutDirection());
     const QRectF content = rect().marginsRemoved(look.padding);
-    const qreal textsRight = content.right() - m_switch->size().width() - look.spacing;
     QRectF time(content.left(), content.top(), timeWidth(), content.height());
-    QRectF texts(time.right() + look.spacing, content.top(), 0, content.height());
-    if (isStacked()) {
+    if (isStacked())
         time.setHeight(lineHeight("Time"));
-        texts = QRectF(content.left(), time.bottom(), 0, content.bottom() - time.bottom());
-    }
-    texts.setRight(textsRight);
     paintTime(*painter, mirrored(time));
-    paintTexts(*painter, mirrored(texts));
+    paintTexts(*painter, mirrored(textsRect()));
     painter->restore();
     paintFocusRing(painter);
 }
@@ -244,19 +278,23 @@ void AlarmListItem::paintTexts(QPainter &painter, const QRectF &rect) const
         drawPart(painter, rect, Qt::AlignLeft | Qt::AlignVCenter, *title, m_subTitle);
         return;
     }
-    const auto repeat = partStyle(*this, QStringLiteral("AlarmItemRepeat"));
+    const Touch::Style repeat = repeatStyle();
+    const QSizeF room = repeatRoom();
+    const qreal wanted = wrappedHeight(repeat, m_subText, room.width());
+    const bool isWhole = wanted <= room.height();
+    const qreal repeatHeight = isWhole ? wanted : QFontMetricsF(repeat.font()).height();
+    QRectF place = rect;
     // Without a title nothing hangs below an empty line.
-    if (m_subTitle.isEmpty()) {
-        drawPart(painter, rect, Qt::AlignLeft | Qt::AlignVCenter, *repeat, m_subText);
-        return;
+    if (!m_subTitle.isEmpty()) {
+        const qreal titleHeight = QFontMetricsF(title->font()).height();
+        place.setTop(rect.center().y() - (titleHeight + lineGap + repeatHeight) / 2);
+        place.setHeight(titleHeight);
+        drawPart(painter, place, Qt::AlignLeft | Qt::AlignVCenter, *title, m_subTitle);
+        place.moveTop(place.bottom() + lineGap);
+        place.setHeight(repeatHeight);
     }
-    const qreal titleHeight = QFontMetricsF(title->font()).height();
-    const qreal repeatHeight = QFontMetricsF(repeat->font()).height();
-    const qreal top = rect.center().y() - (titleHeight + lineGap + repeatHeight) / 2;
-    drawPart(painter, {rect.left(), top, rect.width(), titleHeight}, Qt::AlignLeft | Qt::AlignVCenter, *title,
-             m_subTitle);
-    drawPart(painter, {rect.left(), top + titleHeight + lineGap, rect.width(), repeatHeight},
-             Qt::AlignLeft | Qt::AlignVCenter, *repeat, m_subText);
+    const auto draw = isWhole ? drawWrapped : drawPart;
+    draw(painter, place, Qt::AlignLeft | Qt::AlignVCenter, repeat, m_subText);
 }
 
 QString AlarmListItem::shownText() const

@@ -36,6 +36,8 @@ public:
     /// The alarm's repeat text.
     QString subText() const { return m_subText; }
     void setSubText(const QString &text);
+    /// The repeat text is not elided: it takes more lines and smaller letters first.
+    bool showsWholeSubText() const;
     QString alarmTone() const { return m_alarmTone; }
     void setAlarmTone(const QString &path);
     bool enabled() const;
@@ -77,6 +79,9 @@ private:
     void placeSwitch();
     QRectF mirrored(const QRectF &rect) const;
     qreal timeWidth() const;
+    QRectF textsRect() const;
+    QSizeF repeatRoom() const;
+    Touch::Style repeatStyle() const;
     void paintTime(QPainter &painter, const QRectF &rect) const;
     void paintTexts(QPainter &painter, const QRectF &rect) const;
     QString partName(const char *part) const;

@@ -8,6 +8,7 @@
 #include "platform/toolkit/window.h"
 
 #include <algorithm>
+#include <limits>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QStyle>
@@ -34,12 +35,12 @@ qreal cellWidth(const QFontMetricsF &metrics, QChar c)
 }
 
 // Placed by the direction of the layout, written in its own.
-void drawLine(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, const QString &text)
+void drawText(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, Qt::TextFlag lines, const QString &text)
 {
     const Qt::LayoutDirection layout = painter.layoutDirection();
     const Qt::Alignment absolute = QStyle::visualAlignment(layout, alignment) | Qt::AlignAbsolute;
     painter.setLayoutDirection(Touch::Locale::directionForText(text));
-    painter.drawText(rect, int(absolute) | Qt::TextSingleLine, text);
+    painter.drawText(rect, int(absolute) | lines, text);
     painter.setLayoutDirection(layout);
 }
 
@@ -84,7 +85,7 @@ void drawPart(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, co
     painter.setPen(style.color);
     const QFontMetricsF metrics(style.font());
     if (!isTabular(style, text)) {
-        drawLine(painter, rect, alignment, metrics.elidedText(text, Qt::ElideRight, rect.width()));
+        drawText(painter, rect, alignment, Qt::TextSingleLine, metrics.elidedText(text, Qt::ElideRight, rect.width()));
         return;
     }
     QRectF cell(rect.center().x() - textWidth(style, text) / 2, rect.top(), 0, rect.height());
@@ -93,6 +94,20 @@ void drawPart(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, co
         painter.drawText(cell, Qt::AlignCenter | Qt::TextDontClip, QString(c));
         cell.moveLeft(cell.right());
     }
+}
+
+qreal wrappedHeight(const Style &style, const QString &text, qreal width)
+{
+    const QRectF place(0, 0, width, std::numeric_limits<short>::max());
+    return QFontMetricsF(style.font()).boundingRect(place, Qt::TextWordWrap, text).height();
+}
+
+void drawWrapped(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, const Style &style,
+                 const QString &text)
+{
+    painter.setFont(style.font());
+    painter.setPen(style.color);
+    drawText(painter, rect, alignment, Qt::TextWordWrap, text);
 }
 
 void drawBounded(QPainter &painter, const QRectF &rect, const Style &style, const QString &text, qreal largestShare)

@@ -22,6 +22,11 @@ qreal textWidth(const Touch::Style &style, const QString &text);
 /// One line in a place that does not grow with the user's size of text: no larger than a share of its height.
 void drawBounded(QPainter &painter, const QRectF &rect, const Touch::Style &style, const QString &text,
                  qreal largestShare);
+/// How high a text is that is wrapped to this width.
+qreal wrappedHeight(const Touch::Style &style, const QString &text, qreal width);
+/// As many lines as wrappedHeight() is for.
+void drawWrapped(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, const Touch::Style &style,
+                 const QString &text);
 /// One line, elided where it is too long; digits of equal width, where the style says so, are centred.
 void drawPart(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, const Touch::Style &style,
               const QString &text);
