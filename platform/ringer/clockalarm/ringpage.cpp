@@ -217,7 +217,8 @@ void RingPage::refreshTime()
 {
     const auto now = QDateTime::currentDateTime();
     if (isContentCreated()) {
-        m_date->setText(Locale::getDefault().formatDateTime(now, Locale::DateFull, Locale::TimeNone));
+        const QString pattern = Locale::getDefault().icuFormatString(QStringLiteral("MMMMEEEEd"));
+        m_date->setText(Locale::getDefault().formatDateTimeICU(now, pattern));
         m_time->setText(RingTexts::bigTime(now));
         m_half->setText(RingTexts::halfOfDay(now));
     }
