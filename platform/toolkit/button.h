@@ -22,6 +22,7 @@ class Button : public Widget
     Q_PROPERTY(QString viewType READ viewType WRITE setViewType)
     Q_PROPERTY(bool checkable READ isCheckable WRITE setCheckable)
     Q_PROPERTY(bool checked READ isChecked WRITE setChecked NOTIFY toggled)
+    Q_PROPERTY(bool showsWholeText READ showsWholeText)
 
 public:
     explicit Button(const QString &text = QString(), QGraphicsItem *parent = nullptr);

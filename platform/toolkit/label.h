@@ -17,6 +17,7 @@ class Label : public Widget
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText)
     Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
+    Q_PROPERTY(bool showsWholeText READ showsWholeText)
 
 public:
     explicit Label(const QString &text = QString(), QGraphicsItem *parent = nullptr);

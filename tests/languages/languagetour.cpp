@@ -1,0 +1,221 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/languages/languagetour.h"
+
+#include "alarmlist/notices/informationbanner.h"
+#include "alarms/qmalarmevent.h"
+#include "editor/alarmeditorlistitem.h"
+#include "editor/alarmoptionspage.h"
+#include "editor/repeatingrules.h"
+#include "editor/settingalarmpage.h"
+#include "mainview/mashuppage.h"
+#include "platform/clockwidgets/alarmlistitem.h"
+#include "platform/clockwidgets/alerttonebrowsersheet.h"
+#include "platform/toolkit/applicationwindow.h"
+#include "platform/toolkit/combobox.h"
+#include "platform/toolkit/pannableviewport.h"
+#include "platform/toolkit/textedit.h"
+#include "tests/ringer/ringscreen.h"
+#include "tests/support/alarms.h"
+#include "tests/support/look/items.h"
+
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QTest>
+
+using Touch::SceneWindow;
+
+namespace {
+
+constexpr QSize Narrow(360, 720);
+// The store of tones is made when it is first asked.
+constexpr int Patience = 30'000;
+
+/** Of this class, above all else in the window; null if something else is. */
+template <typename T>
+T *onTopOf(const Touch::Window *window)
+{
+    auto *top = qobject_cast<T *>(window->topSceneWindow());
+    return top && top->isOnDisplay() ? top : nullptr;
+}
+
+/** In the window, or in what can be panned there. */
+bool canBeReached(const QGraphicsItem *item, const QGraphicsView *window)
+{
+    for (const QGraphicsItem *above = item; above; above = above->parentItem()) {
+        const auto *viewport = qobject_cast<const Touch::PannableViewport *>(above->toGraphicsObject());
+        if (viewport && viewport->panDirection().testFlag(Qt::Vertical))
+            return viewport->widget()->rect().contains(viewport->widget()->mapRectFromItem(item, item->boundingRect()));
+    }
+    return QRectF(window->viewport()->rect()).contains(item->sceneBoundingRect());
+}
+
+/** Digits reach neither up nor down: their line is lower than one of letters. */
+bool isBigTime(const QGraphicsObject *object)
+{
+    return object->property("styleName").toString().startsWith("RingTime");
+}
+
+bool isSeen(const QGraphicsObject *object, const QGraphicsView *window)
+{
+    return (object->property("showsWholeText").toBool() || isBigTime(object)) && canBeReached(object, window);
+}
+
+} // namespace
+
+LanguageTour::LanguageTour(const QString &language, const QDir &pictures)
+    : m_language(language)
+    , m_pictures(pictures)
+    , m_window(std::make_unique<Touch::ApplicationWindow>())
+{
+    m_window->resize(Narrow);
+}
+
+LanguageTour::~LanguageTour()
+{
+    m_editor->dismiss();
+}
+
+void LanguageTour::expect(bool isThere, const QString &what)
+{
+    if (!isThere)
+        m_findings << "not there: " + what;
+}
+
+void LanguageTour::look(const QString &what)
+{
+    look(what, Touch::Window::active());
+}
+
+void LanguageTour::look(const QString &what, QGraphicsView *window)
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    const auto items = window->scene()->items();
+    for (const QGraphicsItem *item : items) {
+        const QGraphicsObject *object = item->toGraphicsObject();
+        const bool isText = object && object->isVisible() && object->property("showsWholeText").isValid();
+        if (isText && !isSeen(object, window))
+            m_findings << what + ": " + object->property("text").toString();
+        const auto *alarm = qobject_cast<const AlarmListItem *>(object);
+        if (alarm && !alarm->showsWholeSubText())
+            m_findings << what + ": " + alarm->subText();
+        const auto *field = qobject_cast<const Touch::TextEdit *>(object);
+        if (field
+            && QFontMetricsF(field->style().font()).horizontalAdvance(field->prompt()) > field->paddedRect().width())
+            m_findings << what + ": " + field->prompt();
+    }
+    const QString file = QStringLiteral("language-%1-%2.png").arg(m_language, what);
+    expect(window->grab().save(m_pictures.filePath(file)), "picture " + file);
+}
+
+void LanguageTour::visitMainPage()
+{
+    m_mainPage = std::make_unique<MashupPage>();
+    m_mainPage->appear(m_window.get());
+    m_window->show();
+    expect(QTest::qWaitForWindowExposed(m_window.get()), "window");
+    look("empty");
+    Support::addAlarm(QTime(6, 30), "06:30", {1, 2, 3, 4, 5, 6});
+    Support::addAlarm(QTime(8, 45), "08:45", {0, 6});
+    Support::addSwitchedOffAlarm(QTime(22, 0), qtTrId("qtn_cloc_alarm_title"), {0, 1, 2, 3, 4, 5, 6});
+    expect(QTest::qWaitFor([this] { return Support::countIn<AlarmListItem>(m_mainPage.get()) == 3; }), "alarms");
+    look("main");
+}
+
+void LanguageTour::visitEditor()
+{
+    m_editor = std::make_unique<SettingAlarmPage>();
+    m_editor->loadAlarm(Clock::QmAlarmEvent::NotStored, QTime(), QString(), QString(), true, 10);
+    m_editor->appear(m_window.get());
+    look("editor-new");
+    const quint32 cookie = Support::addAlarm(QTime(7, 5), qtTrId("qtn_cloc_alarm_title"), {1, 2, 3, 4, 5, 6});
+    m_editor->loadAlarm(cookie, QTime(7, 5), qtTrId("qtn_cloc_alarm_title"), QString(), true, 10);
+    look("editor");
+}
+
+void LanguageTour::visitQuestions()
+{
+    m_editor->showResetAlarmDialog(Clock::QmAlarmEvent(m_editor->getAlarmCookie()));
+    look("question");
+    m_window->stepBack();
+    for (const char *notice : {"qtn_cloc_alarm_save_error", "qtn_cloc_alarm_delete_error"}) {
+        showInformationBanner(qtTrId(notice));
+        look("notice");
+    }
+    showInformationBanner(qtTrId("qtn_cloc_time_left_alarm").arg(qtTrId("qtn_cloc_about_days", 12)));
+    look("time-left");
+    hideInformationBanner();
+}
+
+void LanguageTour::visitOptions()
+{
+    m_editor->displayOptionsPage();
+    const auto isShown = [] { return onTopOf<AlarmOptionsPage>(Touch::Window::active()) != nullptr; };
+    if (!QTest::qWaitFor(isShown)) {
+        expect(false, "options");
+        return;
+    }
+    Touch::Window::active()->resize(Narrow);
+    const auto *tone
+        = Support::itemIn<AlarmEditorListItem>(Touch::Window::active()->topSceneWindow(), "toneBasicListItem");
+    expect(QTest::qWaitFor([tone] { return !tone->subtitle().isEmpty(); }, Patience), "name of the tone");
+    look("options");
+    visitRepeatDays();
+    visitSnoozeTimes();
+    visitTones();
+}
+
+void LanguageTour::visitRepeatDays()
+{
+    Touch::Window *window = Touch::Window::active();
+    onTopOf<AlarmOptionsPage>(window)->repeatingRulesButtonClicked();
+    expect(onTopOf<RepeatingRules>(window), "days to repeat");
+    look("repeat");
+    window->stepBack();
+}
+
+void LanguageTour::visitSnoozeTimes()
+{
+    Touch::Window *window = Touch::Window::active();
+    auto *choice = Support::itemIn<Touch::ComboBox>(onTopOf<AlarmOptionsPage>(window));
+    choice->showPopup();
+    expect(choice->isPopupOpen(), "snooze times");
+    look("snooze");
+    choice->dismissPopup();
+}
+
+void LanguageTour::visitTones()
+{
+    Touch::Window *window = Touch::Window::active();
+    onTopOf<AlarmOptionsPage>(window)->toneClicked();
+    expect(onTopOf<AlertToneBrowserSheet>(window), "tones");
+    look("tones");
+    window->stepBack();
+}
+
+void LanguageTour::visitRingScreen()
+{
+    QString reason;
+    Ringer::RingPlugin *plugin = RingScreen::load(&reason);
+    expect(plugin, reason);
+    if (!plugin)
+        return;
+    RingScreen::RecordingAnswers answers;
+    plugin->setAnswers(&answers);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *each : windows)
+        each->hide();
+    for (quint32 cookie = 1; cookie <= 3; ++cookie)
+        plugin->show(RingScreen::teaTime(cookie, 1800));
+    expect(QTest::qWaitFor([] { return RingScreen::window() != nullptr; }), "ring screen");
+    QGraphicsView *window = RingScreen::window();
+    expect(QTest::qWaitForWindowExposed(window), "ring screen in front");
+    window->resize(Narrow);
+    expect(QTest::qWaitFor([window] { return window->scene()->sceneRect().size() == Narrow; }), "narrow ring screen");
+    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    look("ring", window);
+    for (quint32 cookie = 1; cookie <= 3; ++cookie)
+        plugin->hide(cookie);
+    expect(QTest::qWaitFor([] { return RingScreen::window() == nullptr; }), "end of the ring screen");
+}
