@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "alarms/utility.h"
 #include "data/clockdata.h"
+#include "platform/ringer/texts/ringtexts.h"
 #include "platform/toolkit/application.h"
 #include "tests/languages/languagetour.h"
 #include "tests/support/alarms.h"
@@ -16,6 +16,7 @@ int main(int argc, char **argv)
 {
     initClockData();
     Touch::Application application(argc, argv, QStringLiteral("clock"));
+    RingTexts::install();
     const QStringList arguments = application.arguments();
     QTextStream output(stdout);
     if (arguments.size() != 3) {

@@ -20,6 +20,8 @@ namespace {
 const QHash<QString, QString> catalogueFolders{
     {"clock", "data/translations"},
     {"sounds", "platform/clockwidgets/translations"},
+    {"ringer", "platform/ringer/texts/translations"},
+    {"timed", "platform/timed/translations"},
 };
 
 // How many forms Qt picks from, by the count.
@@ -31,12 +33,15 @@ const QHash<QString, int> pluralForms{
 };
 
 // These may be the same in any language, ...
-const QStringList sameAnywhere{"qtn_comm_ok", "qtn_comm_time_am"};
+const QStringList sameAnywhere{"qtn_comm_ok", "qtn_comm_time_am", "qtn_timed_day_and_time", "qtn_timed_missed_line"};
 // ... and these are the same word by chance.
 const QHash<QString, QStringList> sameAsEnglish{
     {"qtn_cloc_alarm_title", {"id", "pl", "sv", "tr"}},
     {"qtn_cloc_alarmeditor_snooze", {"fr"}},
     {"qtn_comm_navigation", {"de", "fr"}},
+    {"qtn_ring_untitled", {"id", "pl", "sv", "tr"}},
+    {"qtn_sond_place_downloads", {"de", "nl", "pt_BR"}},
+    {"qtn_timed_untitled", {"id", "pl", "sv", "tr"}},
 };
 
 QString path(const QString &catalogue, const QString &language)
@@ -64,8 +69,7 @@ QSet<QString> usedTexts()
 {
     static const QRegularExpression expression("\"(qtn_(?!country_)[a-z_0-9]+)\"");
     QSet<QString> used;
-    for (const char *folder :
-         {"alarms", "alarmlist", "editor", "mainview", "app", "platform/clockwidgets", "platform/toolkit"}) {
+    for (const char *folder : {"alarms", "alarmlist", "editor", "mainview", "app", "backup", "platform"}) {
         QDirIterator files(Places::source(folder), {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             QFile file(files.next());

@@ -1,0 +1,49 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Clock authors -->
+<!-- SPDX-License-Identifier: LGPL-2.1-or-later -->
+<TS version="2.1" language="pl" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="qtn_ring_window">
+        <source>Clock</source>
+        <translation>Zegar</translation>
+    </message>
+    <message id="qtn_ring_snooze_plain">
+        <source>Snooze</source>
+        <translation>Drzemka</translation>
+    </message>
+    <message id="qtn_ring_stop">
+        <source>Stop</source>
+        <translation>Zatrzymaj</translation>
+    </message>
+    <message id="qtn_ring_slide_to_stop">
+        <source>Slide to stop</source>
+        <translation>Przesuń, aby zatrzymać</translation>
+    </message>
+    <message id="qtn_ring_hold_to_stop">
+        <source>Hold to stop</source>
+        <translation>Przytrzymaj, aby zatrzymać</translation>
+    </message>
+    <message id="qtn_ring_untitled">
+        <source>Alarm</source>
+        <translation>Alarm</translation>
+    </message>
+    <message id="qtn_ring_snooze" numerus="yes">
+        <source>Snooze · %n min</source>
+        <translation>
+            <numerusform>Drzemka · %n min</numerusform>
+            <numerusform>Drzemka · %n min</numerusform>
+            <numerusform>Drzemka · %n min</numerusform>
+        </translation>
+    </message>
+    <message id="qtn_ring_more" numerus="yes">
+        <source>%n more alarm(s)</source>
+        <translation>
+            <numerusform>Jeszcze %n alarm</numerusform>
+            <numerusform>Jeszcze %n alarmy</numerusform>
+            <numerusform>Jeszcze %n alarmów</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

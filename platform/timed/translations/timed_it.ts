@@ -1,0 +1,98 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Clock authors -->
+<!-- SPDX-License-Identifier: LGPL-2.1-or-later -->
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="qtn_timed_application">
+        <source>Alarms</source>
+        <translation>Sveglie</translation>
+    </message>
+    <message id="qtn_timed_untitled">
+        <source>Alarm</source>
+        <translation>Sveglia</translation>
+    </message>
+    <message id="qtn_timed_day_and_time">
+        <source>%1, %2</source>
+        <extracomment>A day, such as Fri, Nov 20, and a time of day</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="qtn_timed_snoozed">
+        <source>Snoozed, rings again at %1.</source>
+        <extracomment>%1 is a time of day</extracomment>
+        <translation>Posticipata, suona di nuovo alle %1.</translation>
+    </message>
+    <message id="qtn_timed_stop">
+        <source>Stop</source>
+        <translation>Interrompi</translation>
+    </message>
+    <message id="qtn_timed_stopped">
+        <source>Stopped.</source>
+        <translation>Interrotta.</translation>
+    </message>
+    <message id="qtn_timed_ring_again" numerus="yes">
+        <source>Ring again in %n minute(s)</source>
+        <translation>
+            <numerusform>Suona di nuovo tra %n minuto</numerusform>
+            <numerusform>Suona di nuovo tra %n minuti</numerusform>
+        </translation>
+    </message>
+    <message id="qtn_timed_missed" numerus="yes">
+        <source>%n missed alarm(s)</source>
+        <translation>
+            <numerusform>Sveglia persa</numerusform>
+            <numerusform>%n sveglie perse</numerusform>
+        </translation>
+    </message>
+    <message id="qtn_timed_missed_line">
+        <source>%1 (%2): %3</source>
+        <extracomment>The title of an alarm, the day and the time at which it should have rung, and why it did not</extracomment>
+        <translation>%1 (%2): %3</translation>
+    </message>
+    <message id="qtn_timed_missed_off">
+        <source>the device was off</source>
+        <translation>il dispositivo era spento</translation>
+    </message>
+    <message id="qtn_timed_missed_slept">
+        <source>the device did not wake up in time</source>
+        <translation>il dispositivo non si è riattivato in tempo</translation>
+    </message>
+    <message id="qtn_timed_missed_clock_set">
+        <source>the clock was set to a later time</source>
+        <translation>l’orologio è stato spostato in avanti</translation>
+    </message>
+    <message id="qtn_timed_missed_late">
+        <source>the device was not ready in time</source>
+        <translation>il dispositivo non era pronto in tempo</translation>
+    </message>
+    <message id="qtn_timed_missed_unanswered">
+        <source>it rang, but nobody answered</source>
+        <translation>ha suonato, ma nessuno ha risposto</translation>
+    </message>
+    <message id="qtn_timed_missed_more" numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>e un’altra</numerusform>
+            <numerusform>e altre %n</numerusform>
+        </translation>
+    </message>
+    <message id="qtn_timed_ring_now">
+        <source>Ring now</source>
+        <translation>Suona ora</translation>
+    </message>
+    <message id="qtn_timed_ring_title_now">
+        <source>Ring now: %1</source>
+        <extracomment>%1 is the title of an alarm</extracomment>
+        <translation>Suona ora: %1</translation>
+    </message>
+    <message id="qtn_timed_restored">
+        <source>Alarms were restored</source>
+        <translation>Sveglie ripristinate</translation>
+    </message>
+    <message id="qtn_timed_restored_why">
+        <source>The file of the alarms was damaged. An earlier copy took its place: the latest changes may be missing, please look through your alarms.</source>
+        <translation>Il file delle sveglie era danneggiato. Al suo posto c’è una copia precedente: potrebbero mancare le ultime modifiche, controlla le tue sveglie.</translation>
+    </message>
+</context>
+</TS>

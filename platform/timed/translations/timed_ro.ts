@@ -1,0 +1,101 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Clock authors -->
+<!-- SPDX-License-Identifier: LGPL-2.1-or-later -->
+<TS version="2.1" language="ro" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="qtn_timed_application">
+        <source>Alarms</source>
+        <translation>Alarme</translation>
+    </message>
+    <message id="qtn_timed_untitled">
+        <source>Alarm</source>
+        <translation>Alarmă</translation>
+    </message>
+    <message id="qtn_timed_day_and_time">
+        <source>%1, %2</source>
+        <extracomment>A day, such as Fri, Nov 20, and a time of day</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="qtn_timed_snoozed">
+        <source>Snoozed, rings again at %1.</source>
+        <extracomment>%1 is a time of day</extracomment>
+        <translation>Amânată, sună din nou la %1.</translation>
+    </message>
+    <message id="qtn_timed_stop">
+        <source>Stop</source>
+        <translation>Opriți</translation>
+    </message>
+    <message id="qtn_timed_stopped">
+        <source>Stopped.</source>
+        <translation>Oprită.</translation>
+    </message>
+    <message id="qtn_timed_ring_again" numerus="yes">
+        <source>Ring again in %n minute(s)</source>
+        <translation>
+            <numerusform>Sună din nou peste %n minut</numerusform>
+            <numerusform>Sună din nou peste %n minute</numerusform>
+            <numerusform>Sună din nou peste %n de minute</numerusform>
+        </translation>
+    </message>
+    <message id="qtn_timed_missed" numerus="yes">
+        <source>%n missed alarm(s)</source>
+        <translation>
+            <numerusform>Alarmă ratată</numerusform>
+            <numerusform>%n alarme ratate</numerusform>
+            <numerusform>%n de alarme ratate</numerusform>
+        </translation>
+    </message>
+    <message id="qtn_timed_missed_line">
+        <source>%1 (%2): %3</source>
+        <extracomment>The title of an alarm, the day and the time at which it should have rung, and why it did not</extracomment>
+        <translation>%1 (%2): %3</translation>
+    </message>
+    <message id="qtn_timed_missed_off">
+        <source>the device was off</source>
+        <translation>dispozitivul era oprit</translation>
+    </message>
+    <message id="qtn_timed_missed_slept">
+        <source>the device did not wake up in time</source>
+        <translation>dispozitivul nu s-a trezit la timp</translation>
+    </message>
+    <message id="qtn_timed_missed_clock_set">
+        <source>the clock was set to a later time</source>
+        <translation>ceasul a fost dat înainte</translation>
+    </message>
+    <message id="qtn_timed_missed_late">
+        <source>the device was not ready in time</source>
+        <translation>dispozitivul nu a fost gata la timp</translation>
+    </message>
+    <message id="qtn_timed_missed_unanswered">
+        <source>it rang, but nobody answered</source>
+        <translation>a sunat, dar nu a răspuns nimeni</translation>
+    </message>
+    <message id="qtn_timed_missed_more" numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>și încă %n</numerusform>
+            <numerusform>și încă %n</numerusform>
+            <numerusform>și încă %n</numerusform>
+        </translation>
+    </message>
+    <message id="qtn_timed_ring_now">
+        <source>Ring now</source>
+        <translation>Sună acum</translation>
+    </message>
+    <message id="qtn_timed_ring_title_now">
+        <source>Ring now: %1</source>
+        <extracomment>%1 is the title of an alarm</extracomment>
+        <translation>Sună acum: %1</translation>
+    </message>
+    <message id="qtn_timed_restored">
+        <source>Alarms were restored</source>
+        <translation>Alarmele au fost restaurate</translation>
+    </message>
+    <message id="qtn_timed_restored_why">
+        <source>The file of the alarms was damaged. An earlier copy took its place: the latest changes may be missing, please look through your alarms.</source>
+        <translation>Fișierul alarmelor era deteriorat. Locul lui a fost luat de o copie anterioară: pot lipsi ultimele modificări, verificați-vă alarmele.</translation>
+    </message>
+</context>
+</TS>
