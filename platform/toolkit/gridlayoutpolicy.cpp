@@ -44,6 +44,15 @@ void GridLayoutPolicy::addItem(QGraphicsLayoutItem *item, int row, int column, i
     adopt(item);
 }
 
+GridLayoutPolicy::Cell GridLayoutPolicy::cellOf(const QGraphicsLayoutItem *item) const
+{
+    const auto entry
+        = std::find_if(m_entries.begin(), m_entries.end(), [item](const Entry &e) { return e.item == item; });
+    if (entry == m_entries.end())
+        return {};
+    return {entry->rows.first, entry->columns.first, entry->rows.count, entry->columns.count, entry->alignment};
+}
+
 void GridLayoutPolicy::setRowStretchFactor(int row, int stretch)
 {
     m_rowStretch[row] = stretch;

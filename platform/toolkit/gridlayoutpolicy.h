@@ -15,11 +15,24 @@ struct Segment;
 class GridLayoutPolicy : public AbstractLayoutPolicy
 {
 public:
+    /** What an item was put over. */
+    struct Cell
+    {
+        int row = -1;
+        int column = -1;
+        int rowSpan = 0;
+        int columnSpan = 0;
+        Qt::Alignment alignment;
+        bool operator==(const Cell &) const = default;
+    };
+
     explicit GridLayoutPolicy(Layout *layout);
     ~GridLayoutPolicy() override;
 
     void addItem(QGraphicsLayoutItem *item, int row, int column, int rowSpan = 1, int columnSpan = 1,
                  Qt::Alignment alignment = {});
+    /** The row is -1 for an item that is not held. */
+    Cell cellOf(const QGraphicsLayoutItem *item) const;
     void setRowStretchFactor(int row, int stretch);
     void setColumnStretchFactor(int column, int stretch);
 

@@ -42,6 +42,7 @@ private slots:
     void placesAColumnWithAStretch();
     void mirrorsARow();
     void fillsAGridWithSpans();
+    void aGridTellsTheCellOfAnItem();
     void addsMarginsAndSpacingToItsHints();
     void takesMarginsAndSpacingFromItsStyle();
     void keepsTheStylePaddingOfItsWidget();
@@ -167,6 +168,17 @@ void TestLayout::fillsAGridWithSpans()
     QCOMPARE(wide->geometry(), QRectF(0, 0, 100, 10));
     QCOMPARE(label->geometry(), QRectF(0, 14, 66, 50));
     QCOMPARE(button->geometry(), QRectF(70, 29, 30, 20));
+}
+
+void TestLayout::aGridTellsTheCellOfAnItem()
+{
+    QGraphicsWidget widget;
+    auto *grid = new GridLayoutPolicy(new Layout(&widget));
+    auto *item = new Stub({10, 10});
+    grid->addItem(item, 2, 1, 3, 4, Qt::AlignLeft | Qt::AlignVCenter);
+    QCOMPARE(grid->cellOf(item), (GridLayoutPolicy::Cell{2, 1, 3, 4, Qt::AlignLeft | Qt::AlignVCenter}));
+    grid->removeItem(item);
+    QCOMPARE(grid->cellOf(item).row, -1);
 }
 
 void TestLayout::addsMarginsAndSpacingToItsHints()
