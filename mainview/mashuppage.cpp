@@ -74,11 +74,24 @@ Touch::PannableViewport *MashupPage::createAlarmList()
     return viewport;
 }
 
+Touch::Separator *MashupPage::createDivider()
+{
+    auto *divider = new Touch::Separator;
+    divider->setStyleName("ClockItemDivider");
+    divider->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    // Fixed as it is, it would keep its width in a wider window and not let the content become narrower.
+    const auto followWidth = [this, divider] {
+        const QMarginsF margins = divider->style().margins;
+        divider->setPreferredWidth(paddedRect().width() - margins.left() - margins.right());
+    };
+    connect(this, &QGraphicsWidget::widthChanged, divider, followWidth);
+    followWidth();
+    return divider;
+}
+
 void MashupPage::arrange(Touch::Layout *layout, Touch::PannableViewport *viewport)
 {
-    m_divider = new Touch::Separator;
-    m_divider->setStyleName("ClockItemDivider");
-    m_divider->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    Touch::Separator *divider = createDivider();
 
     LinearLayoutPolicy *landscape = arrangement(layout, Qt::Horizontal);
     landscape->setSpacing(0);
@@ -89,7 +102,7 @@ void MashupPage::arrange(Touch::Layout *layout, Touch::PannableViewport *viewpor
     LinearLayoutPolicy *portrait = arrangement(layout, Qt::Vertical);
     portrait->addItem(m_clockFace);
     portrait->addItem(m_dropShadow);
-    portrait->addItem(m_divider);
+    portrait->addItem(divider);
     portrait->addItem(viewport);
     layout->setPortraitPolicy(portrait);
 }
@@ -101,16 +114,6 @@ void MashupPage::followDaemonSettings()
         = m_timed->settings_changed_connect(this, SLOT(timeChanged(const Astel::Timed::WallClock::Info &, bool)));
     if (!isConnected)
         qDebug() << "[MashupPage] Unable to connect Astel::Timed::setting_changed signal";
-}
-
-void MashupPage::resizeEvent(QGraphicsSceneResizeEvent *event)
-{
-    // Fixed as it is, it would keep its width in a wider window.
-    if (m_divider) {
-        const QMarginsF margins = m_divider->style().margins;
-        m_divider->setPreferredWidth(paddedRect().width() - margins.left() - margins.right());
-    }
-    Touch::ApplicationPage::resizeEvent(event);
 }
 
 void MashupPage::resetContent()

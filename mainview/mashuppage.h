@@ -38,18 +38,15 @@ public:
 public slots:
     void timeChanged(const Astel::Timed::WallClock::Info &info, bool timechanged);
 
-protected:
-    void resizeEvent(QGraphicsSceneResizeEvent *event) override;
-
 private:
     void installCatalogues();
     Touch::PannableViewport *createAlarmList();
+    Touch::Separator *createDivider();
     void arrange(Touch::Layout *layout, Touch::PannableViewport *viewport);
     void followDaemonSettings();
 
     WorldClock *m_clockFace = nullptr;
     AlarmsWidget *m_alarmList = nullptr;
     Touch::Separator *m_dropShadow = nullptr;
-    Touch::Separator *m_divider = nullptr;
     Astel::Timed::Interface *m_timed = nullptr;
 };

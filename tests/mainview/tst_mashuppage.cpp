@@ -8,6 +8,8 @@
 #include "platform/timedclient/wire.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/banner.h"
+#include "platform/toolkit/layout.h"
+#include "platform/toolkit/linearlayoutpolicy.h"
 #include "platform/toolkit/pannableviewport.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/look/items.h"
@@ -33,6 +35,8 @@ private slots:
     void aNewPageHasNoContentAndNoChrome();
     void itsCataloguesAreInstalledSoundsAfterCountries();
     void contentIsCreatedOnceWhenItAppears();
+    void eachArrangementHoldsItsItemsWithoutMargins();
+    void theAlarmsTakeTheRoomThatIsLeft();
     void inPortraitTheClockStandsAboveTheAlarms();
     void theDividerFollowsTheWidth();
     void theShadowFadesDownwards();
@@ -84,6 +88,8 @@ void TestMashupPage::aNewPageHasNoContentAndNoChrome()
 {
     QCOMPARE(m_page->title(), "qtn_cloc_title");
     QCOMPARE(m_page->styleName(), "MainPage");
+    QVERIFY(!m_page->isPannable());
+    QVERIFY(!m_page->parentItem());
     QVERIFY(!m_page->isContentCreated());
     QVERIFY(!Support::itemIn<WorldClock>(m_page.get()));
     for (const auto component :
@@ -109,6 +115,36 @@ void TestMashupPage::contentIsCreatedOnceWhenItAppears()
     m_page->appear(m_window.get());
     QCOMPARE(Support::countIn<WorldClock>(m_page.get()), 1);
     QCOMPARE(Support::countIn<AlarmsWidget>(m_page.get()), 1);
+}
+
+void TestMashupPage::eachArrangementHoldsItsItemsWithoutMargins()
+{
+    m_page->appear(m_window.get());
+    using Items = QList<QGraphicsLayoutItem *>;
+    auto *clock = Support::itemIn<WorldClock>(m_page.get());
+    auto *viewport = Support::itemIn<Touch::PannableViewport>(m_page.get());
+    const auto *layout = static_cast<Touch::Layout *>(m_page->centralWidget()->layout());
+    const Touch::AbstractLayoutPolicy *landscape = layout->landscapePolicy();
+    const Touch::AbstractLayoutPolicy *portrait = layout->portraitPolicy();
+    QCOMPARE(landscape->items(), (Items{clock, viewport}));
+    QCOMPARE(portrait->items(), (Items{clock, separator("DropShadow"), separator("ClockItemDivider"), viewport}));
+    for (const Touch::AbstractLayoutPolicy *policy : {landscape, portrait}) {
+        QVERIFY(dynamic_cast<const Touch::LinearLayoutPolicy *>(policy));
+        QCOMPARE(policy->styleName(), "ClockMainViewLayout");
+        QCOMPARE(policy->contentsMargins(), QMarginsF());
+    }
+    QCOMPARE(landscape->spacing(), 0.0);
+    QCOMPARE(clock->parentItem(), m_page->centralWidget());
+}
+
+void TestMashupPage::theAlarmsTakeTheRoomThatIsLeft()
+{
+    m_page->appear(m_window.get());
+    const auto *viewport = Support::itemIn<Touch::PannableViewport>(m_page.get());
+    auto *alarms = Support::itemIn<AlarmsWidget>(m_page.get());
+    QCOMPARE(viewport->widget(), alarms);
+    QCOMPARE(alarms->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding));
+    QCOMPARE(separator("ClockItemDivider")->sizePolicy(), QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed));
 }
 
 void TestMashupPage::inPortraitTheClockStandsAboveTheAlarms()
