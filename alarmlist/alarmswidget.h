@@ -89,6 +89,7 @@ private:
     bool m_justEnabled = false;        ///< the next change is that of an alarm switched on here
     bool m_brokenAlarmPending = false; ///< it was switched off again and waits for the editor
     QPointer<AlarmListItem> m_switchedItem;
+    long m_switchedCookie = -1; ///< what it was of then, and has become by other switches since
 
     // Built once.
     Touch::Widget *m_headerPanel = nullptr;

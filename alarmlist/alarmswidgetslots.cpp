@@ -102,7 +102,7 @@ void AlarmsWidget::fixTheBrokenAlarm()
 
 AlarmListItem *AlarmsWidget::switchedItem() const
 {
-    return m_switchedItem && m_switchedItem->alarmCookie() == m_lastCookie ? m_switchedItem.data() : nullptr;
+    return m_switchedItem && m_switchedItem->alarmCookie() == m_switchedCookie ? m_switchedItem.data() : nullptr;
 }
 
 void AlarmsWidget::alarmStateChanged()
@@ -137,6 +137,8 @@ void AlarmsWidget::invertAlarmState(AlarmListItem *listItem)
         m_switchedItem = listItem;
         m_justEnabled = true;
     }
+    if (record.isEnabled() || m_switchedCookie == long(cookie))
+        m_switchedCookie = m_lastCookie;
     if (rows.size() == 1) {
         setColumn(rows.first().row(), "AlarmStatus", statusText(record.isEnabled()));
         setColumn(rows.first().row(), "AlarmCookie", QStringLiteral("%1").arg(newCookie));

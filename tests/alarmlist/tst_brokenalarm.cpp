@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "alarms/qmalarmevent.h"
+#include "alarms/utility.h"
 #include "editor/settingalarmpage.h"
 #include "platform/clockwidgets/alarmlistitem.h"
 #include "platform/clockwidgets/timepicker.h"
@@ -13,7 +14,10 @@
 
 #include <QTest>
 
+#include <utility>
+
 using Clock::QmAlarmEvent;
+using Clock::Utility;
 using Support::addSwitchedOffAlarm;
 
 /** Alarms at a time that the coming change to summer time skips, switched on from the list. */
@@ -28,6 +32,7 @@ private slots:
     void itIsSwitchedOffAgainAndTheDialogOpens();
     void everyNotificationDoesOneStep();
     void anAlarmBesideTheGapIsNotTouched();
+    void whereItCannotBeSwitchedOffAgainTheDialogOpensAllTheSame();
 
 private:
     Touch::MessageBox *dialog() const;
@@ -51,7 +56,13 @@ void TestBrokenAlarm::cleanup()
 
 Touch::MessageBox *TestBrokenAlarm::dialog() const
 {
-    return qobject_cast<Touch::MessageBox *>(m_section.window()->topSceneWindow());
+    // A banner may lie above it.
+    const auto sceneWindows = m_section.window()->sceneWindows();
+    for (Touch::SceneWindow *sceneWindow : sceneWindows) {
+        if (auto *box = qobject_cast<Touch::MessageBox *>(sceneWindow))
+            return box;
+    }
+    return nullptr;
 }
 
 void TestBrokenAlarm::itIsSwitchedOffAgainAndTheDialogOpens()
@@ -100,6 +111,30 @@ void TestBrokenAlarm::anAlarmBesideTheGapIsNotTouched()
     QTRY_VERIFY(m_section.shownBanner().startsWith("qtn_cloc_time_left_alarm"));
     QCOMPARE(m_section.column(3), QStringList{"1"});
     QVERIFY(!dialog());
+}
+
+void TestBrokenAlarm::whereItCannotBeSwitchedOffAgainTheDialogOpensAllTheSame()
+{
+    // Heard before the section, the daemon's answer to the switch is the last that is heard of it.
+    bool isLast = false;
+    const auto end = connect(Utility::instance(), &Utility::valueChanged, this, [this, &isLast] {
+        if (std::exchange(isLast, false))
+            m_section.daemon().kill();
+    });
+    addSwitchedOffAlarm(m_skipped);
+    m_section.openAtOnce();
+    QTRY_VERIFY(m_section.cell(0));
+    isLast = true;
+    AlarmSection::flip(m_section.cell(0));
+    QTRY_COMPARE(m_section.shownBanner(), "qtn_cloc_alarm_save_error");
+    QVERIFY(disconnect(end));
+    QCOMPARE(m_section.column(3), QStringList{"1"});
+    QVERIFY(!dialog());
+    QVERIFY(m_section.daemon().start());
+    QTRY_VERIFY(dialog());
+    const quint32 cookie = m_section.column(0).first().toUInt();
+    QCOMPARE(SettingAlarmPage::instance()->getAlarmCookie(), cookie);
+    QVERIFY(QmAlarmEvent(cookie).isEnabled());
 }
 
 QTEST_MAIN(TestBrokenAlarm)
