@@ -45,9 +45,13 @@ void registerBackup(QDBusConnection &bus, ClockBackup *participant)
 
 int runClock(int &argc, char **argv)
 {
+    return runClock(argc, argv, new ClockApplicationService);
+}
+
+int runClock(int &argc, char **argv, ClockApplicationService *service)
+{
     initClockData();
-    Touch::Application *application
-        = Touch::ComponentCache::mApplication(argc, argv, "clock", new ClockApplicationService);
+    Touch::Application *application = Touch::ComponentCache::mApplication(argc, argv, "clock", service);
     openMainPage();
 
     ClockBackup participant;

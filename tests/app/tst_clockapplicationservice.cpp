@@ -16,6 +16,7 @@ private slots:
     void initTestCase() { QVERIFY(m_bus.isRunning()); }
     void itsLifeIsLogged();
     void itBearsTheApplicationsName();
+    void allButTheLaunchIsThatOfTheBase();
     void aLaunchBeforeThePageExistsOnlyRunsTheBase();
 
 private:
@@ -36,6 +37,14 @@ void TestClockApplicationService::itBearsTheApplicationsName()
     ClockApplicationService service;
     QVERIFY(service.registerService());
     QCOMPARE(service.registeredName(), "com.korvo.clock");
+}
+
+void TestClockApplicationService::allButTheLaunchIsThatOfTheBase()
+{
+    const ClockApplicationService service;
+    QVERIFY(!service.parent());
+    // No signals, slots or properties of its own.
+    QCOMPARE(service.metaObject(), &Touch::ApplicationService::staticMetaObject);
 }
 
 void TestClockApplicationService::aLaunchBeforeThePageExistsOnlyRunsTheBase()

@@ -8,6 +8,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QMetaMethod>
+#include <QSignalSpy>
 #include <QTest>
 #include <QXmlStreamReader>
 
@@ -29,6 +30,7 @@ private slots:
     void introspectionShowsTheFourMethods();
     void theParticipantItselfIsNotExported();
     void theSlotsStandInTheirOrder();
+    void theParticipantDeclaresItsSignalAndNeverEmitsIt();
 
 private:
     QDBusMessage call(const QString &interface, const QString &method);
@@ -110,6 +112,22 @@ void TestClockBackup::theSlotsStandInTheirOrder()
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
         slotNames.append(meta.method(i).name());
     QCOMPARE(slotNames, (QByteArrayList{"backupFinished", "backupStarts", "restoreFinished", "restoreStarts"}));
+}
+
+void TestClockBackup::theParticipantDeclaresItsSignalAndNeverEmitsIt()
+{
+    const QMetaObject &meta = ClockBackup::staticMetaObject;
+    QCOMPARE(meta.className(), "ClockBackup");
+    QByteArrayList methods;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        methods.append(meta.method(i).methodSignature());
+    QCOMPARE(
+        methods,
+        (QByteArrayList{"shouldQuit()", "backupStarts()", "backupFinished()", "restoreStarts()", "restoreFinished()"}));
+    const QSignalSpy asked(&m_participant, &ClockBackup::shouldQuit);
+    for (const char *method : {"backupStarts", "backupFinished", "restoreStarts", "restoreFinished"})
+        QCOMPARE(call("com.korvo.backupclient", method).type(), QDBusMessage::ReplyMessage);
+    QCOMPARE(asked.size(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestClockBackup)

@@ -18,10 +18,10 @@ constexpr auto BackupService = "com.korvo.clock.Backup";
 class Program
 {
 public:
-    bool start()
+    bool start(const QString &name = "clock")
     {
         m_process.setProcessChannelMode(QProcess::MergedChannels);
-        m_process.start(Places::program("clock"), QStringList());
+        m_process.start(Places::program(name), QStringList());
         return m_process.waitForStarted();
     }
     ~Program()
@@ -64,6 +64,17 @@ bool request(const QString &method, const QVariantList &arguments = {})
     return QDBusConnection::sessionBus().call(message).type() == QDBusMessage::ReplyMessage;
 }
 
+/** What a user who asks at the command line is told, with its white space made even. */
+QString gdbus(const QStringList &arguments)
+{
+    QProcess process;
+    process.start("gdbus",
+                  arguments.mid(0, 1) + QStringList{"--session", "--dest", BackupService, "--object-path"}
+                      + arguments.mid(1));
+    process.waitForFinished();
+    return QString::fromUtf8(process.readAllStandardOutput()).simplified();
+}
+
 } // namespace
 
 class TestStartup : public QObject
@@ -76,10 +87,12 @@ private slots:
     void everythingStartsAndEndsInItsOrder();
     void theBackupParticipantAnswers_data();
     void theBackupParticipantAnswers();
+    void theBackupParticipantIsKnownToOtherPrograms();
     void aLaunchRequestResetsThePage();
     void aLaunchWithArgumentsDoesNotReset();
     void aSecondProcessHandsOverAndEnds();
     void aTakenBackupNameIsOnlyLogged();
+    void aProcessThatRunsBesideTheFirstShowsItsWindow();
 
 private:
     Support::PrivateBus m_bus;
@@ -133,6 +146,24 @@ void TestStartup::theBackupParticipantAnswers()
     // It runs on, and has not touched its alarms.
     const QStringList lines = program.lines();
     QVERIFY(lines.mid(lines.indexOf(method)).filter("AlarmsWidget").isEmpty());
+    QVERIFY(request("exit"));
+    QCOMPARE(program.status(), 0);
+}
+
+void TestStartup::theBackupParticipantIsKnownToOtherPrograms()
+{
+    Program program;
+    QVERIFY(program.start());
+    QVERIFY(Support::PrivateBus::waitForService(BackupService));
+    const QString interface("interface com.korvo.backupclient { methods: backupStarts(out y ); backupFinished(out y ); "
+                            "restoreStarts(out y ); restoreFinished(out y ); signals: properties: };");
+    const QString introspected = gdbus({"introspect", "/backupclient"});
+    QVERIFY2(introspected.contains(interface), qPrintable(introspected));
+    for (const char *method : {"backupStarts", "backupFinished", "restoreStarts", "restoreFinished"}) {
+        const QString name = QString("com.korvo.backupclient.%1").arg(method);
+        QCOMPARE(gdbus({"call", "/backupclient", "--method", name}), "(byte 0x00,)");
+        QVERIFY(program.logs(method));
+    }
     QVERIFY(request("exit"));
     QCOMPARE(program.status(), 0);
 }
@@ -192,6 +223,24 @@ void TestStartup::aTakenBackupNameIsOnlyLogged()
     QVERIFY(request("exit"));
     QCOMPARE(program.status(), 0);
     QVERIFY(QDBusConnection::sessionBus().unregisterService(BackupService));
+}
+
+void TestStartup::aProcessThatRunsBesideTheFirstShowsItsWindow()
+{
+    Program first;
+    QVERIFY(first.start());
+    QVERIFY(Support::PrivateBus::waitForService(BackupService));
+    qputenv("QT_MESSAGE_PATTERN", "%{type}: %{message}");
+    Program second;
+    QVERIFY(second.start("another-clock"));
+    qunsetenv("QT_MESSAGE_PATTERN");
+    QVERIFY(second.logs("critical: could not register dbus service"));
+    QVERIFY(second.logs("info: the window is on the screen"));
+    QVERIFY2(second.lines().filter("could not register dbus object").isEmpty(), "the path is each process's own");
+    QVERIFY(first.isRunning());
+    QVERIFY(first.lines().filter("ClockApplicationService::launch").isEmpty());
+    QVERIFY(request("exit"));
+    QCOMPARE(first.status(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestStartup)
