@@ -38,12 +38,12 @@ void scheduleTest()
 }
 Q_COREAPP_STARTUP_FUNCTION(scheduleTest)
 
-int runOuter(int argc, char **argv)
+int runOuter(int argc, char **argv, Daemon wanted)
 {
     QCoreApplication application(argc, argv);
     Support::PrivateBus bus;
     Support::TimedProcess daemon;
-    if (!bus.isRunning() || !daemon.start()) {
+    if (!bus.isRunning() || (wanted == Daemon::Running && !daemon.start())) {
         qCritical("no bus, or no daemon");
         return 1;
     }
@@ -54,10 +54,10 @@ int runOuter(int argc, char **argv)
 
 } // namespace
 
-int runInProgram(int argc, char **argv, MakeTest makeTest)
+int runInProgram(int argc, char **argv, MakeTest makeTest, Daemon daemon)
 {
     if (!qEnvironmentVariableIsSet(InnerMark))
-        return runOuter(argc, argv);
+        return runOuter(argc, argv, daemon);
     makeInnerTest = std::move(makeTest);
     return runClock(argc, argv);
 }
