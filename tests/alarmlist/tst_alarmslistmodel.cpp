@@ -35,6 +35,7 @@ private slots:
     void aSingleRowIsInsertedWithAnimation();
     void aSingleRowIsRemovedWithAnimation();
     void manyRowsAreInsertedWithoutAnimation();
+    void everyCellOfNewRowsIsEmptyAndTellsOfItsFillingOnce();
     void insertingRunsUpToTheCountItself();
     void theWholeTableIsEmptiedWithoutAnimation();
     void nothingToDoIsNotAnnounced();
@@ -175,6 +176,23 @@ void TestAlarmsListModel::manyRowsAreInsertedWithoutAnimation()
     QCOMPARE(model.columnCount(model.index(0, 0)), 7);
 }
 
+void TestAlarmsListModel::everyCellOfNewRowsIsEmptyAndTellsOfItsFillingOnce()
+{
+    AlarmsListModel model;
+    QVERIFY(model.insertRows(0, 2));
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    for (int row = 0; row < 2; ++row) {
+        for (int column = 0; column < 7; ++column) {
+            const QModelIndex cell = model.index(row, column);
+            QCOMPARE(model.data(cell), QVariant(QString("")));
+            QVERIFY(model.setData(cell, QString("%1.%2").arg(row).arg(column)));
+            QCOMPARE(changed.size(), 7 * row + column + 1);
+            QCOMPARE(changed.last().at(0).toModelIndex(), cell);
+        }
+    }
+    QCOMPARE(model.data(model.index(1, 6)), QVariant("1.6"));
+}
+
 void TestAlarmsListModel::insertingRunsUpToTheCountItself()
 {
     AlarmsListModel model;
@@ -217,6 +235,8 @@ void TestAlarmsListModel::rowOperationsLogTheirSignatures_data()
                                << "bool AlarmsListModel::removeRow(int, const QModelIndex&)";
     QTest::newRow("removeRows") << "removeRows"
                                 << "virtual bool AlarmsListModel::removeRows(int, int, const QModelIndex&)";
+    QTest::newRow("removeRows of none") << "removeRows of none"
+                                        << "virtual bool AlarmsListModel::removeRows(int, int, const QModelIndex&)";
 }
 
 void TestAlarmsListModel::rowOperationsLogTheirSignatures()
@@ -224,7 +244,8 @@ void TestAlarmsListModel::rowOperationsLogTheirSignatures()
     QFETCH(QString, operation);
     QFETCH(QString, signature);
     AlarmsListModel model;
-    fill(model, {"7"});
+    if (operation != "removeRows of none")
+        fill(model, {"7"});
     const Support::LogCapture log;
     if (operation == "insertRow")
         model.insertRow(0);

@@ -8,12 +8,28 @@
 #include "tests/support/alarms.h"
 #include "tests/support/logcapture.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 using Clock::QmAlarm;
 using Clock::QmAlarmEvent;
 using Support::addAlarm;
 using Support::addSwitchedOffAlarm;
+
+namespace {
+
+/** Which cells of the model were written, as "row.column". */
+QStringList cellsOf(const QSignalSpy &written)
+{
+    QStringList cells;
+    for (const QVariantList &change : written) {
+        const QModelIndex cell = change.first().toModelIndex();
+        cells.append(QString("%1.%2").arg(cell.row()).arg(cell.column()));
+    }
+    return cells;
+}
+
+} // namespace
 
 class TestAlarmsWidget : public QObject
 {
@@ -27,12 +43,16 @@ private slots:
     void aRowHoldsTheTextsOfItsAlarm();
     void alarmsFoundAtStartAreInsertedOneByOne();
     void anAddedAlarmMovesOneRow();
+    void anAddedAlarmRewritesNoOtherRow();
     void oneOfSeveralNewAlarmsIsAddedAtATime();
     void aChangedAlarmReloadsAllRowsPlainly();
     void aDeletedAlarmMovesOneRow();
     void deletingTheLastRowRemovesIt();
     void panningNeedsAnAlarm();
     void theHintShowsWhileThereIsNoAlarm();
+    void aReloadWritesEveryColumnOfEveryRowOnce();
+    void changesOfTheModelAreLoggedWithinTheUpdate_data();
+    void changesOfTheModelAreLoggedWithinTheUpdate();
     void resettingReadsTheAlarmsOnlyWhileVisible();
     void everyNotificationIsLogged();
     void itsEndIsLogged();
@@ -46,7 +66,7 @@ void TestAlarmsWidget::theFirstNotificationFillsTheList()
     // Nothing triggers, yet the first value of the empty map fills the list.
     addSwitchedOffAlarm(QTime(6, 0));
     m_section.openAtOnce();
-    QTRY_COMPARE(m_section.model()->rowCount(), 1);
+    QVERIFY2(m_section.model()->rowCount() == 1, "a section made later knows the triggers and waits for nothing");
     QCOMPARE(m_section.column(3), QStringList{"0"});
 }
 
@@ -86,6 +106,70 @@ void TestAlarmsWidget::anAddedAlarmMovesOneRow()
     addSwitchedOffAlarm(QTime(10, 0));
     m_section.widget()->updateContent();
     QCOMPARE(announcements.words, QStringList{"+ 4 4 animated"});
+}
+
+void TestAlarmsWidget::anAddedAlarmRewritesNoOtherRow()
+{
+    for (const int hour : {5, 7, 9})
+        addSwitchedOffAlarm(QTime(hour, 0));
+    m_section.widget()->updateContent();
+    addSwitchedOffAlarm(QTime(6, 0));
+    const QSignalSpy written(m_section.model(), &QAbstractItemModel::dataChanged);
+    m_section.widget()->updateContent();
+    QCOMPARE(cellsOf(written), (QStringList{"1.0", "1.1", "1.2", "1.3", "1.4", "1.5", "1.6"}));
+}
+
+void TestAlarmsWidget::aReloadWritesEveryColumnOfEveryRowOnce()
+{
+    addSwitchedOffAlarm(QTime(5, 0));
+    addSwitchedOffAlarm(QTime(7, 0));
+    m_section.widget()->updateContent();
+    const QSignalSpy written(m_section.model(), &QAbstractItemModel::dataChanged);
+    m_section.widget()->updateContent();
+    QCOMPARE(cellsOf(written),
+             (QStringList{"0.0", "0.1", "0.2", "0.3", "0.4", "0.5", "0.6", "1.0", "1.1", "1.2", "1.3", "1.4", "1.5",
+                          "1.6"}));
+}
+
+void TestAlarmsWidget::changesOfTheModelAreLoggedWithinTheUpdate_data()
+{
+    QTest::addColumn<int>("shown");
+    QTest::addColumn<int>("stored");
+    QTest::addColumn<QStringList>("changes");
+    const QStringList reload{"virtual bool AlarmsListModel::removeRows(int, int, const QModelIndex&)",
+                             "virtual bool AlarmsListModel::insertRows(int, int, const QModelIndex&)"};
+    const QString insert("bool AlarmsListModel::insertRow(int, const QModelIndex&)");
+    const QString remove("bool AlarmsListModel::removeRow(int, const QModelIndex&)");
+    QTest::newRow("none, as before") << 0 << 0 << reload;
+    QTest::newRow("as many as before") << 2 << 2 << reload;
+    QTest::newRow("the first ones") << 0 << 2 << QStringList{insert, insert};
+    QTest::newRow("more") << 1 << 3 << QStringList{insert};
+    QTest::newRow("fewer") << 3 << 1 << QStringList{remove};
+}
+
+void TestAlarmsWidget::changesOfTheModelAreLoggedWithinTheUpdate()
+{
+    QFETCH(int, shown);
+    QFETCH(int, stored);
+    QFETCH(QStringList, changes);
+    for (int i = 0; i < shown; ++i)
+        addSwitchedOffAlarm(QTime(5 + i, 0));
+    m_section.widget()->updateContent();
+    bool failed = false;
+    for (int i = shown; i > stored; --i)
+        QVERIFY(QmAlarm().deleteEvent(QmAlarm().query(failed).first()));
+    for (int i = shown; i < stored; ++i)
+        addSwitchedOffAlarm(QTime(5 + i, 0));
+    QStringList expected{"void AlarmsWidget::updateContent() entered"};
+    for (const QString &change : std::as_const(changes))
+        expected += {change + " entered", change + " exited"};
+    expected += "void AlarmsWidget::updateContent() exited";
+    const Support::LogCapture log;
+    m_section.widget()->updateContent();
+    QStringList lines = log.lines(QtDebugMsg);
+    lines.removeIf([](const QString &line) { return !line.contains("Alarms"); });
+    lines.removeIf([](const QString &line) { return line.contains("Clock::QmAlarm"); });
+    QCOMPARE(lines, expected);
 }
 
 void TestAlarmsWidget::oneOfSeveralNewAlarmsIsAddedAtATime()

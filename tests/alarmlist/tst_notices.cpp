@@ -79,6 +79,8 @@ void TestNotices::aHiddenNoticeIsKeptForTheNextOne()
     hideInformationBanner();
     QVERIFY(!banner->isOnDisplay());
     QTRY_VERIFY(banner && !banner->isInTransition());
+    hideInformationBanner();
+    QVERIFY2(!banner->isInTransition(), "what is hidden already stays as it is");
     showInformationBanner("Third");
     QVERIFY(banner->isOnDisplay());
     QCOMPARE(banner->title(), "Third");

@@ -61,6 +61,7 @@ private Q_SLOTS:
     void keysOpenAndFlip();
     void showsEveryPropertyAsARecycledCell();
     void hidesTheRepeatLineInTheOneLineStyle();
+    void aLongTitleEndsBeforeTheSwitch();
     void showsNothingForAnInvalidTime();
     void followsTheTimeFormat();
     void standsTheOtherWayRoundFromRightToLeft();
@@ -212,6 +213,36 @@ void tst_AlarmListItem::hidesTheRepeatLineInTheOneLineStyle()
     const QImage without = scene.picture();
     scene.item->setSubText("Every day");
     QVERIFY(scene.picture() == without);
+}
+
+void tst_AlarmListItem::aLongTitleEndsBeforeTheSwitch()
+{
+    Scene scene;
+    scene.item->setSubTitle(QString());
+    QVERIFY(scene.stage.show());
+    const QImage without = scene.picture();
+    const auto rightEdge = [&](const QString &title) {
+        scene.item->setSubTitle(title);
+        const QImage with = scene.picture();
+        int edge = 0;
+        for (int y = 0; y < with.height(); ++y) {
+            for (int x = edge + 1; x < with.width(); ++x) {
+                if (with.pixel(x, y) != without.pixel(x, y))
+                    edge = x;
+            }
+        }
+        return edge;
+    };
+    const int shortTitle = rightEdge("Work");
+    const int longTitle = rightEdge(QString("Work and more work ").repeated(20));
+    const QGraphicsItem *toggle = scene.item->childItems().constFirst();
+    const int switchLeft = int(toggle->mapToScene(toggle->boundingRect().topLeft()).x());
+    QVERIFY(longTitle > shortTitle);
+    QVERIFY2(longTitle < switchLeft, qPrintable(QString("%1 reaches into %2").arg(longTitle).arg(switchLeft)));
+    // It is cut at a word's letter, with a mark: another long end looks the same.
+    const QImage cut = scene.picture();
+    scene.item->setSubTitle(QString("Work and more work ").repeated(20) + "tomorrow");
+    QVERIFY(scene.picture() == cut);
 }
 
 void tst_AlarmListItem::showsNothingForAnInvalidTime()
