@@ -45,13 +45,12 @@ QString separator(const Locale &locale)
 
 QString joinedDays(const Locale &locale, const Calendar &calendar, const QList<int> &days)
 {
-    QString text;
+    QStringList names;
     for (const int day : days) {
         const QString name = calendar.weekdayName(day, Calendar::StandaloneContext, Calendar::AbbreviatedLength);
-        text += capitalised(locale, name) + separator(locale);
+        names.append(capitalised(locale, name));
     }
-    text.chop(isHan(locale) ? 1 : 2);
-    return text;
+    return names.join(separator(locale));
 }
 
 } // namespace

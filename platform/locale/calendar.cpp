@@ -6,7 +6,6 @@
 
 #include <memory>
 #include <unicode/calendar.h>
-#include <unicode/dtfmtsym.h>
 
 namespace Touch {
 
@@ -42,15 +41,7 @@ QString Calendar::weekdayName(int day) const
 
 QString Calendar::weekdayName(int day, WeekdayContext context, WeekdayLength length) const
 {
-    UErrorCode error = U_ZERO_ERROR;
-    const icu::DateFormatSymbols symbols(icu::Locale(localeName().constData()), error);
-    int32_t count = 0;
-    const icu::UnicodeString *names = symbols.getWeekdays(count, icu::DateFormatSymbols::DtContextType(context),
-                                                          icu::DateFormatSymbols::DtWidthType(length));
-    // ICU's list starts with an empty name, then Sunday.
-    if (day < 0 || day + 1 >= count)
-        return {};
-    return QString(reinterpret_cast<const QChar *>(names[day + 1].getBuffer()), names[day + 1].length());
+    return Icu::weekdayNames(localeName(), context, length).value(day);
 }
 
 } // namespace Touch

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <QTimeZone>
+#include <unicode/dtfmtsym.h>
 #include <unicode/dtptngen.h>
 #include <unicode/numfmt.h>
 #include <unicode/smpdtfmt.h>
@@ -168,6 +169,24 @@ QString fieldName(const QByteArray &locale, Locale::TimeField field)
         return {};
     return fromIcu(generator->getFieldDisplayName(field == Locale::HourField ? UDATPG_HOUR_FIELD : UDATPG_MINUTE_FIELD,
                                                   UDATPG_WIDE));
+}
+
+QStringList weekdayNames(const QByteArray &locale, int context, int width)
+{
+    static Cache<QStringList> lists;
+    const QByteArray key = locale + '\n' + QByteArray::number(context) + '/' + QByteArray::number(width);
+    return *cached(lists, key, [&] {
+        UErrorCode error = U_ZERO_ERROR;
+        const icu::DateFormatSymbols symbols(icu::Locale(locale.constData()), error);
+        int32_t count = 0;
+        const icu::UnicodeString *names = symbols.getWeekdays(count, icu::DateFormatSymbols::DtContextType(context),
+                                                              icu::DateFormatSymbols::DtWidthType(width));
+        auto list = std::make_unique<QStringList>();
+        // ICU's list starts with an empty name.
+        for (int i = 1; i < count; ++i)
+            list->append(fromIcu(names[i]));
+        return list;
+    });
 }
 
 bool isTwelveHourPattern(const QString &pattern)

@@ -5,7 +5,7 @@
 #include "platform/locale/locale.h"
 
 #include <QByteArray>
-#include <QString>
+#include <QStringList>
 
 namespace Touch::Icu {
 
@@ -17,6 +17,8 @@ QByteArray withCalendar(const QByteArray &locale, Locale::CalendarType calendar)
 QString pattern(const QByteArray &locale, Locale::DateType date, Locale::TimeType time, Locale::TimeFormat24h hours);
 QString patternOfFields(const QByteArray &locale, const QString &fields);
 QString fieldName(const QByteArray &locale, Locale::TimeField field);
+/// Sunday to Saturday; context and width are ICU's values.
+QStringList weekdayNames(const QByteArray &locale, int context, int width);
 bool isTwelveHourPattern(const QString &pattern);
 
 QString format(const QByteArray &locale, const QString &pattern, const QDateTime &dateTime);
