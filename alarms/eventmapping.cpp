@@ -8,6 +8,7 @@
 #include "platform/timedclient/interface.h"
 
 #include <QDebug>
+#include <QLoggingCategory>
 
 #include <algorithm>
 
@@ -153,7 +154,9 @@ void QmAlarmEvent::fromAstelTimedEvent(const quint32 &cookie)
 
 void QmAlarmEvent::readAttributes(const QVariantMap &attributes)
 {
-    qDebug() << "Attributes :" << attributes;
+    // To put all of it into words takes longer than to read it.
+    if (QLoggingCategory::defaultCategory()->isDebugEnabled())
+        qDebug() << "Attributes :" << attributes;
     m_application = attributes.value("APPLICATION").toString();
     m_title = attributes.value("TITLE").toString();
     readState(attributes);

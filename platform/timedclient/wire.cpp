@@ -4,6 +4,7 @@
 
 #include "platform/timedclient/wallclock.h"
 
+#include <mutex>
 #include <QDBusMetaType>
 
 namespace Astel::Timed::Wire {
@@ -81,18 +82,22 @@ bool readButtons(const QDBusArgument &argument, QList<Button> &buttons)
 
 void registerTypes()
 {
-    qDBusRegisterMetaType<Attributes>();
-    qDBusRegisterMetaType<Recurrence>();
-    qDBusRegisterMetaType<QList<Recurrence>>();
-    qDBusRegisterMetaType<Button>();
-    qDBusRegisterMetaType<QList<Button>>();
-    qDBusRegisterMetaType<Event>();
-    qDBusRegisterMetaType<Filter>();
-    qDBusRegisterMetaType<Trigger>();
-    qDBusRegisterMetaType<QList<Trigger>>();
-    qDBusRegisterMetaType<JournalEntry>();
-    qDBusRegisterMetaType<QList<JournalEntry>>();
-    qDBusRegisterMetaType<WallClock::Info>();
+    // Every client asks for it, and there may be one for each alarm.
+    static std::once_flag once;
+    std::call_once(once, [] {
+        qDBusRegisterMetaType<Attributes>();
+        qDBusRegisterMetaType<Recurrence>();
+        qDBusRegisterMetaType<QList<Recurrence>>();
+        qDBusRegisterMetaType<Button>();
+        qDBusRegisterMetaType<QList<Button>>();
+        qDBusRegisterMetaType<Event>();
+        qDBusRegisterMetaType<Filter>();
+        qDBusRegisterMetaType<Trigger>();
+        qDBusRegisterMetaType<QList<Trigger>>();
+        qDBusRegisterMetaType<JournalEntry>();
+        qDBusRegisterMetaType<QList<JournalEntry>>();
+        qDBusRegisterMetaType<WallClock::Info>();
+    });
 }
 
 QDBusArgument &operator<<(QDBusArgument &argument, const Recurrence &recurrence)
