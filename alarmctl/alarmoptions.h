@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "alarmctl/commandline.h"
 #include "alarms/qmalarmevent.h"
+#include "platform/commandline/commandline.h"
 
 /** The options that "add" and "edit" share: --title, --days, --snooze, --tone. */
 QList<Option> alarmOptions();

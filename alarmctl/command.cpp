@@ -7,7 +7,6 @@
 namespace {
 
 const Option Json{"json", "", "print JSON instead of text"};
-const Option Help{"help", "", "show this help"};
 const Option Count{"count", "N", "how many, 1 to 1000; 1 unless given"};
 
 const auto HealthDetails = QStringLiteral(
@@ -127,52 +126,9 @@ QList<Command> reportCommands()
     };
 }
 
-QString usageOf(const Command &command)
-{
-    QStringList words{"alarmctl", command.name};
-    if (!command.arguments.isEmpty())
-        words.append(command.arguments);
-    if (!command.options.isEmpty())
-        words.append("[OPTION...]");
-    return words.join(' ');
-}
-
-QString optionLine(const Option &option)
-{
-    const QString spelled = "--" + option.name + (option.placeholder.isEmpty() ? "" : " " + option.placeholder);
-    return QStringLiteral("  %1  %2\n").arg(spelled, -16).arg(option.description);
-}
-
 } // namespace
 
-const QList<Command> &allCommands()
+QList<Command> allCommands()
 {
-    static const QList<Command> commands = alarmCommands() + switchCommands() + momentCommands() + reportCommands();
-    return commands;
-}
-
-QString helpFor(const Command &command)
-{
-    QString text = "Usage: " + usageOf(command) + "\n\n" + command.summary + "\n\n";
-    if (!command.details.isEmpty())
-        text += command.details + '\n';
-    text += "Options:\n";
-    for (const Option &option : command.options)
-        text += optionLine(option);
-    text += optionLine(Help) + "\nExamples:\n";
-    for (const QString &example : command.examples)
-        text += "  alarmctl " + example + '\n';
-    return text;
-}
-
-QString generalHelp()
-{
-    QString text = "Usage: alarmctl COMMAND [ARGUMENT...]\n\nThe alarms of the clock, from the command line.\n\n"
-                   "Commands:\n";
-    for (const Command &command : allCommands())
-        text += QStringLiteral("  %1  %2\n").arg(command.name, -8).arg(command.summary);
-    text += "\nExamples:\n";
-    for (const Command &command : allCommands())
-        text += "  alarmctl " + command.examples.last() + '\n';
-    return text + "\nExit status: 0 done, 1 failed, 2 wrong usage. \"alarmctl COMMAND --help\" tells more.\n";
+    return alarmCommands() + switchCommands() + momentCommands() + reportCommands();
 }

@@ -2,24 +2,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "alarmctl/commandline.h"
-#include "alarmctl/result.h"
+#include "platform/commandline/program.h"
 
-/** One thing that the program can do, with what its help says. */
-struct Command
-{
-    QString name;
-    QString arguments; ///< as in "COOKIE..."
-    QString summary;
-    QList<Option> options;
-    QStringList examples; ///< without the name of the program
-    Result<> (*run)(const CommandLine &line);
-    QString details = {}; ///< what else is worth knowing, lines that end with a line break
-};
-
-const QList<Command> &allCommands();
-QString helpFor(const Command &command);
-QString generalHelp();
+/** What alarmctl can do, in the order of its help. */
+QList<Command> allCommands();
 
 Result<> runList(const CommandLine &line);
 Result<> runAdd(const CommandLine &line);

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "alarmctl/result.h"
 #include "alarms/qmalarmevent.h"
+#include "platform/commandline/result.h"
 
 #include <QDBusPendingReply>
 #include <QList>

@@ -3,8 +3,6 @@
 #include "tests/alarmctl/alarmctl.h"
 #include "tests/support/places.h"
 
-#include <QProcess>
-
 QString alarmctlPath()
 {
     return Places::program("alarmctl");
@@ -12,12 +10,7 @@ QString alarmctlPath()
 
 Run alarmctl(const QStringList &arguments, const QStringList &environment)
 {
-    QProcess process;
-    process.setEnvironment(QProcess::systemEnvironment() + environment);
-    process.start(alarmctlPath(), arguments);
-    const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
-    return {ended ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
+    return Support::run("alarmctl", arguments, environment);
 }
 
 Run alarmctl(const QByteArray &arguments)

@@ -2,20 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <QJsonDocument>
-#include <QStringList>
+#include "tests/support/run.h"
 
-/** What a run of the real program left behind. */
-struct Run
-{
-    int exitCode = -1; ///< -1: it crashed, or did not end
-    QString output;
-    QString errors;
-
-    QStringList lines() const { return output.split('\n', Qt::SkipEmptyParts); }
-    QStringList errorLines() const { return errors.split('\n', Qt::SkipEmptyParts); }
-    QJsonDocument json() const { return QJsonDocument::fromJson(output.toUtf8()); }
-};
+using Support::Run;
 
 /** Where the program lies. */
 QString alarmctlPath();

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "alarmctl/result.h"
+#include "platform/commandline/result.h"
 
 #include <QMap>
 #include <QStringList>

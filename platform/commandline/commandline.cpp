@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "alarmctl/commandline.h"
+#include "platform/commandline/commandline.h"
 
 #include <algorithm>
 
