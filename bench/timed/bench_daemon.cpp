@@ -3,7 +3,7 @@
 #include "platform/context/contextproperty.h"
 #include "platform/timed/busringer.h"
 #include "platform/timed/eventbook.h"
-#include "platform/timed/eventcodec.h"
+#include "platform/timedclient/eventcodec.h"
 #include "platform/timed/eventservice.h"
 #include "platform/timed/lifecycle.h"
 #include "platform/timed/localzone.h"

@@ -3,6 +3,7 @@
 #include "platform/timed/busservice.h"
 
 #include "platform/context/contextpublisher.h"
+#include "platform/timed/backupservice.h"
 #include "platform/timed/clock.h"
 #include "platform/timed/eventbook.h"
 #include "platform/timed/eventservice.h"
@@ -24,6 +25,8 @@ namespace {
 
 // Each may take a search through decades.
 constexpr uint MaximalTriggers = 100;
+// Restored events that are published one by one; each time, the whole map travels.
+constexpr int MaximalSteps = 500;
 
 } // namespace
 
@@ -85,6 +88,25 @@ QVariantList BusService::query(const Wire::Filter &filter) const
 QVariantMap BusService::query_attributes(uint cookie) const
 {
     return m_parts.events.queryAttributes(cookie);
+}
+
+Wire::Records BusService::backup_events() const
+{
+    return {m_parts.backup.records()};
+}
+
+QList<uint> BusService::restore_events(const Wire::Records &records)
+{
+    const auto cookies = m_parts.backup.restore(records);
+    if (!cookies) {
+        refuse(cookies.error());
+        return {};
+    }
+    setDelayedReply(true);
+    connection().send(message().createReply(QVariant::fromValue(*cookies)));
+    publishRestored(*cookies);
+    publish();
+    return {};
 }
 
 void BusService::rings(uint cookie)
@@ -158,6 +180,22 @@ void BusService::answer(const QVariantList &values)
 void BusService::refuse(const Error &error) const
 {
     sendErrorReply(error.name, error.text);
+}
+
+void BusService::publishRestored(const QList<quint32> &cookies)
+{
+    const auto restored = cookies.size() - cookies.count(0);
+    if (restored > MaximalSteps)
+        return;
+    // Followers take in one event with each change, be it one that has no trigger.
+    for (const quint32 cookie : cookies) {
+        if (cookie == 0)
+            continue;
+        const QString key = QString::number(cookie);
+        if (const QVariant trigger = m_parts.book.triggers().value(key); trigger.isValid())
+            m_published.insert(key, trigger);
+        m_publisher->publish(m_published);
+    }
 }
 
 void BusService::publish()

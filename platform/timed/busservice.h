@@ -14,6 +14,7 @@ class ContextPublisher;
 
 namespace Astel::Timed {
 
+class BackupService;
 class Clock;
 class EventBook;
 class EventService;
@@ -37,6 +38,7 @@ public:
         const EventBook &book;
         const Health &health;
         EventService &events;
+        BackupService &backup;
         LifeCycle &lifeCycle;
     };
 
@@ -50,6 +52,8 @@ public:
     bool cancel(uint cookie);
     QVariantList query(const Wire::Filter &filter) const;
     QVariantMap query_attributes(uint cookie) const;
+    Wire::Records backup_events() const;
+    QList<uint> restore_events(const Wire::Records &records);
     void rings(uint cookie);
     void sounds(uint cookie, const QString &tone);
     qulonglong snooze(uint cookie, uint seconds, const QString &by);
@@ -68,6 +72,7 @@ private:
     void answer(const QVariantList &values);
     void refuse(const Error &error) const;
     void publish();
+    void publishRestored(const QList<quint32> &cookies);
     WallClock::Info wallClock() const;
 
     Parts m_parts;

@@ -4,6 +4,7 @@
 
 #include "platform/context/contextpublisher.h"
 #include "platform/timed/answerteller.h"
+#include "platform/timed/backupservice.h"
 #include "platform/timed/bootmoment.h"
 #include "platform/timed/busnotifier.h"
 #include "platform/timed/busringer.h"
@@ -59,8 +60,9 @@ struct Daemon::Parts
         , sleepGuard(schedule, ringing, sleep)
         , lifeCycle(book, schedule, ringing, clock, zone, settings.ringTime)
         , events(book, lifeCycle)
+        , backup(book, lifeCycle)
         , health(book, schedule, timer, zone, store)
-        , service({clock, zone, book, health, events, lifeCycle})
+        , service({clock, zone, book, health, events, backup, lifeCycle})
         , boot(book, schedule, clock, settings.bootFolder)
         , notifier(bus)
         , missedTeller(book, lifeCycle, notifier, zone)
@@ -84,6 +86,7 @@ struct Daemon::Parts
     SleepGuard sleepGuard;
     LifeCycle lifeCycle;
     EventService events;
+    BackupService backup;
     Health health;
     std::unique_ptr<ContextPublisher> publisher;
     BusService service;

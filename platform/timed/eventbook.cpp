@@ -61,9 +61,9 @@ QList<Miss> EventBook::untold() const
     return result;
 }
 
-Result<quint32> EventBook::nextCookie() const
+Result<quint32> EventBook::nextCookie(quint32 count) const
 {
-    if (m_lastCookie >= HighestCookie)
+    if (count > HighestCookie - std::min(m_lastCookie, HighestCookie))
         return Error{Wire::LimitError, QStringLiteral("all cookies have been given")};
     return m_lastCookie + 1;
 }

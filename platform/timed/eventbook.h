@@ -27,8 +27,8 @@ public:
     std::optional<AlarmEvent> findOrMissed(quint32 cookie) const;
     /** What the user has not been told yet, in the order in which it was due. */
     QList<Miss> untold() const;
-    /** The cookie for the next new event; fails when all have been given. */
-    Result<quint32> nextCookie() const;
+    /** The first of the cookies for so many new events; fails when all have been given. */
+    Result<quint32> nextCookie(quint32 count = 1) const;
     Result<> commit(const Change &change);
     QList<Wire::JournalEntry> journal(qint64 since) const { return m_store.journal(since); }
 

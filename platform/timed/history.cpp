@@ -3,8 +3,8 @@
 #include "platform/timed/history.h"
 
 #include "platform/timed/database.h"
-#include "platform/timed/eventcodec.h"
 #include "platform/timed/logging.h"
+#include "platform/timedclient/eventcodec.h"
 
 #include <QVariant>
 

@@ -65,6 +65,21 @@ AlarmEvent LifeCycle::fresh(quint32 cookie, const Wire::Event &wire) const
     return event;
 }
 
+AlarmEvent LifeCycle::restored(quint32 cookie, const Wire::Record &record) const
+{
+    AlarmEvent event = fresh(cookie, record.event);
+    if (!event.has(Wire::SingleShot))
+        return event;
+    const qint64 now = m_clock.now();
+    const auto due = qint64(record.moment / quint64(NanosecondsOfMillisecond));
+    const bool waited = record.state == stateName(State::Waiting);
+    if ((waited && due <= now - MaximalLateness) || (!waited && record.state != stateName(State::Inactive)))
+        event.finish(now);
+    else if (waited && due <= now)
+        event.wait(due, now);
+    return event;
+}
+
 Result<> LifeCycle::commit(const Change &change)
 {
     auto committed = m_book.commit(change);

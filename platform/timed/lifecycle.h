@@ -33,6 +33,8 @@ public:
 
     /** A new event with its first moment, not stored yet. */
     AlarmEvent fresh(quint32 cookie, const Wire::Event &wire) const;
+    /** An event out of a backup with its first moment, not stored yet; finished where that came before. */
+    AlarmEvent restored(quint32 cookie, const Wire::Record &record) const;
     /** Commits a change that a client asked for; schedules and rings accordingly. */
     Result<> commit(const Change &change);
 

@@ -3,9 +3,9 @@
 #include "platform/timed/sqlitestore.h"
 
 #include "platform/timed/database.h"
-#include "platform/timed/eventcodec.h"
 #include "platform/timed/logging.h"
 #include "platform/timed/moments.h"
+#include "platform/timedclient/eventcodec.h"
 
 #include <cstdlib>
 #include <QSqlDatabase>

@@ -69,6 +69,16 @@ QDBusPendingReply<QVariantMap> Interface::query_attributes(uint cookie)
     return m_proxy->query_attributes(cookie);
 }
 
+QDBusPendingReply<Wire::Records> Interface::backup_events()
+{
+    return m_proxy->backup_events();
+}
+
+QDBusPendingReply<QList<uint>> Interface::restore_events(const Wire::Records &records)
+{
+    return m_proxy->restore_events(records);
+}
+
 QDBusPendingReply<> Interface::rings(uint cookie)
 {
     return m_proxy->rings(cookie);

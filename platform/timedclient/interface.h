@@ -36,6 +36,10 @@ public:
     QDBusPendingReply<QVariantList> query(const QVariantMap &attributes);
     QDBusPendingReply<QVariantMap> query_attributes(uint cookie);
 
+    QDBusPendingReply<Wire::Records> backup_events();
+    /** Answers a cookie for each record, 0 for one that needed no event. */
+    QDBusPendingReply<QList<uint>> restore_events(const Wire::Records &records);
+
     QDBusPendingReply<> rings(uint cookie);
     QDBusPendingReply<> sounds(uint cookie, const QString &tone);
     /** Answers nanoseconds since the epoch. */

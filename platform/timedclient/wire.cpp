@@ -13,13 +13,14 @@ namespace {
 
 // Above every limit: what comes after so many elements is not read, so that a huge message is refused at once.
 constexpr int MostRead = 128;
+constexpr int MostRecordsRead = 16384;
 
 /** These read at most so many elements; false where there were more, or more within one of them. */
 template <typename Read>
-bool readSome(const QDBusArgument &argument, Read read)
+bool readSome(const QDBusArgument &argument, Read read, int most = MostRead)
 {
     bool complete = true;
-    for (int count = 0; complete && count < MostRead && !argument.atEnd(); ++count)
+    for (int count = 0; complete && count < most && !argument.atEnd(); ++count)
         complete = read();
     return complete && argument.atEnd();
 }
@@ -92,6 +93,10 @@ void registerTypes()
         qDBusRegisterMetaType<QList<Button>>();
         qDBusRegisterMetaType<Event>();
         qDBusRegisterMetaType<Filter>();
+        qDBusRegisterMetaType<Record>();
+        qDBusRegisterMetaType<QList<Record>>();
+        qDBusRegisterMetaType<Records>();
+        qDBusRegisterMetaType<QList<uint>>();
         qDBusRegisterMetaType<Trigger>();
         qDBusRegisterMetaType<QList<Trigger>>();
         qDBusRegisterMetaType<JournalEntry>();
@@ -163,6 +168,40 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, Filter &filter)
     filter.oversized = !readMap<QDBusVariant>(argument, [&](const QString &name, const QDBusVariant &value) {
         filter.attributes.insert(name, value.variant());
     });
+    return argument;
+}
+
+QDBusArgument &operator<<(QDBusArgument &argument, const Record &record)
+{
+    argument.beginStructure();
+    argument << record.event << record.state << record.moment;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, Record &record)
+{
+    argument.beginStructure();
+    argument >> record.event >> record.state >> record.moment;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument &operator<<(QDBusArgument &argument, const Records &records)
+{
+    return argument << records.records;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, Records &records)
+{
+    records.records.clear();
+    argument.beginArray();
+    const auto read = [&] {
+        argument >> records.records.emplaceBack();
+        return !records.records.last().event.oversized;
+    };
+    records.oversized = !readSome(argument, read, MostRecordsRead);
+    argument.endArray();
     return argument;
 }
 

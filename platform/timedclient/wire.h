@@ -102,6 +102,22 @@ struct Trigger
     bool operator==(const Trigger &) const = default;
 };
 
+/** An event as a backup takes it. */
+struct Record
+{
+    Event event;
+    QString state;
+    quint64 moment = 0; ///< nanoseconds since the epoch; 0: nothing ahead
+
+    bool operator==(const Record &) const = default;
+};
+
+struct Records
+{
+    QList<Record> records;
+    bool oversized = false; ///< as in Event
+};
+
 struct JournalEntry
 {
     qint64 moment = 0; ///< milliseconds since the epoch
@@ -123,6 +139,10 @@ QDBusArgument &operator<<(QDBusArgument &argument, const Event &event);
 const QDBusArgument &operator>>(const QDBusArgument &argument, Event &event);
 QDBusArgument &operator<<(QDBusArgument &argument, const Filter &filter);
 const QDBusArgument &operator>>(const QDBusArgument &argument, Filter &filter);
+QDBusArgument &operator<<(QDBusArgument &argument, const Record &record);
+const QDBusArgument &operator>>(const QDBusArgument &argument, Record &record);
+QDBusArgument &operator<<(QDBusArgument &argument, const Records &records);
+const QDBusArgument &operator>>(const QDBusArgument &argument, Records &records);
 QDBusArgument &operator<<(QDBusArgument &argument, const Trigger &trigger);
 const QDBusArgument &operator>>(const QDBusArgument &argument, Trigger &trigger);
 QDBusArgument &operator<<(QDBusArgument &argument, const JournalEntry &entry);
@@ -134,5 +154,7 @@ Q_DECLARE_METATYPE(Astel::Timed::Wire::Recurrence)
 Q_DECLARE_METATYPE(Astel::Timed::Wire::Button)
 Q_DECLARE_METATYPE(Astel::Timed::Wire::Event)
 Q_DECLARE_METATYPE(Astel::Timed::Wire::Filter)
+Q_DECLARE_METATYPE(Astel::Timed::Wire::Record)
+Q_DECLARE_METATYPE(Astel::Timed::Wire::Records)
 Q_DECLARE_METATYPE(Astel::Timed::Wire::Trigger)
 Q_DECLARE_METATYPE(Astel::Timed::Wire::JournalEntry)

@@ -11,18 +11,61 @@
 
 using namespace Astel::Timed;
 
+namespace {
+
+/** The object of a world on the bus. */
+struct Served
+{
+    explicit Served(World &world)
+        : health(world.parts->book, world.parts->schedule, world.timer, world.zone, world.store)
+        , publisher(Wire::TriggerProperty, world.parts->book.triggers(), bus)
+        , service({world.clock, world.zone, world.parts->book, health, world.parts->service, world.parts->backup,
+                   world.parts->life})
+    {
+        isThere = bus.registerObject(Wire::Path, &service) && bus.registerService(Wire::Service);
+        service.publishThrough(publisher);
+    }
+    ~Served() { bus.unregisterService(Wire::Service); }
+
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    Health health;
+    ContextPublisher publisher;
+    BusService service;
+    bool isThere = false;
+};
+
+QDBusPendingCall restore(const QDBusConnection &client, const Wire::Records &records)
+{
+    auto call = QDBusMessage::createMethodCall(Wire::Service, Wire::Path, Wire::Interface, "restore_events");
+    call << QVariant::fromValue(records);
+    return client.asyncCall(call);
+}
+
+} // namespace
+
 /** The object on the bus, in this process, with time in the test's hand. */
 class tst_BusService : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void settingsChangedComesAfterThePublication_data();
     void settingsChangedComesAfterThePublication();
+    void eachRestoredEventIsPublishedForItself();
+    void veryManyRestoredEventsArePublishedAtOnce();
+    void aRefusedRestorePublishesNothing();
 
 private:
     Support::PrivateBus m_bus;
+    QDBusConnection m_client{"client"};
 };
+
+void tst_BusService::initTestCase()
+{
+    QVERIFY(m_bus.isRunning());
+    m_client = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "client");
+}
 
 void tst_BusService::settingsChangedComesAfterThePublication_data()
 {
@@ -41,25 +84,58 @@ void tst_BusService::settingsChangedComesAfterThePublication()
     QFETCH(qint64, jump);
     QFETCH(QStringList, arrived);
 
-    QVERIFY(m_bus.isRunning());
     World world(utc("2026-11-20T05:00:00"));
     world.add(daily(7, 0));
-    auto bus = QDBusConnection::sessionBus();
-    Health health(world.parts->book, world.parts->schedule, world.timer, world.zone, world.store);
-    ContextPublisher publisher(Wire::TriggerProperty, world.parts->book.triggers(), bus);
-    BusService service({world.clock, world.zone, world.parts->book, health, world.parts->service, world.parts->life});
-    QVERIFY(bus.registerObject(Wire::Path, &service));
-    QVERIFY(bus.registerService(Wire::Service));
-    service.publishThrough(publisher);
-
-    BusWatch watch(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "client"));
+    const Served served(world);
+    QVERIFY(served.isThere);
+    BusWatch watch(m_client);
     world.zone.current = *Rules::Zone::create(zone);
     if (jump)
         world.setClock(world.clock.time + jump);
     else
         emit world.zone.changed();
     QTRY_COMPARE(watch.arrived, arrived);
-    QVERIFY(bus.unregisterService(Wire::Service));
+}
+
+void tst_BusService::eachRestoredEventIsPublishedForItself()
+{
+    World world(utc("2026-11-20T05:00:00"));
+    world.add(daily(7, 0));
+    const Served served(world);
+    QVERIFY(served.isThere);
+    BusWatch watch(m_client);
+    Wire::Event off = daily(8, 0);
+    off.ticker = 0;
+    const Wire::Records records{
+        {{daily(6, 30), "WAITING", 0}, {daily(7, 0), "WAITING", 0}, {off, "INACTIVE", 0}, {daily(9, 0), "WAITING", 0}}};
+    watch.expect(restore(m_client, records));
+    // The second one is there already; the third one has no trigger.
+    QTRY_COMPARE(watch.arrived, (QStringList{"reply", "published 2", "published 2", "published 3"}));
+    QCOMPARE(watch.lastMap.keys(), (QStringList{"1", "2", "4"}));
+}
+
+void tst_BusService::veryManyRestoredEventsArePublishedAtOnce()
+{
+    World world(utc("2026-11-20T05:00:00"));
+    const Served served(world);
+    QVERIFY(served.isThere);
+    BusWatch watch(m_client);
+    Wire::Records records;
+    records.records.fill({daily(6, 30), "WAITING", 0}, 501);
+    watch.expect(restore(m_client, records));
+    QTRY_COMPARE(watch.arrived, (QStringList{"reply", "published 501"}));
+}
+
+void tst_BusService::aRefusedRestorePublishesNothing()
+{
+    World world(utc("2026-11-20T05:00:00"));
+    const Served served(world);
+    QVERIFY(served.isThere);
+    BusWatch watch(m_client);
+    watch.expect(restore(m_client, {{{daily(6, 30), "WAITING", 0}, {daily(7, 0), "ASLEEP", 0}}}));
+    QTRY_COMPARE(watch.arrived, QStringList{Wire::InvalidError});
+    watch.expect(restore(m_client, {{{daily(6, 30), "WAITING", 0}}}));
+    QTRY_COMPARE(watch.arrived, (QStringList{Wire::InvalidError, "reply", "published 1"}));
 }
 
 int main(int argc, char *argv[])

@@ -16,6 +16,7 @@ World::Parts::Parts(World &world)
     , ringing(book, schedule, world.clock, world.ringer, world.fallback)
     , life(book, schedule, ringing, world.clock, world.zone, RingTime)
     , service(book, life)
+    , backup(book, life)
 {
     QObject::connect(&world.timer, &WakeTimer::clockSet, &life, &LifeCycle::clockSet);
     QObject::connect(&world.zone, &ZoneSource::changed, &life, &LifeCycle::zoneChanged);

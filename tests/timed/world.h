@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "platform/timed/backupservice.h"
 #include "platform/timed/eventbook.h"
 #include "platform/timed/eventservice.h"
 #include "platform/timed/lifecycle.h"
@@ -63,6 +64,7 @@ public:
         Astel::Timed::Ringing ringing;
         Astel::Timed::LifeCycle life;
         Astel::Timed::EventService service;
+        Astel::Timed::BackupService backup;
     };
 
     FakeClock clock;

@@ -102,6 +102,7 @@ private slots:
     void sendsTheOtherCalls_data();
     void sendsTheOtherCalls();
     void readsAnswersOfEveryType();
+    void carriesTheRecordsOfABackup();
     void answersWithTheNamedError();
     void returnsBeforeTheAnswer();
     void connectsTheSettingsSignal();
@@ -190,6 +191,8 @@ void InterfaceTest::sendsTheOtherCalls_data()
     QTest::newRow("next_triggers") << Call([](Interface &timed) { return timed.next_triggers(10); }) << "u"
                                    << QVariantList{10u};
     QTest::newRow("journal") << Call([](Interface &timed) { return timed.journal(-5); }) << "x" << QVariantList{-5LL};
+    QTest::newRow("backup_events") << Call([](Interface &timed) { return timed.backup_events(); }) << ""
+                                   << QVariantList{};
     QTest::newRow("health") << Call([](Interface &timed) { return timed.health(); }) << "" << QVariantList{};
 }
 
@@ -244,6 +247,25 @@ void InterfaceTest::readsAnswersOfEveryType()
     QDBusPendingReply<QList<Wire::JournalEntry>> journal = timed.journal(0);
     finish(journal);
     QVERIFY(journal.value() == entries);
+}
+
+void InterfaceTest::carriesTheRecordsOfABackup()
+{
+    Interface timed;
+    const Wire::Records records{{{sampleEvent().toWire(), "WAITING", 5}, {Wire::Event(), "FINISHED", 0}}};
+
+    m_recorder.answer = {QVariant::fromValue(records)};
+    QDBusPendingReply<Wire::Records> taken = timed.backup_events();
+    finish(taken);
+    QCOMPARE(taken.value().records, records.records);
+    QVERIFY(!taken.value().oversized);
+
+    m_recorder.answer = {QVariant::fromValue(QList<uint>{0, 7})};
+    QDBusPendingReply<QList<uint>> cookies = timed.restore_events(records);
+    finish(cookies);
+    QCOMPARE(cookies.value(), (QList<uint>{0, 7}));
+    QCOMPARE(m_recorder.last.member(), "restore_events");
+    QCOMPARE(qdbus_cast<Wire::Records>(m_recorder.last.arguments().value(0)).records, records.records);
 }
 
 void InterfaceTest::answersWithTheNamedError()

@@ -26,7 +26,7 @@ GUARDED = 5
 SIGNATURES = {
     "add_event": f"({EVENT})", "replace_event": f"({EVENT}u)", "cancel": "(u)", "query": "(a{sv})",
     "query_attributes": "(u)", "rings": "(u)", "sounds": "(us)", "snooze": "(uus)", "press": "(uus)",
-    "dismiss": "(us)",
+    "dismiss": "(us)", "backup_events": "()", "restore_events": f"(a({EVENT}st))",
     "next_triggers": "(u)", "journal": "(x)", "health": "()",
 }
 RANGES = {"y": (0, 255), "n": (-1 << 15, (1 << 15) - 1), "q": (0, (1 << 16) - 1), "i": (-1 << 31, (1 << 31) - 1),
@@ -110,6 +110,12 @@ class Caller:
             event = GLib.Variant(EVENT, self.event())
             rest = [GLib.Variant("u", self.cookie())] if method == "replace_event" else []
             return method, GLib.Variant.new_tuple(event, *rest)
+        if method == "restore_events":
+            if len(self.cookies) > MOST_EVENTS:
+                return "cancel", GLib.Variant("(u)", (self.cookies.pop(0),))
+            records = [(self.event(), self.choice.choice(("WAITING", "FINISHED", "SNOOZED", text[:10])),
+                        self.number("t")) for _ in range(self.choice.randrange(3))]
+            return method, GLib.Variant(SIGNATURES[method], (records,))
         if method == "query":
             return method, GLib.Variant("(a{sv})", ({name: self.anything() for name in self.attributes()},))
         if method == "sounds":

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "platform/timed/eventcodec.h"
+#include "platform/timedclient/eventcodec.h"
 
 #include "platform/timedclient/wire.h"
 
@@ -44,7 +44,7 @@ Wire::Recurrence decodeRecurrence(const QJsonArray &array)
 
 } // namespace
 
-QString encodeEvent(const Wire::Event &event)
+QJsonObject eventToJson(const Wire::Event &event)
 {
     QJsonArray recurrences;
     for (const Wire::Recurrence &recurrence : event.recurrences)
@@ -52,7 +52,7 @@ QString encodeEvent(const Wire::Event &event)
     QJsonArray buttons;
     for (const Wire::Button &button : event.buttons)
         buttons.append(QJsonArray{button.snooze, encodeAttributes(button.attributes)});
-    const QJsonObject object{
+    return {
         {"ticker", event.ticker},
         {"flags", qint64(event.flags)},
         {"timeoutSnooze", event.timeoutSnooze},
@@ -61,12 +61,15 @@ QString encodeEvent(const Wire::Event &event)
         {"recurrences", recurrences},
         {"buttons", buttons},
     };
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
-std::optional<Wire::Event> decodeEvent(const QByteArray &text, TextPool &pool)
+QString encodeEvent(const Wire::Event &event)
 {
-    const QJsonObject object = QJsonDocument::fromJson(text).object();
+    return QString::fromUtf8(QJsonDocument(eventToJson(event)).toJson(QJsonDocument::Compact));
+}
+
+std::optional<Wire::Event> eventFromJson(const QJsonObject &object, TextPool &pool)
+{
     if (!object["ticker"].isDouble() || !object["attributes"].isObject())
         return std::nullopt;
     Wire::Event event;
@@ -85,6 +88,11 @@ std::optional<Wire::Event> decodeEvent(const QByteArray &text, TextPool &pool)
     for (const auto &value : buttons)
         event.buttons.append({qint32(value[0].toInteger()), decodeAttributes(value[1].toObject(), pool)});
     return event;
+}
+
+std::optional<Wire::Event> decodeEvent(const QByteArray &text, TextPool &pool)
+{
+    return eventFromJson(QJsonDocument::fromJson(text).object(), pool);
 }
 
 } // namespace Astel::Timed
