@@ -5,15 +5,23 @@
 #include "tests/support/places.h"
 
 #include <QProcess>
+#include <QTest>
 
 namespace Support {
+
+namespace {
+
+constexpr int Patience = 60000; // milliseconds
+
+} // namespace
 
 Run run(const QString &program, const QStringList &arguments, const QStringList &environment)
 {
     QProcess process;
     process.setEnvironment(QProcess::systemEnvironment() + environment);
     process.start(Places::program(program), arguments);
-    const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
+    const auto isOver = [&] { return process.state() == QProcess::NotRunning; };
+    const bool ended = QTest::qWaitFor(isOver, Patience) && process.exitStatus() == QProcess::NormalExit;
     return {ended ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
 }

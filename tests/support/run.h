@@ -19,7 +19,10 @@ struct Run
     QJsonDocument json() const { return QJsonDocument::fromJson(output.toUtf8()); }
 };
 
-/** Runs a program of ours to its end; "environment" adds "NAME=value". */
+/**
+ * Runs a program of ours to its end; "environment" adds "NAME=value". What this process has on the bus answers
+ * meanwhile.
+ */
 Run run(const QString &program, const QStringList &arguments, const QStringList &environment = {});
 
 } // namespace Support

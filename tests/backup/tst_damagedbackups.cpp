@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/backup/archive.h"
+#include "tests/backup/household.h"
+#include "tests/backup/participant.h"
+
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QTest>
+
+namespace Wire = Astel::Timed::Wire;
+
+namespace {
+
+/** A backup of another device, with an alarm, settings and a tone that are not here. */
+Backup::Archive elsewhere()
+{
+    return {QDateTime::currentDateTimeUtc(),
+            {{dailyAlarm(6, "From elsewhere", "/home/a/Music/new.mp3"), "WAITING", 0}},
+            {{"Korvo/Clock.conf", "[Clock]\nSnoozeTime=30\n"}},
+            {{"/home/a/Music/new.mp3", "music", "new.mp3", "sound"}}};
+}
+
+QString music(const QString &file)
+{
+    return QStandardPaths::writableLocation(QStandardPaths::MusicLocation) + '/' + file;
+}
+
+} // namespace
+
+/** The real command and daemon with files that must change nothing. */
+class DamagedBackupsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void aDamagedFileChangesNothing_data();
+    void aDamagedFileChangesNothing();
+    void noFileChangesNothing_data();
+    void noFileChangesNothing();
+    void whatTheDaemonRefusesChangesNothing_data();
+    void whatTheDaemonRefusesChangesNothing();
+    void theWholeFileIsTaken();
+
+private:
+    void verifyUnchanged(const Support::Run &run, const QString &complaint, const QStringList &told = {});
+
+    Household m_household;
+    QStringList m_notes;
+    std::unique_ptr<NotingParticipant> m_participant;
+    QList<Wire::Record> m_records;
+    QByteArray m_settings;
+};
+
+void DamagedBackupsTest::initTestCase()
+{
+    QVERIFY(m_household.start());
+    m_participant = std::make_unique<NotingParticipant>("one", m_notes);
+    QVERIFY(m_participant->enlist());
+    QVERIFY(Household::add(dailyAlarm(7, "Mine")));
+    m_records = Household::records();
+    m_settings = "[Clock]\nSnoozeTime=5\n";
+    QVERIFY(write(settingsFile(), m_settings));
+}
+
+void DamagedBackupsTest::verifyUnchanged(const Support::Run &run, const QString &complaint, const QStringList &told)
+{
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.output, "");
+    QCOMPARE(run.errorLines().size(), 1);
+    QVERIFY2(run.errors.contains(complaint), qPrintable(run.errors));
+    QCOMPARE(Household::records(), m_records);
+    QCOMPARE(contentOf(settingsFile()), m_settings);
+    QVERIFY(!QFileInfo::exists(QFileInfo(music("new.mp3")).path()));
+    QCOMPARE(m_notes, told);
+    m_notes.clear();
+}
+
+void DamagedBackupsTest::aDamagedFileChangesNothing_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("complaint");
+
+    const QByteArray whole = Backup::encode(elsewhere());
+    const auto flipped = [&](qsizetype byte) {
+        QByteArray bytes = whole;
+        bytes[byte] = char(~bytes[byte]);
+        return bytes;
+    };
+    QTest::newRow("empty") << QByteArray() << "not a backup";
+    QTest::newRow("text") << QByteArray("BEGIN:VCALENDAR\n") << "not a backup";
+    QTest::newRow("random") << QByteArray(4096, '\xa5') << "not a backup";
+    for (const int part : {2, 4, 8, 12, 15})
+        QTest::addRow("%d sixteenths of it", part) << whole.left(whole.size() * part / 16) << "cut off";
+    for (qsizetype byte = 0; byte < whole.size(); byte += 509)
+        QTest::addRow("byte %lld", qlonglong(byte)) << flipped(byte) << (byte == 0 ? "not a backup" : "it is");
+    QTest::newRow("twice the same") << whole + whole << "damaged";
+    QTest::newRow("a page of zeros in it") << QByteArray(whole).replace(512, 512, QByteArray(512, '\0')) << "damaged";
+}
+
+void DamagedBackupsTest::aDamagedFileChangesNothing()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QString, complaint);
+    QVERIFY(write(m_household.file(), bytes));
+    const Support::Run run = m_household.backUp({"restore", m_household.file()});
+    QVERIFY(run.errors.startsWith("clock-backup: " + m_household.file() + ": "));
+    verifyUnchanged(run, complaint);
+}
+
+void DamagedBackupsTest::noFileChangesNothing_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("complaint");
+
+    QTest::newRow("none") << m_household.file("none") << "No such file";
+    QTest::newRow("folder") << QFileInfo(m_household.file()).path() << "not a file";
+    QTest::newRow("device") << "/dev/zero"
+                            << "not a file";
+}
+
+void DamagedBackupsTest::noFileChangesNothing()
+{
+    QFETCH(const QString, path);
+    QFETCH(const QString, complaint);
+    verifyUnchanged(m_household.backUp({"restore", path}), complaint);
+}
+
+void DamagedBackupsTest::whatTheDaemonRefusesChangesNothing_data()
+{
+    QTest::addColumn<Wire::Record>("record");
+    QTest::addColumn<int>("times");
+    QTest::addColumn<QString>("complaint");
+
+    Wire::Event ticker = dailyAlarm(6, "Bad");
+    ticker.ticker = -2;
+    QTest::newRow("ticker") << Wire::Record{ticker, "WAITING", 0} << 1 << "a ticker of -2";
+    QTest::newRow("state") << Wire::Record{dailyAlarm(6, "Bad"), "LOST", 0} << 1 << "no state \"LOST\"";
+    QTest::newRow("many") << Wire::Record{dailyAlarm(6, "Many"), "WAITING", 0} << 10000 << "10000 events";
+}
+
+void DamagedBackupsTest::whatTheDaemonRefusesChangesNothing()
+{
+    QFETCH(const Wire::Record, record);
+    QFETCH(const int, times);
+    QFETCH(const QString, complaint);
+    Backup::Archive archive = elsewhere();
+    archive.records += QList<Wire::Record>(times, record);
+    QVERIFY(write(m_household.file(), Backup::encode(archive)));
+    verifyUnchanged(m_household.backUp({"restore", m_household.file()}), complaint,
+                    {"one: restoreStarts", "one: restoreFinished"});
+}
+
+void DamagedBackupsTest::theWholeFileIsTaken()
+{
+    QVERIFY(write(m_household.file(), Backup::encode(elsewhere())));
+    const Support::Run run = m_household.backUp({"restore", m_household.file()});
+    QCOMPARE(run.errors, "");
+    QCOMPARE(run.output, "Restored 1 alarm, 1 settings file, 1 tone\n");
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(Household::records().size(), 2);
+    QCOMPARE(contentOf(settingsFile()), "[Clock]\nSnoozeTime=30\n");
+    QCOMPARE(contentOf(music("new.mp3")), "sound");
+    QCOMPARE(m_notes, (QStringList{"one: restoreStarts", "one: restoreFinished"}));
+}
+
+QTEST_GUILESS_MAIN(DamagedBackupsTest)
+#include "tst_damagedbackups.moc"

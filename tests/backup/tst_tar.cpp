@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/backup/tar.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using Backup::readTar;
+using Backup::TarMember;
+using Backup::writeTar;
+
+class TarTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsWhatItWrites_data();
+    void readsWhatItWrites();
+    void otherProgramsReadIt();
+    void refusesWhatOtherProgramsWrite();
+    void refusesASizeThatIsNone_data();
+    void refusesASizeThatIsNone();
+};
+
+void TarTest::readsWhatItWrites_data()
+{
+    QTest::addColumn<QList<TarMember>>("members");
+
+    QTest::newRow("nothing") << QList<TarMember>();
+    QTest::newRow("empty file") << QList<TarMember>{{"a", ""}};
+    QTest::newRow("a block") << QList<TarMember>{{"a", QByteArray(512, 'x')}};
+    QTest::newRow("a byte more") << QList<TarMember>{{"a", QByteArray(513, 'x')}, {"b/c", "text"}};
+    QTest::newRow("zeros") << QList<TarMember>{{"a", QByteArray(1024, '\0')}, {"b", QByteArray(3, '\0')}};
+    QTest::newRow("long name") << QList<TarMember>{{QByteArray(99, 'n'), "text"}};
+}
+
+void TarTest::readsWhatItWrites()
+{
+    QFETCH(const QList<TarMember>, members);
+    const QByteArray bytes = writeTar(members);
+    QCOMPARE(bytes.size() % 512, 0);
+    const auto read = readTar(bytes);
+    QVERIFY(read);
+    QCOMPARE(*read, members);
+}
+
+void TarTest::otherProgramsReadIt()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("archive.tar"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(writeTar({{"one", "first\n"}, {"two/three", QByteArray(1000, 'x')}}));
+    file.close();
+    QProcess tar;
+    tar.start("tar", {"-C", folder.path(), "-xvf", file.fileName()});
+    QVERIFY(tar.waitForFinished());
+    QCOMPARE(tar.readAllStandardError(), "");
+    QCOMPARE(tar.readAllStandardOutput(), "one\ntwo/three\n");
+    QFile three(folder.filePath("two/three"));
+    QVERIFY(three.open(QIODevice::ReadOnly));
+    QCOMPARE(three.readAll(), QByteArray(1000, 'x'));
+}
+
+void TarTest::refusesWhatOtherProgramsWrite()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("one"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("first\n");
+    file.close();
+    QProcess tar;
+    tar.start("tar", {"-C", folder.path(), "-cf", "-", "one"});
+    QVERIFY(tar.waitForFinished());
+    const auto read = readTar(tar.readAllStandardOutput());
+    QVERIFY(!read);
+    QVERIFY(read.problem().text.contains("not a backup"));
+}
+
+void TarTest::refusesASizeThatIsNone_data()
+{
+    QTest::addColumn<QByteArray>("size");
+
+    QTest::newRow("negative") << QByteArray("-0000000001");
+    QTest::newRow("words") << QByteArray("aaaaaaaaaaa");
+    QTest::newRow("far too large") << QByteArray("77777777777");
+    QTest::newRow("empty") << QByteArray(11, '\0');
+}
+
+void TarTest::refusesASizeThatIsNone()
+{
+    QFETCH(const QByteArray, size);
+    QByteArray bytes = writeTar({{"one", "first"}, {"two", "second"}});
+    bytes.replace(1024 + 124, size.size(), size);
+    QVERIFY(!readTar(bytes));
+}
+
+QTEST_GUILESS_MAIN(TarTest)
+#include "tst_tar.moc"
