@@ -25,8 +25,8 @@ namespace {
 
 // Each may take a search through decades.
 constexpr uint MaximalTriggers = 100;
-// Restored events that are published one by one; each time, the whole map travels.
-constexpr int MaximalSteps = 500;
+// Restored events for each of which the whole map travels.
+constexpr qsizetype MaximalSteps = 500;
 
 } // namespace
 
@@ -104,7 +104,7 @@ QList<uint> BusService::restore_events(const Wire::Records &records)
     }
     setDelayedReply(true);
     connection().send(message().createReply(QVariant::fromValue(*cookies)));
-    publishRestored(*cookies);
+    publishRestored((*cookies).size() - (*cookies).count(0));
     publish();
     return {};
 }
@@ -182,20 +182,14 @@ void BusService::refuse(const Error &error) const
     sendErrorReply(error.name, error.text);
 }
 
-void BusService::publishRestored(const QList<quint32> &cookies)
+void BusService::publishRestored(qsizetype count)
 {
-    const auto restored = cookies.size() - cookies.count(0);
-    if (restored > MaximalSteps)
+    if (count == 0 || count > MaximalSteps)
         return;
-    // Followers take in one event with each change, be it one that has no trigger.
-    for (const quint32 cookie : cookies) {
-        if (cookie == 0)
-            continue;
-        const QString key = QString::number(cookie);
-        if (const QVariant trigger = m_parts.book.triggers().value(key); trigger.isValid())
-            m_published.insert(key, trigger);
+    // Followers take in one event with each change, be it one that has no trigger, and sort it among all of them.
+    m_published = m_parts.book.triggers();
+    for (qsizetype i = 0; i < count; ++i)
         m_publisher->publish(m_published);
-    }
 }
 
 void BusService::publish()

@@ -72,7 +72,7 @@ private:
     void answer(const QVariantList &values);
     void refuse(const Error &error) const;
     void publish();
-    void publishRestored(const QList<quint32> &cookies);
+    void publishRestored(qsizetype count);
     WallClock::Info wallClock() const;
 
     Parts m_parts;
