@@ -3,7 +3,6 @@
 #include "platform/context/contextproperty.h"
 #include "platform/timed/busringer.h"
 #include "platform/timed/eventbook.h"
-#include "platform/timedclient/eventcodec.h"
 #include "platform/timed/eventservice.h"
 #include "platform/timed/lifecycle.h"
 #include "platform/timed/localzone.h"
@@ -14,6 +13,7 @@
 #include "platform/timed/sqlitestore.h"
 #include "platform/timed/systemclock.h"
 #include "platform/timed/timerfdwaketimer.h"
+#include "platform/timedclient/eventcodec.h"
 #include "platform/timedclient/wire.h"
 
 #include <algorithm>
