@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/locale/systemsettings_p.h"
 
-#include "platform/locale/desktopsettings_p.h"
+#include "platform/locale/desktopsetting.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -124,12 +124,14 @@ void SystemSettings::watch()
     if (m_watcher || !QCoreApplication::instance())
         return;
     m_watcher = std::make_unique<QFileSystemWatcher>();
-    m_desktop = std::make_unique<DesktopSettings>();
+    m_clockFormat = std::make_unique<DesktopSetting>(QStringLiteral("org.gnome.desktop.interface"),
+                                                     QStringLiteral("clock-format"));
     connect(QCoreApplication::instance(), &QObject::destroyed, this, [this] {
         m_watcher.reset();
-        m_desktop.reset();
+        m_clockFormat.reset();
     });
-    connect(m_desktop.get(), &DesktopSettings::changed, this, &SystemSettings::readAgain);
+    connect(m_clockFormat.get(), &DesktopSetting::received, this,
+            [this](const QVariant &value) { takeClockFormat(value.toString()); });
     // Files are often written in several steps; the short wait lets them settle.
     auto *settled = new QTimer(m_watcher.get());
     settled->setSingleShot(true);
@@ -153,10 +155,18 @@ void SystemSettings::watchPaths()
         m_watcher->addPath(folder.filePath());
 }
 
+void SystemSettings::takeClockFormat(const QString &format)
+{
+    m_desktopFormat = format == QLatin1String("12h") ? Locale::TwelveHour
+        : format == QLatin1String("24h")             ? Locale::TwentyFourHour
+                                                     : Locale::LocaleDefault;
+    readAgain();
+}
+
 void SystemSettings::readAgain()
 {
     watchPaths();
-    const LocaleSettings now = readSettings(m_desktop->timeFormat());
+    const LocaleSettings now = readSettings(m_desktopFormat);
     if (m_settings == now)
         return;
     m_settings = now;

@@ -22,7 +22,7 @@ struct LocaleSettings
     bool operator==(const LocaleSettings &) const = default;
 };
 
-class DesktopSettings;
+class DesktopSetting;
 
 /// The user's locale settings: the environment, for the time format the desktop's portal, and a file that wins over
 /// both. Follows the file and the portal. One for the process, on the GUI thread.
@@ -44,11 +44,13 @@ Q_SIGNALS:
 private:
     SystemSettings();
     void watchPaths();
+    void takeClockFormat(const QString &format);
     void readAgain();
 
     LocaleSettings m_settings;
     std::unique_ptr<QFileSystemWatcher> m_watcher;
-    std::unique_ptr<DesktopSettings> m_desktop;
+    std::unique_ptr<DesktopSetting> m_clockFormat;
+    Locale::TimeFormat24h m_desktopFormat = Locale::LocaleDefault;
 };
 
 /// The ICU name of a POSIX locale name: "de_DE.UTF-8" is de_DE, "sr_RS@latin" is sr_Latn_RS, "C" is

@@ -4,9 +4,6 @@
 
 #include <QObject>
 
-class QDBusVariant;
-class QVariant;
-
 namespace Touch {
 
 /**
@@ -21,14 +18,6 @@ class DesktopLook : public QObject
 public:
     explicit DesktopLook(QObject *parent);
     ~DesktopLook() override;
-
-private slots:
-    void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);
-
-private:
-    void readAll();
-    void read(const QString &group, const QString &key);
-    static void apply(const QString &group, const QString &key, QVariant value);
 };
 
 } // namespace Touch

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <QDBusVariant>
 #include <QObject>
 
 namespace Touch {
@@ -21,14 +20,7 @@ public:
 
     bool isReduced() const { return m_wantsLess || m_wantsNone; }
 
-private slots:
-    void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);
-
 private:
-    void follow(const QString &group, const QString &key);
-    void ask(const QString &group, const QString &key);
-    void take(const QString &key, const QVariant &value);
-
     bool m_wantsLess = false; ///< by the setting of all desktops
     bool m_wantsNone = false; ///< by that of one desktop
 };

@@ -2,61 +2,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/motion_p.h"
 #include "tests/support/privatebus.h"
+#include "tests/support/settingsportal.h"
 
 #include <memory>
 #include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusVariant>
-#include <QHash>
 #include <QTest>
 
 using namespace Touch;
 
-/** A desktop's settings portal, on a connection of its own. */
-class FakePortal : public QObject
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
-
-public:
-    bool start();
-    void set(const QString &group, const QString &key, const QVariant &value);
-
-public slots:
-    QDBusVariant Read(const QString &group, const QString &key);
-
-private:
-    QDBusConnection m_bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("portal"));
-    QHash<QString, QVariant> m_values{{QStringLiteral("reduced-motion"), 1U},
-                                      {QStringLiteral("enable-animations"), true}};
-};
-
 namespace {
 
-const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString appearance = QStringLiteral("org.freedesktop.appearance");
 const QString desktop = QStringLiteral("org.gnome.desktop.interface");
 
 } // namespace
-
-bool FakePortal::start()
-{
-    return m_bus.registerObject(path, this, QDBusConnection::ExportAllSlots)
-        && m_bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
-}
-
-QDBusVariant FakePortal::Read(const QString &, const QString &key)
-{
-    return QDBusVariant(QVariant::fromValue(QDBusVariant(m_values.value(key))));
-}
-
-void FakePortal::set(const QString &group, const QString &key, const QVariant &value)
-{
-    QDBusMessage signal = QDBusMessage::createSignal(path, QStringLiteral("org.freedesktop.portal.Settings"),
-                                                     QStringLiteral("SettingChanged"));
-    signal << group << key << QVariant::fromValue(QDBusVariant(value));
-    m_bus.send(signal);
-}
 
 class TestDesktopMotion : public QObject
 {
@@ -72,7 +31,7 @@ private slots:
 
 private:
     Support::PrivateBus m_bus;
-    std::unique_ptr<FakePortal> m_portal;
+    std::unique_ptr<Support::SettingsPortal> m_portal;
 };
 
 void TestDesktopMotion::initTestCase()
@@ -88,7 +47,9 @@ void TestDesktopMotion::movesWithoutAPortal()
 
 void TestDesktopMotion::asksThePortalThatStarts()
 {
-    m_portal = std::make_unique<FakePortal>();
+    m_portal = std::make_unique<Support::SettingsPortal>(
+        QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("portal")));
+    m_portal->set(appearance, QStringLiteral("reduced-motion"), 1U);
     QVERIFY(m_portal->start());
     QTRY_VERIFY(hasReducedMotion());
     m_portal->set(appearance, QStringLiteral("reduced-motion"), 0U);
