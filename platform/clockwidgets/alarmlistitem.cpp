@@ -9,8 +9,6 @@
 #include "platform/toolkit/theme.h"
 
 #include <cmath>
-#include <QGraphicsSceneMouseEvent>
-#include <QKeyEvent>
 #include <QPainter>
 
 using Touch::Locale;
@@ -42,12 +40,11 @@ private:
 } // namespace
 
 AlarmListItem::AlarmListItem(ItemStyle style, QGraphicsItem *parent)
-    : Widget(parent)
+    : Pressable(parent)
     , m_itemStyle(style)
     , m_switch(new RowSwitch(this, this))
 {
     loadClockTheme();
-    setFocusPolicy(Qt::TabFocus);
     connect(m_switch, &Touch::Switch::clicked, this, &AlarmListItem::alarmStateChanged);
     connect(m_switch, &Touch::Switch::toggled, this, [this] { update(); });
     connect(&Locale::getDefault(), &Locale::settingsChanged, this, [this] { update(); });
@@ -121,20 +118,20 @@ void AlarmListItem::setItemStyle(ItemStyle style)
 
 void AlarmListItem::resizeEvent(QGraphicsSceneResizeEvent *event)
 {
-    Widget::resizeEvent(event);
+    Pressable::resizeEvent(event);
     placeSwitch();
 }
 
 void AlarmListItem::changeEvent(QEvent *event)
 {
-    Widget::changeEvent(event);
+    Pressable::changeEvent(event);
     if (event->type() == QEvent::LayoutDirectionChange)
         placeSwitch();
 }
 
 void AlarmListItem::styleChanged()
 {
-    Widget::styleChanged();
+    Pressable::styleChanged();
     placeSwitch();
 }
 
@@ -183,7 +180,7 @@ qreal AlarmListItem::lineHeight(const char *part) const
 
 QSizeF AlarmListItem::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
 {
-    QSizeF size = Widget::sizeHint(which, constraint);
+    QSizeF size = Pressable::sizeHint(which, constraint);
     if (which == Qt::MaximumSize || !isStacked())
         return size;
     const qreal texts = lineHeight("Title") + lineGap + lineHeight("Repeat");
@@ -232,7 +229,7 @@ bool AlarmListItem::showsWholeSubText() const
 void AlarmListItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     const Touch::Style &look = style();
-    paintBackground(painter, m_isPressed ? look.pressedBackground : look.background);
+    paintBackground(painter, isDown() ? look.pressedBackground : look.background);
     painter->save();
     painter->setLayoutDirection(layoutDirection());
     const QRectF content = rect().marginsRemoved(look.padding);
@@ -302,58 +299,4 @@ QString AlarmListItem::shownText() const
     QStringList texts{timeText(Locale::getDefault(), m_title).whole(), m_subTitle, m_subText};
     texts.removeAll(QString());
     return texts.join(QLatin1String(", "));
-}
-
-QStringList AlarmListItem::accessibleActions() const
-{
-    return {QAccessibleActionInterface::pressAction()};
-}
-
-void AlarmListItem::doAccessibleAction(const QString &)
-{
-    Q_EMIT clicked();
-}
-
-void AlarmListItem::setPressed(bool pressed)
-{
-    if (m_isPressed == pressed)
-        return;
-    m_isPressed = pressed;
-    update();
-}
-
-void AlarmListItem::mousePressEvent(QGraphicsSceneMouseEvent *event)
-{
-    event->setAccepted(event->button() == Qt::LeftButton);
-    setPressed(event->isAccepted());
-}
-
-void AlarmListItem::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
-{
-    if (!rect().contains(event->pos()))
-        setPressed(false);
-}
-
-void AlarmListItem::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
-{
-    const bool isTap = m_isPressed && event->button() == Qt::LeftButton;
-    setPressed(false);
-    if (isTap)
-        Q_EMIT clicked();
-}
-
-// Whoever takes the press over, such as a viewport that pans, ends it.
-void AlarmListItem::ungrabMouseEvent(QEvent *event)
-{
-    setPressed(false);
-    Widget::ungrabMouseEvent(event);
-}
-
-void AlarmListItem::keyPressEvent(QKeyEvent *event)
-{
-    const bool isTap = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
-    if (!isTap)
-        Widget::keyPressEvent(event);
-    else if (!event->isAutoRepeat())
-        Q_EMIT clicked();
 }

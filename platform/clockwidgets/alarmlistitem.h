@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "platform/toolkit/widget.h"
+#include "platform/toolkit/pressable.h"
 
 #include <QTime>
 
@@ -12,7 +12,7 @@ class Switch;
 
 /// One alarm in a list: its time, its title, how it repeats, and a switch. Its enabled state is that of the switch;
 /// the item itself always takes input. Works as a recycled cell: every property may be set at any time.
-class AlarmListItem : public Touch::Widget
+class AlarmListItem : public Touch::Pressable
 {
     Q_OBJECT
 
@@ -49,8 +49,6 @@ public:
     void setItemStyle(ItemStyle style);
 
     QAccessible::Role accessibleRole() const override { return QAccessible::ListItem; }
-    QStringList accessibleActions() const override;
-    void doAccessibleAction(const QString &name) override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 Q_SIGNALS:
@@ -64,18 +62,13 @@ protected:
     QString shownText() const override;
     void resizeEvent(QGraphicsSceneResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
-    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
-    void ungrabMouseEvent(QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
+    void tapped() override { Q_EMIT clicked(); }
     void styleChanged() override;
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
 
 private:
     bool isStacked() const;
     qreal lineHeight(const char *part) const;
-    void setPressed(bool pressed);
     void placeSwitch();
     QRectF mirrored(const QRectF &rect) const;
     qreal timeWidth() const;
@@ -95,5 +88,4 @@ private:
     ItemStyle m_itemStyle;
 
     Touch::Switch *m_switch;
-    bool m_isPressed = false;
 };

@@ -4,8 +4,6 @@
 
 #include "platform/clockwidgets/parts_p.h"
 
-#include <QGraphicsSceneMouseEvent>
-#include <QKeyEvent>
 #include <QPainter>
 
 namespace {
@@ -17,10 +15,9 @@ constexpr qreal BarWidth = 4;
 } // namespace
 
 ToneItem::ToneItem(QGraphicsItem *parent)
-    : Widget(parent)
+    : Pressable(parent)
 {
     loadClockTheme();
-    setFocusPolicy(Qt::TabFocus);
 }
 
 ToneItem::~ToneItem() = default;
@@ -51,16 +48,6 @@ QString ToneItem::shownText() const
     return texts.join(QLatin1String(", "));
 }
 
-QStringList ToneItem::accessibleActions() const
-{
-    return {QAccessibleActionInterface::pressAction()};
-}
-
-void ToneItem::doAccessibleAction(const QString &)
-{
-    Q_EMIT clicked(m_path);
-}
-
 QRectF ToneItem::mirrored(const QRectF &rect) const
 {
     if (layoutDirection() != Qt::RightToLeft)
@@ -71,7 +58,7 @@ QRectF ToneItem::mirrored(const QRectF &rect) const
 void ToneItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     const Touch::Style &look = style();
-    paintBackground(painter, m_isPressed ? look.pressedBackground : look.background);
+    paintBackground(painter, isDown() ? look.pressedBackground : look.background);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setLayoutDirection(layoutDirection());
@@ -128,48 +115,4 @@ void ToneItem::paintBars(QPainter &painter, const QRectF &rect) const
         painter.drawRoundedRect(QRectF(left, rect.bottom() - 2 - height, BarWidth, height), BarWidth / 2, BarWidth / 2);
         left += 2 * BarWidth;
     }
-}
-
-void ToneItem::setPressed(bool isPressed)
-{
-    if (m_isPressed == isPressed)
-        return;
-    m_isPressed = isPressed;
-    update();
-}
-
-void ToneItem::mousePressEvent(QGraphicsSceneMouseEvent *event)
-{
-    event->setAccepted(event->button() == Qt::LeftButton);
-    setPressed(event->isAccepted());
-}
-
-void ToneItem::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
-{
-    if (!rect().contains(event->pos()))
-        setPressed(false);
-}
-
-void ToneItem::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
-{
-    const bool isTap = m_isPressed && event->button() == Qt::LeftButton;
-    setPressed(false);
-    if (isTap)
-        Q_EMIT clicked(m_path);
-}
-
-// Whoever takes the press over, such as a viewport that pans, ends it.
-void ToneItem::ungrabMouseEvent(QEvent *event)
-{
-    setPressed(false);
-    Widget::ungrabMouseEvent(event);
-}
-
-void ToneItem::keyPressEvent(QKeyEvent *event)
-{
-    const bool isTap = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
-    if (!isTap)
-        Widget::keyPressEvent(event);
-    else if (!event->isAutoRepeat())
-        Q_EMIT clicked(m_path);
 }

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "platform/toolkit/widget.h"
+#include "platform/toolkit/pressable.h"
 
 /// One tone in the list: a mark that tells whether it is the chosen one, its title, and whether it is being played.
 /// Works as a recycled cell.
-class ToneItem : public Touch::Widget
+class ToneItem : public Touch::Pressable
 {
     Q_OBJECT
 
@@ -21,8 +21,6 @@ public:
     bool isPlaying() const { return m_isPlaying; }
 
     QAccessible::Role accessibleRole() const override { return QAccessible::RadioButton; }
-    QStringList accessibleActions() const override;
-    void doAccessibleAction(const QString &name) override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 Q_SIGNALS:
@@ -30,14 +28,9 @@ Q_SIGNALS:
 
 protected:
     QString shownText() const override;
-    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
-    void ungrabMouseEvent(QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
+    void tapped() override { Q_EMIT clicked(m_path); }
 
 private:
-    void setPressed(bool isPressed);
     QRectF mirrored(const QRectF &rect) const;
     void paintMark(QPainter &painter, const QRectF &rect) const;
     void paintTexts(QPainter &painter, const QRectF &rect) const;
@@ -48,5 +41,4 @@ private:
     QString m_origin;
     bool m_isSelected = false;
     bool m_isPlaying = false;
-    bool m_isPressed = false;
 };

@@ -6,22 +6,17 @@
 #include "platform/toolkit/imagewidget.h"
 #include "platform/toolkit/label.h"
 #include "platform/toolkit/layout.h"
-#include "platform/toolkit/press_p.h"
-
-#include <QGraphicsSceneMouseEvent>
 
 namespace Touch {
 
 BasicListItem::BasicListItem(ItemStyle itemStyle, QGraphicsItem *parent)
-    : Widget(parent)
+    : Pressable(parent)
     , m_itemStyle(itemStyle)
     , m_titleLabel(new Label(this))
     , m_subtitleLabel(new Label(this))
     , m_imageWidget(new ImageWidget(this))
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setFocusPolicy(Qt::TabFocus);
-    setAcceptedMouseButtons(Qt::LeftButton);
 }
 
 BasicListItem::~BasicListItem() = default;
@@ -98,71 +93,15 @@ void BasicListItem::ensureLayout()
 void BasicListItem::polishEvent()
 {
     ensureLayout();
-    Widget::polishEvent();
+    Pressable::polishEvent();
 }
 
-QSizeF BasicListItem::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
+// A layout that takes it in measures it before it is polished.
+void BasicListItem::updateGeometry()
 {
-    // A layout that it lies in measures it before it is polished; what measures it while it is constructed is no layout.
     if (parentLayoutItem() && parentLayoutItem()->isLayout())
-        const_cast<BasicListItem *>(this)->ensureLayout();
-    return Widget::sizeHint(which, constraint);
-}
-
-void BasicListItem::setDown(bool isDown)
-{
-    if (m_isDown == isDown)
-        return;
-    m_isDown = isDown;
-    update();
-}
-
-void BasicListItem::mousePressEvent(QGraphicsSceneMouseEvent *)
-{
-    setDown(true);
-}
-
-void BasicListItem::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
-{
-    setDown(Press::holds(rect(), event->pos()));
-}
-
-void BasicListItem::mouseReleaseEvent(QGraphicsSceneMouseEvent *)
-{
-    if (!m_isDown)
-        return;
-    setDown(false);
-    emit clicked();
-}
-
-void BasicListItem::ungrabMouseEvent(QEvent *event)
-{
-    setDown(false);
-    Widget::ungrabMouseEvent(event);
-}
-
-void BasicListItem::keyPressEvent(QKeyEvent *event)
-{
-    if (!Press::isKey(event))
-        Widget::keyPressEvent(event);
-    else if (!event->isAutoRepeat())
-        setDown(true);
-}
-
-void BasicListItem::keyReleaseEvent(QKeyEvent *event)
-{
-    if (!Press::isKey(event) || event->isAutoRepeat() || !m_isDown) {
-        Widget::keyReleaseEvent(event);
-        return;
-    }
-    setDown(false);
-    emit clicked();
-}
-
-void BasicListItem::focusOutEvent(QFocusEvent *event)
-{
-    setDown(false);
-    Widget::focusOutEvent(event);
+        ensureLayout();
+    Pressable::updateGeometry();
 }
 
 QString BasicListItem::shownText() const
@@ -171,20 +110,10 @@ QString BasicListItem::shownText() const
     return hasBoth ? title() + QLatin1String(", ") + subtitle() : title();
 }
 
-QStringList BasicListItem::accessibleActions() const
-{
-    return {QAccessibleActionInterface::pressAction()};
-}
-
-void BasicListItem::doAccessibleAction(const QString &)
-{
-    emit clicked();
-}
-
 void BasicListItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     const Style &look = style();
-    paintBackground(painter, m_isDown && look.pressedBackground.isValid() ? look.pressedBackground : look.background);
+    paintBackground(painter, isDown() && look.pressedBackground.isValid() ? look.pressedBackground : look.background);
     paintFocusRing(painter);
 }
 

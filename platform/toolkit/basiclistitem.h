@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "platform/toolkit/widget.h"
+#include "platform/toolkit/pressable.h"
 
 class QGraphicsLayout;
 
@@ -15,7 +15,7 @@ class Label;
  * A row to tap, of a title and, by its style, of a subtitle and an icon. Its layout is built by createLayout() before
  * the row is first measured or seen, so that an override of it has its say. Owns its parts.
  */
-class BasicListItem : public Widget
+class BasicListItem : public Pressable
 {
     Q_OBJECT
     Q_PROPERTY(QString title READ title WRITE setTitle)
@@ -40,11 +40,7 @@ public:
     ImageWidget *imageWidget() const { return m_imageWidget; }
     void setImage(const QString &iconId);
 
-    bool isDown() const { return m_isDown; }
-
     QAccessible::Role accessibleRole() const override { return QAccessible::Button; }
-    QStringList accessibleActions() const override;
-    void doAccessibleAction(const QString &name) override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 signals:
@@ -55,27 +51,19 @@ protected:
     virtual QGraphicsLayout *createLayout();
     QString shownText() const override;
     void polishEvent() override;
-    QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
-    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
-    void ungrabMouseEvent(QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void keyReleaseEvent(QKeyEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
+    void tapped() override { emit clicked(); }
+    void updateGeometry() override;
 
 private:
     bool hasIcon() const { return m_itemStyle == IconWithTitle || m_itemStyle == IconWithTitleAndSubtitle; }
     bool hasSubtitle() const { return m_itemStyle == TitleWithSubtitle || m_itemStyle == IconWithTitleAndSubtitle; }
     void ensureLayout();
-    void setDown(bool isDown);
 
     ItemStyle m_itemStyle;
     Label *m_titleLabel;
     Label *m_subtitleLabel;
     ImageWidget *m_imageWidget;
     bool m_isLayoutCreated = false;
-    bool m_isDown = false;
 };
 
 } // namespace Touch

@@ -2,11 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/button.h"
 
-#include "platform/toolkit/press_p.h"
 #include "platform/toolkit/text_p.h"
 #include "platform/toolkit/theme.h"
 
-#include <QGraphicsSceneMouseEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QWidget>
@@ -14,13 +12,11 @@
 namespace Touch {
 
 Button::Button(const QString &text, QGraphicsItem *parent)
-    : Widget(parent)
+    : Pressable(parent)
     , m_text(std::make_unique<PreparedText>())
 {
     m_text->setText(text);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    setFocusPolicy(Qt::TabFocus);
-    setAcceptedMouseButtons(Qt::LeftButton);
 }
 
 Button::Button(QGraphicsItem *parent)
@@ -92,70 +88,13 @@ void Button::click()
         emit clicked(m_isChecked);
 }
 
-void Button::setDown(bool isDown)
+void Button::downChanged()
 {
-    if (m_isDown == isDown)
-        return;
-    m_isDown = isDown;
-    update();
-    if (isDown)
+    Pressable::downChanged();
+    if (isDown())
         emit pressed();
     else
         emit released();
-}
-
-void Button::mousePressEvent(QGraphicsSceneMouseEvent *)
-{
-    setDown(true);
-}
-
-void Button::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
-{
-    setDown(Press::holds(rect(), event->pos()));
-}
-
-void Button::mouseReleaseEvent(QGraphicsSceneMouseEvent *)
-{
-    if (!m_isDown)
-        return;
-    const QPointer<Button> guard(this);
-    setDown(false);
-    if (guard)
-        click();
-}
-
-void Button::ungrabMouseEvent(QEvent *event)
-{
-    setDown(false);
-    Widget::ungrabMouseEvent(event);
-}
-
-void Button::keyPressEvent(QKeyEvent *event)
-{
-    if (!Press::isKey(event)) {
-        Widget::keyPressEvent(event);
-        return;
-    }
-    if (!event->isAutoRepeat())
-        setDown(true);
-}
-
-void Button::keyReleaseEvent(QKeyEvent *event)
-{
-    if (!Press::isKey(event) || event->isAutoRepeat() || !m_isDown) {
-        Widget::keyReleaseEvent(event);
-        return;
-    }
-    const QPointer<Button> guard(this);
-    setDown(false);
-    if (guard)
-        click();
-}
-
-void Button::focusOutEvent(QFocusEvent *event)
-{
-    setDown(false);
-    Widget::focusOutEvent(event);
 }
 
 QAccessible::Role Button::accessibleRole() const
@@ -168,11 +107,6 @@ QStringList Button::accessibleActions() const
     return {m_isCheckable ? QAccessibleActionInterface::toggleAction() : QAccessibleActionInterface::pressAction()};
 }
 
-void Button::doAccessibleAction(const QString &)
-{
-    click();
-}
-
 QString Button::shownText() const
 {
     return text();
@@ -181,7 +115,7 @@ QString Button::shownText() const
 void Button::styleChanged()
 {
     m_isStyled = false;
-    Widget::styleChanged();
+    Pressable::styleChanged();
 }
 
 PreparedText &Button::prepared() const
@@ -221,7 +155,7 @@ QSizeF Button::contentSize() const
 QSizeF Button::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
 {
     if (which == Qt::MaximumSize)
-        return Widget::sizeHint(which, constraint);
+        return Pressable::sizeHint(which, constraint);
     QSizeF size = contentSize();
     if (which == Qt::MinimumSize && showsText())
         size.rwidth() += prepared().minimumWidth() - prepared().naturalSize().width();
@@ -233,7 +167,7 @@ QColor Button::foregroundColor() const
     const Style &look = style();
     if (!isEnabled() && look.disabledColor.isValid())
         return look.disabledColor;
-    if (m_isDown && look.pressedColor.isValid())
+    if (isDown() && look.pressedColor.isValid())
         return look.pressedColor;
     return m_isChecked && look.checkedColor.isValid() ? look.checkedColor : look.color;
 }
@@ -243,7 +177,7 @@ QColor Button::backgroundColor() const
     const Style &look = style();
     if (!isEnabled() && look.disabledBackground.isValid())
         return look.disabledBackground;
-    if (m_isDown && look.pressedBackground.isValid())
+    if (isDown() && look.pressedBackground.isValid())
         return look.pressedBackground;
     return m_isChecked && look.checkedBackground.isValid() ? look.checkedBackground : look.background;
 }
@@ -257,8 +191,9 @@ void Button::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget 
     if (!m_iconId.isEmpty()) {
         const QSizeF icon = style().iconSize;
         const qreal ratio = widget ? widget->devicePixelRatioF() : 1;
-        const QPixmap pixmap = Theme::instance().icon(m_iconId, icon.toSize(), color, ratio);
         const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+        const QString id = isMirrored ? Theme::mirroredIcon(m_iconId) : m_iconId;
+        const QPixmap pixmap = Theme::instance().icon(id, icon.toSize(), color, ratio);
         const qreal used = qMin(contentSize().width(), area.width());
         const qreal start = area.left() + (area.width() - used) / 2;
         const qreal x = isMirrored ? area.left() + area.right() - start - icon.width() : start;

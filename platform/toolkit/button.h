@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "platform/toolkit/widget.h"
+#include "platform/toolkit/pressable.h"
 
 #include <memory>
 
@@ -10,11 +10,8 @@ namespace Touch {
 
 class PreparedText;
 
-/**
- * Something to press: text, icon or both, optionally one that stays down. Pressed by touch, or by Space and
- * Return when it has the focus. A press that turns into panning is no click.
- */
-class Button : public Widget
+/** Something to press: text, icon or both, optionally one that stays down. */
+class Button : public Pressable
 {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText)
@@ -41,8 +38,6 @@ public:
     void setCheckable(bool isCheckable);
     bool isChecked() const { return m_isChecked; }
     void setChecked(bool isChecked);
-    bool isDown() const { return m_isDown; }
-
     /** The text, if it shows one, is neither elided nor cut off. */
     bool showsWholeText() const;
 
@@ -51,7 +46,6 @@ public:
 
     QAccessible::Role accessibleRole() const override;
     QStringList accessibleActions() const override;
-    void doAccessibleAction(const QString &name) override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 signals:
@@ -64,19 +58,13 @@ protected:
     void styleChanged() override;
     QString shownText() const override;
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
-    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
-    void ungrabMouseEvent(QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void keyReleaseEvent(QKeyEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
+    void tapped() override { click(); }
+    void downChanged() override;
 
     QColor foregroundColor() const;
     QColor backgroundColor() const;
 
 private:
-    void setDown(bool isDown);
     bool showsText() const;
     QSizeF contentSize() const;
     PreparedText &prepared() const;
@@ -87,7 +75,6 @@ private:
     QString m_viewType;
     bool m_isCheckable = false;
     bool m_isChecked = false;
-    bool m_isDown = false;
 };
 
 } // namespace Touch

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/listselection_p.h"
 
-#include "platform/toolkit/press_p.h"
+#include "platform/toolkit/pressable.h"
 
 #include <QGraphicsSceneMouseEvent>
 
@@ -61,7 +61,7 @@ void ListSelection::watch(int row, const QGraphicsItem *cell, QEvent *event)
         break;
     case QEvent::GraphicsSceneMouseRelease: {
         const QPointF finger = static_cast<QGraphicsSceneMouseEvent *>(event)->pos();
-        release(Press::holds(cell->boundingRect(), finger) ? row : -1);
+        release(Pressable::isOn(cell->boundingRect(), finger) ? row : -1);
         break;
     }
     case QEvent::KeyPress:

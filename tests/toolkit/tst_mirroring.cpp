@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/basiclistitem.h"
+#include "platform/toolkit/button.h"
 #include "platform/toolkit/combobox.h"
 #include "platform/toolkit/imagewidget.h"
 #include "platform/toolkit/label.h"
@@ -94,6 +95,7 @@ private slots:
     void everythingLiesOnTheOtherSide();
     void textsBeginOnTheOtherSide();
     void theKnobSlidesTheOtherWay();
+    void arrowsPointTheOtherWay_data();
     void arrowsPointTheOtherWay();
 };
 
@@ -161,13 +163,23 @@ void TestMirroring::theKnobSlidesTheOtherWay()
     QVERIFY(partThatDiffers(plain, mirrored.mirrored(true, false)) < 0.01);
 }
 
+void TestMirroring::arrowsPointTheOtherWay_data()
+{
+    using Make = std::function<Widget *()>;
+    QTest::addColumn<Make>("make");
+    QTest::newRow("to what follows") << Make(
+        [] { return new ImageWidget(QStringLiteral("icon-m-common-drilldown-arrow")); });
+    QTest::newRow("back") << Make([] {
+        auto *button = new Button;
+        button->setStyleName(QStringLiteral("NavigationBarButton"));
+        button->setIconID(QStringLiteral("icon-m-common-back"));
+        return button;
+    });
+}
+
 void TestMirroring::arrowsPointTheOtherWay()
 {
-    const auto make = [] {
-        auto *arrow = new ImageWidget;
-        arrow->setImage(QStringLiteral("icon-m-common-drilldown-arrow"));
-        return arrow;
-    };
+    QFETCH(const std::function<Widget *()>, make);
     const QImage plain = pictureOf(Qt::LeftToRight, make, {48, 48});
     const QImage mirrored = pictureOf(Qt::RightToLeft, make, {48, 48});
     QVERIFY(middleOfInk(plain) > 0);

@@ -3,6 +3,7 @@
 #include "platform/ringer/clockalarm/stopcontrol.h"
 
 #include "platform/ringer/texts/ringtexts.h"
+#include "platform/toolkit/pressable.h"
 #include "platform/toolkit/theme.h"
 
 #include <algorithm>
@@ -11,6 +12,7 @@
 #include <QPainter>
 #include <QWidget>
 
+using Touch::Pressable;
 using Touch::Theme;
 
 namespace {
@@ -19,12 +21,6 @@ constexpr auto Inset = 6.0; ///< between the track and the knob
 constexpr std::chrono::milliseconds ReturnTime{180};
 // A finger need not come quite to the end.
 constexpr auto EnoughProgress = 0.92;
-
-bool isHoldKey(const QKeyEvent *event)
-{
-    return event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
-        || event->key() == Qt::Key_Select;
-}
 
 } // namespace
 
@@ -153,7 +149,7 @@ void StopControl::ungrabMouseEvent(QEvent *event)
 
 void StopControl::keyPressEvent(QKeyEvent *event)
 {
-    if (!isHoldKey(event))
+    if (!Pressable::isPressKey(event))
         Widget::keyPressEvent(event);
     else if (!event->isAutoRepeat())
         hold();
@@ -161,7 +157,7 @@ void StopControl::keyPressEvent(QKeyEvent *event)
 
 void StopControl::keyReleaseEvent(QKeyEvent *event)
 {
-    if (!isHoldKey(event))
+    if (!Pressable::isPressKey(event))
         Widget::keyReleaseEvent(event);
     else if (!event->isAutoRepeat())
         letGo();
