@@ -4,7 +4,9 @@
 
 #include "platform/toolkit/list.h"
 
+#include <algorithm>
 #include <QAbstractItemModel>
+#include <QItemSelectionModel>
 
 namespace Touch {
 
@@ -51,6 +53,57 @@ QString AccessibleList::rowDescription(int row) const
 {
     const Widget *cell = rows()->cellAt(row);
     return cell ? cell->accessibleName() : QString();
+}
+
+QList<QAccessibleInterface *> AccessibleList::selectedCells() const
+{
+    QList<QAccessibleInterface *> cells;
+    for (const int row : selectedRows()) {
+        if (QAccessibleInterface *cell = cellAt(row, 0))
+            cells.append(cell);
+    }
+    return cells;
+}
+
+QList<int> AccessibleList::selectedRows() const
+{
+    QList<int> chosen;
+    if (!rows()->selectionModel())
+        return chosen;
+    const QModelIndexList indexes = rows()->selectionModel()->selectedRows();
+    for (const QModelIndex &index : indexes)
+        chosen.append(index.row());
+    std::sort(chosen.begin(), chosen.end());
+    return chosen;
+}
+
+bool AccessibleList::isRowSelected(int row) const
+{
+    return rows()->isSelected(row);
+}
+
+bool AccessibleList::selectRow(int row)
+{
+    return setRowSelected(row, true);
+}
+
+bool AccessibleList::unselectRow(int row)
+{
+    return setRowSelected(row, false);
+}
+
+bool AccessibleList::setRowSelected(int row, bool isSelected)
+{
+    if (!rows()->selectionModel() || row < 0 || row >= rowCount())
+        return false;
+    if (rows()->isSelected(row) == isSelected)
+        return true;
+    const bool isOnlyOne = rows()->selectionMode() == List::SingleSelection;
+    const auto change = !isSelected ? QItemSelectionModel::Deselect
+        : isOnlyOne                 ? QItemSelectionModel::ClearAndSelect
+                                    : QItemSelectionModel::Select;
+    rows()->selectionModel()->select(rows()->itemModel()->index(row, 0), change | QItemSelectionModel::Rows);
+    return true;
 }
 
 void AccessibleList::modelChange(QAccessibleTableModelChangeEvent *) { }

@@ -25,22 +25,24 @@ public:
     QString rowDescription(int row) const override;
     void modelChange(QAccessibleTableModelChangeEvent *event) override;
 
-    // Rows are not selected, their cells are pressed.
-    int selectedCellCount() const override { return 0; }
-    QList<QAccessibleInterface *> selectedCells() const override { return {}; }
+    // Rows are chosen where the list has a mode for it. There is one column, which nobody chooses.
+    int selectedCellCount() const override { return selectedRowCount(); }
+    /** Those that can be seen. */
+    QList<QAccessibleInterface *> selectedCells() const override;
     int selectedColumnCount() const override { return 0; }
-    int selectedRowCount() const override { return 0; }
+    int selectedRowCount() const override { return int(selectedRows().size()); }
     QList<int> selectedColumns() const override { return {}; }
-    QList<int> selectedRows() const override { return {}; }
+    QList<int> selectedRows() const override;
     bool isColumnSelected(int) const override { return false; }
-    bool isRowSelected(int) const override { return false; }
-    bool selectRow(int) override { return false; }
+    bool isRowSelected(int row) const override;
+    bool selectRow(int row) override;
     bool selectColumn(int) override { return false; }
-    bool unselectRow(int) override { return false; }
+    bool unselectRow(int row) override;
     bool unselectColumn(int) override { return false; }
 
 private:
     List *rows() const;
+    bool setRowSelected(int row, bool isSelected);
 };
 
 } // namespace Touch

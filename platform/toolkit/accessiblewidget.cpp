@@ -122,12 +122,8 @@ QAccessible::State AccessibleWidget::state() const
         state.checked = button->isChecked();
         state.pressed = button->isDown();
     }
-    const QGraphicsItem *above = widget()->parentItem();
-    const auto *list = above ? qobject_cast<const List *>(above->toGraphicsObject()) : nullptr;
-    if (list && list->selectionModel()) {
-        state.selectable = true;
-        state.selected = list->isSelected(list->rowOf(widget()));
-    }
+    state.selectable = list() && list()->selectionModel();
+    state.selected = isSelected();
     return state;
 }
 
@@ -258,7 +254,8 @@ QList<QAccessibleInterface *> AccessibleWidget::rowHeaderCells() const
 
 bool AccessibleWidget::isSelected() const
 {
-    return false;
+    const List *rows = list();
+    return rows && rows->isSelected(rows->rowOf(widget()));
 }
 
 QAccessibleInterface *AccessibleWidget::table() const

@@ -88,9 +88,20 @@ void ComboBox::showPopup()
         column->addItem(row);
         connect(row, &Button::clicked, this, [this, i] { choose(i); });
     }
+    connect(m_popup, &SceneWindow::disappeared, this, &ComboBox::tellWhetherItIsOpen);
     m_popup->appear(hostWindow(), SceneWindow::DestroyWhenDone);
+    tellWhetherItIsOpen();
     if (current)
         m_popup->startAt(current);
+}
+
+void ComboBox::tellWhetherItIsOpen()
+{
+    QAccessible::State changed;
+    changed.expanded = true;
+    changed.collapsed = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    tell(&event);
 }
 
 void ComboBox::choose(int index)

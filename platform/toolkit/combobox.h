@@ -54,6 +54,7 @@ protected:
 
 private:
     void choose(int index);
+    void tellWhetherItIsOpen();
 
     QStringList m_items;
     int m_currentIndex = -1;

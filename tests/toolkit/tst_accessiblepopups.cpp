@@ -147,6 +147,7 @@ void TestAccessiblePopups::aChoiceTellsWhatIsChosenAndOpens()
     found->actionInterface()->doAction(pressAction());
     QVERIFY(choice->isPopupOpen());
     QVERIFY(found->state().expanded && !found->state().collapsed);
+    QCOMPARE(timesTold(QAccessible::StateChanged, choice), 1);
     QAccessibleInterface *popup = of(m_window->topSceneWindow());
     QVERIFY(popup->state().modal);
     const int other = choice->currentIndex() == 0 ? 1 : 0;
@@ -155,6 +156,8 @@ void TestAccessiblePopups::aChoiceTellsWhatIsChosenAndOpens()
     QVERIFY(row && !row->state().checked);
     row->actionInterface()->doAction(row->actionInterface()->actionNames().constFirst());
     QCOMPARE(choice->currentIndex(), other);
+    QTRY_VERIFY(found->state().collapsed);
+    QTRY_COMPARE(timesTold(QAccessible::StateChanged, choice), 2);
     QCOMPARE(found->text(QAccessible::Value), choice->itemText(other));
     QVERIFY(timesTold(QAccessible::NameChanged, choice) > 0);
 }
