@@ -155,10 +155,11 @@ void List::rowsInserted(int first, int last)
     rememberFocus();
     shiftFocus(first, count);
     rekey(first, count);
+    const qreal before = m_rows.top(first);
     m_rows.setCount(m_model->rowCount());
     readGroups();
     if (isChangeAnimated(first, last))
-        animateFrom(first + 1, -m_rows.rowHeight(), nullptr, true);
+        animate({.shiftedFrom = first + 1, .shift = before - m_rows.top(first + 1), .appears = true});
     updateGeometry();
     scheduleUpdate();
 }
@@ -175,12 +176,18 @@ void List::rowsRemoved(int first, int last)
         m_outdated.remove(row);
     }
     rekey(first, first - last - 1);
+    const qreal before = m_rows.top(last + 1);
+    const bool hadTitle = m_rows.hasTitleAbove(first);
     m_rows.setCount(m_model->rowCount());
     readGroups();
-    if (leaving)
+    if (leaving) {
         keepFocusOf(leaving);
-    if (leaving)
-        animateFrom(first, m_rows.rowHeight(), leaving, false);
+        // The title of a group stays when its first row leaves.
+        const bool keepsTitle
+            = hadTitle && m_rows.hasTitleAbove(first) && before - m_rows.top(first) == m_rows.rowHeight();
+        animate(
+            {.shiftedFrom = first, .shift = before - m_rows.top(first), .shiftsTitle = !keepsTitle, .cell = leaving});
+    }
     updateGeometry();
     scheduleUpdate();
 }
@@ -200,7 +207,7 @@ bool List::isChangeAnimated(int first, int last) const
     return first == last && model && model->isAnimated() && isOnDisplay() && !hasReducedMotion();
 }
 
-void List::animateFrom(int row, qreal shift, Widget *cell, bool appears)
+void List::animate(const Change &change)
 {
     if (!m_animation) {
         m_animation = new QVariantAnimation(this);
@@ -212,15 +219,15 @@ void List::animateFrom(int row, qreal shift, Widget *cell, bool appears)
                 [this](const QVariant &value) { setAnimationProgress(value.toReal()); });
         connect(m_animation, &QVariantAnimation::finished, this, &List::finishAnimation);
     }
-    m_change = {row, shift, 0, cell, appears};
-    m_rows.setShift(row, shift);
+    m_change = change;
+    m_rows.setShift(change.shiftedFrom, change.shift, change.shiftsTitle);
     m_animation->start();
 }
 
 void List::setAnimationProgress(qreal progress)
 {
     m_change.progress = progress;
-    m_rows.setShift(m_change.shiftedFrom, m_change.shift * (1 - progress));
+    m_rows.setShift(m_change.shiftedFrom, m_change.shift * (1 - progress), m_change.shiftsTitle);
     updateCells();
     updateGeometry();
     update();
@@ -365,7 +372,9 @@ void List::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWid
     for (int row = m_rows.rowAt(option->exposedRect.top()); row <= last; ++row) {
         if (isSelected(row))
             paintSelection(painter, row);
-        if (separator.isValid() && row > 0 && !m_rows.hasTitleAbove(row))
+        // What is chosen ends at its own edge.
+        const bool isEdge = row > 0 && isSelected(row) != isSelected(row - 1);
+        if (separator.isValid() && row > 0 && !isEdge && !m_rows.hasTitleAbove(row))
             painter->fillRect(QRectF(line.left(), qRound(m_rows.top(row)), line.width(), 1), separator);
     }
 }

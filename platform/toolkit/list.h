@@ -75,6 +75,16 @@ protected:
     bool sceneEventFilter(QGraphicsItem *watched, QEvent *event) override;
 
 private:
+    struct Change
+    {
+        int shiftedFrom = 0;
+        qreal shift = 0;
+        bool shiftsTitle = true; ///< the one right above
+        qreal progress = 0;
+        Widget *cell = nullptr;
+        bool appears = false;
+    };
+
     void rowsInserted(int first, int last);
     void rowsRemoved(int first, int last);
     void dataChanged(int first, int last);
@@ -88,7 +98,7 @@ private:
     void giveBack(Widget *cell);
 
     bool isChangeAnimated(int first, int last) const;
-    void animateFrom(int row, qreal shift, Widget *cell, bool appears);
+    void animate(const Change &change);
     void setAnimationProgress(qreal progress);
     void finishAnimation();
 
@@ -124,16 +134,7 @@ private:
     QPointer<QGraphicsWidget> m_viewport;
     int m_focusedRow = -1; ///< has the focus again when it can be seen
 
-    // The change that is being animated
-    struct Change
-    {
-        int shiftedFrom = 0;
-        qreal shift = 0;
-        qreal progress = 0;
-        Widget *cell = nullptr;
-        bool appears = false;
-    };
-    Change m_change;
+    Change m_change; ///< the one that is being animated
     QVariantAnimation *m_animation = nullptr;
 };
 

@@ -7,10 +7,11 @@
 
 namespace Touch {
 
-void ListRows::setShift(int fromRow, qreal shift)
+void ListRows::setShift(int fromRow, qreal shift, bool withTitle)
 {
     m_shiftedFrom = fromRow;
     m_shift = shift;
+    m_shiftsTitle = withTitle;
 }
 
 void ListRows::setTitles(const QList<int> &firstRows, qreal height)
@@ -28,6 +29,12 @@ qreal ListRows::top(int row) const
 {
     const auto titles = std::upper_bound(m_firstRows.begin(), m_firstRows.end(), row) - m_firstRows.begin();
     return row * m_rowHeight + qreal(titles) * m_titleHeight + (row >= m_shiftedFrom ? m_shift : 0);
+}
+
+qreal ListRows::titleTop(int row) const
+{
+    const bool isLeftBehind = row == m_shiftedFrom && !m_shiftsTitle;
+    return top(row) - m_titleHeight - (isLeftBehind ? m_shift : 0);
 }
 
 int ListRows::rowAt(qreal y) const

@@ -21,10 +21,12 @@ public:
     void setTitles(const QList<int> &firstRows, qreal height);
     qreal titleHeight() const { return m_titleHeight; }
     bool hasTitleAbove(int row) const;
-    /** Moves a row and all after it by some pixels; 0 moves none. */
-    void setShift(int fromRow, qreal shift);
+    /** Moves a row and all after it by some pixels, with the title that is right above it or without; 0 moves none. */
+    void setShift(int fromRow, qreal shift, bool withTitle = true);
 
     qreal top(int row) const;
+    /** Of the title above the first row of a group. */
+    qreal titleTop(int row) const;
     qreal height() const { return m_count * m_rowHeight + qreal(m_firstRows.size()) * m_titleHeight + m_shift; }
     /** The row at a height, bounded to the rows there are; -1 if there is none. */
     int rowAt(qreal y) const;
@@ -36,6 +38,7 @@ private:
     qreal m_titleHeight = 0;
     int m_shiftedFrom = 0;
     qreal m_shift = 0;
+    bool m_shiftsTitle = true;
 };
 
 } // namespace Touch

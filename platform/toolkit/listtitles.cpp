@@ -29,8 +29,6 @@ void ListTitles::read(const QAbstractItemModel *model)
 {
     m_firstRows.clear();
     m_texts.clear();
-    qDeleteAll(m_labels);
-    m_labels.clear();
     const auto *grouped = qobject_cast<const AbstractItemModel *>(model);
     int row = 0;
     for (int group = 0; grouped && group < grouped->groupCount(); ++group) {
@@ -41,6 +39,9 @@ void ListTitles::read(const QAbstractItemModel *model)
         }
         row += count;
     }
+    // The others are placed anew.
+    while (!m_labels.isEmpty() && m_labels.lastKey() >= m_firstRows.size())
+        delete m_labels.take(m_labels.lastKey());
 }
 
 qreal ListTitles::height() const
@@ -53,8 +54,7 @@ qreal ListTitles::height() const
 void ListTitles::place(const ListRows &rows, const QRectF &seen)
 {
     for (qsizetype group = 0; group < m_firstRows.size(); ++group) {
-        const QRectF place(0, qRound(rows.top(m_firstRows[group]) - rows.titleHeight()), m_list->size().width(),
-                           rows.titleHeight());
+        const QRectF place(0, qRound(rows.titleTop(m_firstRows[group])), m_list->size().width(), rows.titleHeight());
         if (!place.intersects(seen)) {
             delete m_labels.take(group);
             continue;

@@ -10,7 +10,10 @@
 #include "touch.h"
 
 #include <memory>
+#include <QAccessible>
 #include <QItemSelectionModel>
+#include <QScopeGuard>
+#include <QSet>
 #include <QTest>
 
 using namespace Touch;
@@ -52,10 +55,14 @@ private slots:
     void showsNoTitlesUnlessAsked();
     void createsOnlyTitlesThatCanBeSeen();
     void followsItsGroupsAsTheyGrow();
+    void leavesTitlesInPlaceWhileRowsMove_data();
+    void leavesTitlesInPlaceWhileRowsMove();
+    void isChosenFromByAssistiveTechnology();
 
 private:
     QList<int> chosen() const;
     QStringList titles() const;
+    qreal titleTop(const QString &text) const;
     void settle();
 
     std::unique_ptr<ApplicationWindow> m_window;
@@ -123,6 +130,17 @@ QStringList TestListChoice::titles() const
     for (const Label *label : labels)
         texts.append(label->text());
     return texts;
+}
+
+qreal TestListChoice::titleTop(const QString &text) const
+{
+    const QList<QGraphicsItem *> children = m_list->childItems();
+    for (QGraphicsItem *child : children) {
+        const auto *label = qobject_cast<const Label *>(child->toGraphicsObject());
+        if (label && label->text() == text)
+            return label->y();
+    }
+    return -1;
 }
 
 void TestListChoice::choosesNothingUnlessAsked()
@@ -290,6 +308,67 @@ void TestListChoice::followsItsGroupsAsTheyGrow()
     m_rows->group({{QStringLiteral("Mine"), 2}, {QStringLiteral("Others"), 98}});
     settle();
     QVERIFY(m_list->cellAt(1)->y() < before);
+}
+
+void TestListChoice::leavesTitlesInPlaceWhileRowsMove_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<bool>("isInserted");
+    QTest::newRow("the first row of a group goes") << 2 << false;
+    QTest::newRow("one in the middle of it goes") << 4 << false;
+    QTest::newRow("one comes to its start") << 2 << true;
+    QTest::newRow("one comes into its middle") << 4 << true;
+}
+
+void TestListChoice::leavesTitlesInPlaceWhileRowsMove()
+{
+    QFETCH(int, row);
+    QFETCH(bool, isInserted);
+    m_rows->group({{QStringLiteral("Mine"), 2}, {QStringLiteral("Others"), 98}});
+    m_list->setShowGroups(true);
+    settle();
+    const qreal title = titleTop(QStringLiteral("Others"));
+    const qreal last = m_list->cellAt(6)->y();
+    qputenv("CLOCK_REDUCED_MOTION", "0");
+    const auto moving = qScopeGuard([] { qputenv("CLOCK_REDUCED_MOTION", "1"); });
+    if (isInserted)
+        m_rows->insert(row, QStringLiteral("new"));
+    else
+        m_rows->remove(row);
+    QSet<qreal> heights;
+    QSet<qreal> placesOfRow;
+    const int follower = isInserted ? 7 : 5;
+    QTRY_VERIFY_WITH_TIMEOUT((heights.insert(titleTop(QStringLiteral("Others"))),
+                              placesOfRow.insert(m_list->cellAt(follower)->y()),
+                              m_list->cellAt(follower)->y() == last + (isInserted ? rowHeight : -rowHeight)),
+                             5000);
+    QCOMPARE(heights, QSet<qreal>{title});
+    QVERIFY(placesOfRow.size() > 1);
+}
+
+void TestListChoice::isChosenFromByAssistiveTechnology()
+{
+    m_list->setSelectionMode(List::SingleSelection);
+    settle();
+    QAccessibleTableInterface *table = QAccessible::queryAccessibleInterface(m_list)->tableInterface();
+    QVERIFY(table->selectRow(2));
+    QCOMPARE(chosen(), QList<int>{2});
+    QVERIFY(table->selectRow(80));
+    QCOMPARE(chosen(), QList<int>{80});
+    QCOMPARE(table->selectedRows(), QList<int>{80});
+    QCOMPARE(table->selectedCells().size(), 0);
+    QVERIFY(table->unselectRow(80));
+    QCOMPARE(table->selectedRowCount(), 0);
+    QVERIFY(!table->selectRow(100));
+    m_list->setSelectionMode(List::MultipleSelection);
+    settle();
+    QVERIFY(table->selectRow(3) && table->selectRow(1));
+    QCOMPARE(table->selectedRows(), (QList<int>{1, 3}));
+    QCOMPARE(table->selectedCells().size(), 2);
+    QVERIFY(table->cellAt(1, 0)->tableCellInterface()->isSelected());
+    QVERIFY(!table->cellAt(2, 0)->tableCellInterface()->isSelected());
+    m_list->setSelectionMode(List::NoSelection);
+    QVERIFY(!table->selectRow(1));
 }
 
 QTEST_MAIN(TestListChoice)

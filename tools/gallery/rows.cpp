@@ -26,6 +26,7 @@ void Rows::insert(int row, const QString &text)
 {
     beginInsertRows({}, row, row, true);
     m_texts.insert(row, text);
+    growGroupAt(row, 1);
     endInsertRows();
 }
 
@@ -33,7 +34,19 @@ void Rows::remove(int row)
 {
     beginRemoveRows({}, row, row, true);
     m_texts.removeAt(row);
+    growGroupAt(row, -1);
     endRemoveRows();
+}
+
+void Rows::growGroupAt(int row, int by)
+{
+    for (auto &group : m_groups) {
+        if (row < group.second || &group == &m_groups.last()) {
+            group.second += by;
+            return;
+        }
+        row -= group.second;
+    }
 }
 
 void Rows::change(int row, const QString &text)

@@ -33,6 +33,8 @@ public:
     QVariant itemData(int, int, int) const override { return {}; }
 
 private:
+    void growGroupAt(int row, int by);
+
     QStringList m_texts;
     QList<QPair<QString, int>> m_groups;
 };
