@@ -20,4 +20,6 @@ void DropShadow::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWid
     fading.setColorAt(0, style().color);
     fading.setColorAt(1, end);
     painter->fillRect(rect(), fading);
+    if (style().separatorColor.isValid())
+        painter->fillRect(QRectF(rect().topLeft(), QSizeF(rect().width(), 1)), style().separatorColor);
 }

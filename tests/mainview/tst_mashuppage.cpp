@@ -187,6 +187,7 @@ void TestMashupPage::theShadowFadesDownwards()
     QPainter painter(&picture);
     shadow->paint(&painter, nullptr);
     painter.end();
+    QCOMPARE(picture.pixelColor(100, 0), shadow->style().separatorColor);
     for (int y = 1; y < picture.height(); ++y)
         QVERIFY(qAlpha(picture.pixel(100, y)) < qAlpha(picture.pixel(100, y - 1)));
 }

@@ -200,7 +200,7 @@ Question::Question()
                  QStringLiteral("It would have rung tomorrow at 7:05. What is deleted cannot be brought back."), Cancel)
 {
     addButton(QStringLiteral("Switch off"));
-    addButton(QStringLiteral("Delete"))->setStyleName(QStringLiteral("CommonDestructiveButton"));
+    addButton(QStringLiteral("Delete"))->setStyleName(QStringLiteral("DialogButtonDestructive"));
 }
 
 Editor::Editor()
@@ -218,6 +218,7 @@ Editor::Editor()
     empty->setPrompt(QStringLiteral("Title"));
     column->addItem(make<Separator>("CommonSpacer"));
     column->addItem(empty);
+    column->addItem(make<Separator>("CommonSpacer"));
     column->addItem(makeTime(), Qt::AlignCenter);
     column->addStretch();
     auto *panel = make<StylableWidget>("CommonPanelNoFeedback");
