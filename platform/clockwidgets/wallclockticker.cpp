@@ -3,11 +3,15 @@
 #include "platform/clockwidgets/wallclockticker_p.h"
 
 #include <cerrno>
+#include <cstring>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
+#include <QLoggingCategory>
 #include <QSocketNotifier>
 #include <sys/timerfd.h>
 #include <unistd.h>
+
+Q_LOGGING_CATEGORY(lcTicker, "clockwidgets.ticker")
 
 namespace {
 
@@ -37,8 +41,10 @@ void WallClockTicker::start(Beat beat)
     m_beat = beat;
     if (m_timer < 0) {
         m_timer = timerfd_create(CLOCK_REALTIME, TFD_NONBLOCK | TFD_CLOEXEC);
-        if (m_timer < 0)
+        if (m_timer < 0) {
+            qCWarning(lcTicker, "The clock does not move by itself, there is no timer: %s", std::strerror(errno));
             return;
+        }
         m_notifier = std::make_unique<QSocketNotifier>(m_timer, QSocketNotifier::Read);
         connect(m_notifier.get(), &QSocketNotifier::activated, this, &WallClockTicker::readTimer);
     }
@@ -85,7 +91,8 @@ void WallClockTicker::arm()
     itimerspec beats = {};
     beats.it_value.tv_sec = nextBeat(std::time(nullptr), m_beat);
     beats.it_interval.tv_sec = length(m_beat);
-    timerfd_settime(m_timer, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &beats, nullptr);
+    if (timerfd_settime(m_timer, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &beats, nullptr) < 0)
+        qCWarning(lcTicker, "The clock does not move by itself, its timer cannot be set: %s", std::strerror(errno));
 }
 
 void WallClockTicker::readTimer()
