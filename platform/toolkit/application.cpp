@@ -45,6 +45,7 @@ Application::Application(int &argc, char **argv, const QString &appIdentifier, A
     if (!locale.installTrCatalog(appIdentifier))
         qCWarning(lcApplication).noquote() << "There are no texts for" << appIdentifier;
     setLayoutDirection(locale.textDirection());
+    connect(&locale, &Locale::settingsChanged, this, [] { setLayoutDirection(Locale::getDefault().textDirection()); });
 }
 
 Application::~Application() = default;

@@ -98,7 +98,8 @@ void PannableViewport::ensureVisible(const QRectF &rect)
     const auto shift = [](qreal at, qreal length, qreal from, qreal to) {
         return from < at ? from : to > at + length ? to - length : at;
     };
-    wanted.setX(shift(wanted.x(), size().width(), rect.left(), rect.right()));
+    const qreal left = isMirrored() && m_widget ? m_widget->size().width() - rect.right() : rect.left();
+    wanted.setX(shift(wanted.x(), size().width(), left, left + rect.width()));
     wanted.setY(shift(wanted.y(), size().height(), rect.top(), rect.bottom()));
     if (wanted != position())
         setPosition(wanted);
@@ -136,11 +137,18 @@ void PannableViewport::moveWidget()
     if (!m_widget)
         return;
     // Whole pixels keep the text sharp.
-    m_widget->setPos(-std::round(m_x.position()), -std::round(m_y.position()));
+    const qreal x = std::round(m_x.position());
+    m_widget->setPos(isMirrored() ? size().width() - m_widget->size().width() + x : -x, -std::round(m_y.position()));
     if (m_reported == position())
         return;
     m_reported = position();
     emit positionChanged(m_reported);
+}
+
+QPointF PannableViewport::fingerOf(const QGraphicsSceneMouseEvent *event) const
+{
+    const QPointF at = mapFromScene(event->scenePos());
+    return {isMirrored() ? size().width() - at.x() : at.x(), at.y()};
 }
 
 bool PannableViewport::press(const QGraphicsSceneMouseEvent *event)
@@ -148,7 +156,7 @@ bool PannableViewport::press(const QGraphicsSceneMouseEvent *event)
     const bool wasMoving = m_timer.isActive();
     stopMoving();
     m_isPressed = event->button() == Qt::LeftButton;
-    m_pressPos = mapFromScene(event->scenePos());
+    m_pressPos = fingerOf(event);
     return wasMoving;
 }
 
@@ -156,7 +164,7 @@ bool PannableViewport::turnsIntoPanning(const QGraphicsSceneMouseEvent *event) c
 {
     if (!m_isPressed || m_isPanning)
         return false;
-    const QPointF way = mapFromScene(event->scenePos()) - m_pressPos;
+    const QPointF way = fingerOf(event) - m_pressPos;
     const bool isSideways = std::abs(way.x()) > std::abs(way.y());
     if (m_fitsWidget && (isSideways ? m_x : m_y).maximum() == 0)
         return false;
@@ -167,7 +175,7 @@ bool PannableViewport::turnsIntoPanning(const QGraphicsSceneMouseEvent *event) c
 void PannableViewport::startPanning(const QGraphicsSceneMouseEvent *event)
 {
     m_isPanning = true;
-    m_lastPos = mapFromScene(event->scenePos());
+    m_lastPos = fingerOf(event);
     m_grip = m_lastPos + QPointF(m_x.dragPosition(), m_y.dragPosition());
     m_velocity = {};
     m_movedAt = moveTime();
@@ -177,7 +185,7 @@ void PannableViewport::startPanning(const QGraphicsSceneMouseEvent *event)
 
 void PannableViewport::pan(const QGraphicsSceneMouseEvent *event)
 {
-    const QPointF at = mapFromScene(event->scenePos());
+    const QPointF at = fingerOf(event);
     const qint64 now = moveTime();
     const qreal seconds = qMax(0.001, (now - std::exchange(m_movedAt, now)) / 1000.0);
     m_velocity = m_velocity * (1 - smoothing) + (m_lastPos - at) / seconds * smoothing;
@@ -278,7 +286,8 @@ void PannableViewport::wheelEvent(QGraphicsSceneWheelEvent *event)
         event->ignore();
         return;
     }
-    (isVertical ? m_y : m_x).push(-event->delta() / wheelNotch * wheelStep);
+    const int towardsEnd = !isVertical && isMirrored() ? 1 : -1;
+    (isVertical ? m_y : m_x).push(towardsEnd * event->delta() / wheelNotch * wheelStep);
     startMoving();
     event->accept();
 }

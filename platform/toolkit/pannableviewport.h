@@ -16,7 +16,8 @@ class ContentLayout;
 /**
  * Shows a part of a widget that may be larger than itself and lets the user pan it: by dragging, with a flick that runs
  * on, by wheel or by moving the focus. A press that turns into panning is taken from the control beneath. Past an
- * end the widget gives way by half of the finger's way and springs back: that is its edge effect. Owns its widget. Nothing ticks once it rests.
+ * end the widget gives way by half of the finger's way and springs back: that is its edge effect. Owns its widget.
+ * Nothing ticks once it rests.
  */
 class PannableViewport : public Widget
 {
@@ -41,7 +42,10 @@ public:
     bool fitsWidget() const { return m_fitsWidget; }
     void setFitsWidget(bool fits);
 
-    /** How far the widget is moved, in pixels from its start; positive is towards its end. */
+    /**
+     * How far the widget is moved, in pixels from its start; positive is towards its end, from right to left where that
+     * is the way to read.
+     */
     QPointF position() const;
     void setPosition(const QPointF &position);
     /** The largest position. */
@@ -65,6 +69,9 @@ protected:
     void exitDisplay() override;
 
 private:
+    bool isMirrored() const { return layoutDirection() == Qt::RightToLeft; }
+    /** From where the widget starts, which is on the right for right-to-left. */
+    QPointF fingerOf(const QGraphicsSceneMouseEvent *event) const;
     /** Returns whether the press only stopped what was moving. */
     bool press(const QGraphicsSceneMouseEvent *event);
     bool turnsIntoPanning(const QGraphicsSceneMouseEvent *event) const;

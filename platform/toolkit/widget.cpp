@@ -136,6 +136,12 @@ void Widget::refreshStyle()
     styleChanged();
 }
 
+void Widget::followDirection()
+{
+    if (!testAttribute(Qt::WA_SetLayoutDirection))
+        unsetLayoutDirection();
+}
+
 void Widget::styleChanged()
 {
     if (layout())
@@ -195,13 +201,16 @@ QVariant Widget::itemChange(GraphicsItemChange change, const QVariant &value)
             updateGeometry();
             announceVisibility();
         }
-    } else if (change == ItemParentHasChanged && !testAttribute(Qt::WA_SetLayoutDirection)) {
+    } else if (change == ItemParentHasChanged) {
         // Graphics widgets hear of a new direction of their parent, but do not ask a new parent for its own.
-        unsetLayoutDirection();
+        followDirection();
     } else if (change == ItemSceneHasChanged) {
         const Window *window = hostWindow();
         if (window && window->isInverted() != m_isInverted)
             refreshStyle();
+        // The direction of the application may have changed while it was in no window.
+        if (!parentItem())
+            followDirection();
         refreshDisplay();
     }
     return QGraphicsWidget::itemChange(change, value);

@@ -54,6 +54,8 @@ public:
     /** Called by the window when it is shown, hidden or shows its contents in the other colours. */
     void refreshDisplay();
     void refreshStyle();
+    /** Takes its layout direction from what it is in, unless it was given one. */
+    void followDirection();
 
 protected:
     /** The style is another one now: drop what was derived from it. The base asks for a new layout and paint.

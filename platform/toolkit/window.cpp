@@ -6,22 +6,19 @@
 #include "platform/toolkit/application.h"
 #include "platform/toolkit/keyboardroom_p.h"
 #include "platform/toolkit/longpress_p.h"
-#include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/scenewindow.h"
 #include "platform/toolkit/theme.h"
+#include "platform/toolkit/viewport_p.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGraphicsLayout>
-#include <QStyleHints>
 
 namespace Touch {
 
 namespace {
 
 constexpr QSize defaultSize(480, 854);
-/** How far apart the two taps of a double tap may be. */
-constexpr int fingerWidth = 40;
 
 QList<Window *> &allWindows()
 {
@@ -51,10 +48,11 @@ Window::Window(QWidget *parent)
     m_keyboardRoom = new KeyboardRoom(this);
     // Few items, many of them moving: an index costs more than it finds.
     scene()->setItemIndexMethod(QGraphicsScene::NoIndex);
+    setViewport(makeViewport());
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setViewportUpdateMode(MinimalViewportUpdate);
+    setViewportUpdateMode(isPaintedByOpenGl(viewport()) ? FullViewportUpdate : MinimalViewportUpdate);
     setOptimizationFlags(DontSavePainterState | DontAdjustForAntialiasing);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     resize(defaultSize);
@@ -72,9 +70,9 @@ Window::~Window()
     // The scene takes the focus from its items when it goes, after this.
     scene()->disconnect(m_keyboardRoom);
     scene()->disconnect(this);
-    const QList<SceneWindow *> known = m_known;
-    for (SceneWindow *sceneWindow : known)
-        sceneWindow->leaveScene();
+    // One may take others with it, as a choice does with its open list.
+    while (!m_known.isEmpty())
+        m_known.constLast()->leaveScene();
 }
 
 Window *Window::active()
@@ -269,97 +267,6 @@ void Window::closeEvent(QCloseEvent *event)
     event->setAccepted(m_closesAtOnce || isQuitting || !stepBack());
 }
 
-// What the user does goes to where the window will be when its transition is over.
-void Window::keyPressEvent(QKeyEvent *event)
-{
-    finishTransitions();
-    setFocusShown(true);
-    if (event->key() == Qt::Key_Menu && openMenuOfFocus())
-        return;
-    QGraphicsView::keyPressEvent(event);
-    if (!event->isAccepted() && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Back)) {
-        event->accept();
-        close();
-    }
-}
-
-bool Window::openMenuOfFocus()
-{
-    Widget *owner = ObjectMenu::ownerOf(scene()->focusItem());
-    if (owner)
-        ObjectMenu::open(owner);
-    return owner;
-}
-
-SceneWindow *Window::sceneWindowAt(const QPoint &place) const
-{
-    for (QGraphicsItem *item = itemAt(place); item; item = item->parentItem()) {
-        if (auto *sceneWindow = qobject_cast<SceneWindow *>(item->toGraphicsObject()))
-            return sceneWindow;
-    }
-    return nullptr;
-}
-
-bool Window::isStrayTap(const QMouseEvent *event)
-{
-    const QPoint place = event->position().toPoint();
-    const auto interval = quint64(QGuiApplication::styleHints()->mouseDoubleClickInterval());
-    const bool isSecondTap = m_pressTime && event->timestamp() - *m_pressTime <= interval
-        && (place - m_pressPlace).manhattanLength() <= fingerWidth;
-    m_pressTime = event->timestamp();
-    m_pressPlace = place;
-    SceneWindow *sceneWindow = sceneWindowAt(place);
-    if (isSecondTap && sceneWindow != m_pressed)
-        return true;
-    m_pressed = sceneWindow;
-    return false;
-}
-
-void Window::mousePressEvent(QMouseEvent *event)
-{
-    finishTransitions();
-    setFocusShown(false);
-    if (isStrayTap(event))
-        return;
-    QGraphicsView::mousePressEvent(event);
-    if (event->button() == Qt::LeftButton)
-        m_longPress->press(event->position().toPoint());
-}
-
-void Window::mouseMoveEvent(QMouseEvent *event)
-{
-    m_longPress->moveTo(event->position().toPoint());
-    QGraphicsView::mouseMoveEvent(event);
-}
-
-void Window::mouseReleaseEvent(QMouseEvent *event)
-{
-    m_longPress->release();
-    QGraphicsView::mouseReleaseEvent(event);
-}
-
-// The menu key comes as a key as well.
-void Window::contextMenuEvent(QContextMenuEvent *event)
-{
-    if (event->reason() != QContextMenuEvent::Mouse || !m_longPress->openAt(event->pos()))
-        QGraphicsView::contextMenuEvent(event);
-}
-
-void Window::mouseDoubleClickEvent(QMouseEvent *event)
-{
-    finishTransitions();
-    if (!isStrayTap(event))
-        QGraphicsView::mouseDoubleClickEvent(event);
-}
-
-void Window::wheelEvent(QWheelEvent *event)
-{
-    finishTransitions();
-    QGraphicsView::wheelEvent(event);
-    // The view itself never scrolls.
-    event->accept();
-}
-
 void Window::resizeEvent(QResizeEvent *event)
 {
     QGraphicsView::resizeEvent(event);
@@ -393,6 +300,10 @@ void Window::changeEvent(QEvent *event)
     QGraphicsView::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && scene())
         refreshDisplay();
+    if (event->type() != QEvent::LayoutDirectionChange)
+        return;
+    for (SceneWindow *sceneWindow : std::as_const(m_known))
+        sceneWindow->followDirection();
 }
 
 } // namespace Touch

@@ -14,6 +14,7 @@
 #include "touch.h"
 
 #include <memory>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -39,6 +40,7 @@ private slots:
     void pansToWhatIsChosen();
     void clearsItsItems();
     void takesItsListWithIt();
+    void goesWithItsWindowWhileItIsOpen();
 
 private:
     Dialog *popup() const { return qobject_cast<Dialog *>(m_window->topSceneWindow()); }
@@ -212,6 +214,22 @@ void TestComboBox::takesItsListWithIt()
     m_box->showPopup();
     delete m_box;
     QVERIFY(!popup());
+}
+
+void TestComboBox::goesWithItsWindowWhileItIsOpen()
+{
+    auto window = std::make_unique<ApplicationWindow>();
+    auto *page = new ApplicationPage;
+    const QPointer<ComboBox> box = new ComboBox(page->centralWidget());
+    box->addItem(QStringLiteral("5 minutes"));
+    page->appear(window.get(), SceneWindow::DestroyWhenDone);
+    window->show();
+    box->showPopup();
+    const QPointer<SceneWindow> list = window->topSceneWindow();
+    QVERIFY(box->isPopupOpen() && list != page);
+    window.reset();
+    QVERIFY(!box);
+    QVERIFY(!list);
 }
 
 QTEST_MAIN(TestComboBox)

@@ -29,6 +29,7 @@ private slots:
     void cleanup();
     void pansInItsDirectionsOnly_data();
     void pansInItsDirectionsOnly();
+    void pansFromRightToLeft();
     void goesBackToItsStartWithoutADirection();
     void runsOnAfterAFlickAndRests();
     void doesNotRunOnAfterARest();
@@ -99,6 +100,25 @@ void TestPannableViewport::pansInItsDirectionsOnly()
     QCOMPARE(m_viewport->position().y() > 100, movesY);
     // What did not become panning is still a tap on the control beneath.
     QCOMPARE(clicked.count(), movesX || movesY ? 0 : 1);
+}
+
+void TestPannableViewport::pansFromRightToLeft()
+{
+    m_viewport->setLayoutDirection(Qt::RightToLeft);
+    m_viewport->setPanDirection(Qt::Horizontal);
+    QTRY_COMPARE(m_viewport->range().x(), 420.0);
+    const auto right = [this] { return m_content->geometry().right(); };
+    QCOMPARE(right(), 480.0);
+    // The start is on the right: a finger that goes there brings up what lies further to the left.
+    Finger::drag(*m_window, m_viewport, {100, 400}, {350, 400});
+    QVERIFY(m_viewport->position().x() > 100);
+    QVERIFY(right() > 580);
+    m_viewport->setPosition({420, 0});
+    QCOMPARE(right(), 900.0);
+    m_viewport->ensureVisible(QRectF(850, 0, 50, 50));
+    QCOMPARE(m_viewport->position().x(), 0.0);
+    m_viewport->ensureVisible(QRectF(0, 0, 50, 50));
+    QCOMPARE(m_viewport->position().x(), 420.0);
 }
 
 void TestPannableViewport::goesBackToItsStartWithoutADirection()
