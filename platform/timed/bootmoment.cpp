@@ -38,10 +38,12 @@ QString removeFile(const QString &path, const QString &folder)
 
 } // namespace
 
-BootMoment::BootMoment(const EventBook &book, const Schedule &schedule, const Clock &clock, const QString &folder)
+BootMoment::BootMoment(const EventBook &book, const Schedule &schedule, const Clock &clock, const QString &folder,
+                       const QString &clocks)
     : m_book(book)
     , m_clock(clock)
     , m_folder(folder)
+    , m_wakeAlarm(clocks + "/rtc0/wakealarm")
 {
     // Many changes at once are written once, and nobody waits for it.
     m_soon.setSingleShot(true);
@@ -67,7 +69,8 @@ void BootMoment::update()
 
 QVariantMap BootMoment::facts() const
 {
-    QVariantMap facts{{"boot_ready", m_problem.isEmpty()}, {"boot_reason", m_problem}};
+    const QString reason = obstacle();
+    QVariantMap facts{{"boot_ready", reason.isEmpty()}, {"boot_reason", reason}};
     if (const auto moment = next())
         facts.insert("boot_moment", toNanoseconds(*moment));
     return facts;
@@ -82,6 +85,13 @@ std::optional<qint64> BootMoment::next() const
             first = moment;
     }
     return first;
+}
+
+QString BootMoment::obstacle() const
+{
+    if (m_problem.isEmpty() && !QFile::exists(m_wakeAlarm))
+        return QStringLiteral("no hardware clock can turn the device on");
+    return m_problem;
 }
 
 void BootMoment::write(std::optional<qint64> moment)

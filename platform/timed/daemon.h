@@ -17,6 +17,7 @@ struct Settings
     QString folder;           ///< of the store
     QString localtime;        ///< the file that tells the time zone
     QString bootFolder;       ///< where clock-rtc finds the next moment to turn the device on for
+    QString clocks;           ///< where the kernel shows the hardware clocks
     qint64 ringTime = 120000; ///< milliseconds
 };
 

@@ -16,6 +16,7 @@ namespace {
 // For devices that keep these elsewhere, and for tests.
 constexpr auto LocaltimeVariable = "TIMED_LOCALTIME";
 constexpr auto BootFolderVariable = "TIMED_BOOT_FOLDER";
+constexpr auto ClocksVariable = "TIMED_RTC_FOLDER";
 constexpr auto RingTimeVariable = "TIMED_RING_TIME";
 
 Settings readSettings()
@@ -24,6 +25,7 @@ Settings readSettings()
     settings.folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/timed";
     settings.localtime = qEnvironmentVariable(LocaltimeVariable, "/etc/localtime");
     settings.bootFolder = qEnvironmentVariable(BootFolderVariable, "/var/lib/clock-rtc");
+    settings.clocks = qEnvironmentVariable(ClocksVariable, "/sys/class/rtc");
     bool given = false;
     const int seconds = qEnvironmentVariableIntValue(RingTimeVariable, &given);
     if (given && seconds > 0)

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <ctime>
+#include <QDir>
+#include <QFile>
 #include <QSocketNotifier>
 #include <sys/timerfd.h>
 #include <unistd.h>
@@ -35,18 +37,35 @@ qint64 toMilliseconds(const timespec &time)
         + (time.tv_nsec + NanosecondsOfMillisecond / 2) / NanosecondsOfMillisecond;
 }
 
+// The kernel hands the moment to such a clock when the device goes to sleep.
+bool wakesTheDevice(const QString &clock)
+{
+    QFile wakeup(clock + "/device/power/wakeup");
+    return QFile::exists(clock + "/wakealarm")
+        && (!wakeup.open(QIODevice::ReadOnly) || wakeup.readAll().trimmed() == "enabled");
+}
+
+bool anyWakesTheDevice(const QString &folder)
+{
+    const QDir clocks(folder);
+    const QStringList names = clocks.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    return std::any_of(names.begin(), names.end(),
+                       [&clocks](const QString &name) { return wakesTheDevice(clocks.filePath(name)); });
+}
+
 } // namespace
 
-TimerFdWakeTimer::TimerFdWakeTimer()
-    : TimerFdWakeTimer(timerfd_settime)
+TimerFdWakeTimer::TimerFdWakeTimer(const QString &clocks)
+    : TimerFdWakeTimer(clocks, timerfd_settime)
 { }
 
-TimerFdWakeTimer::TimerFdWakeTimer(SetTime setTime)
+TimerFdWakeTimer::TimerFdWakeTimer(const QString &clocks, SetTime setTime)
     : m_setTime(setTime)
+    , m_clocks(clocks)
     , m_descriptor(timerfd_create(CLOCK_REALTIME_ALARM, TFD_CLOEXEC | TFD_NONBLOCK))
 {
     if (m_descriptor < 0) {
-        m_reason = QStringLiteral("the process may not set wake-up timers: %1").arg(qt_error_string(errno));
+        m_refusal = QStringLiteral("the process may not set wake-up timers: %1").arg(qt_error_string(errno));
         m_descriptor = timerfd_create(CLOCK_REALTIME, TFD_CLOEXEC | TFD_NONBLOCK);
     }
     if (m_descriptor < 0) {
@@ -107,7 +126,15 @@ std::optional<qint64> TimerFdWakeTimer::armedFor() const
 
 QString TimerFdWakeTimer::kind() const
 {
-    return wakesFromSleep() ? QStringLiteral("CLOCK_REALTIME_ALARM") : QStringLiteral("CLOCK_REALTIME");
+    return m_refusal.isEmpty() ? QStringLiteral("CLOCK_REALTIME_ALARM") : QStringLiteral("CLOCK_REALTIME");
+}
+
+QString TimerFdWakeTimer::reason() const
+{
+    // Asked anew each time: the driver of a clock may be loaded late, and be told not to wake.
+    if (m_refusal.isEmpty() && !anyWakesTheDevice(m_clocks))
+        return QStringLiteral("no hardware clock can wake the device");
+    return m_refusal;
 }
 
 void TimerFdWakeTimer::readEvent()

@@ -28,6 +28,7 @@ private slots:
     void fileFollowsTheNextMoment();
     void lastChangeIsWrittenAtTheEnd();
     void missingFolderIsReported();
+    void missingHardwareClockIsReported();
 
 private:
     static QByteArray content(const QTemporaryDir &folder)
@@ -35,13 +36,20 @@ private:
         QFile file(folder.filePath(QString::number(getuid())));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
     }
+    static bool makeWakeAlarm(const QTemporaryDir &clocks)
+    {
+        QFile file(clocks.filePath("rtc0/wakealarm"));
+        return QDir(clocks.path()).mkdir("rtc0") && file.open(QIODevice::WriteOnly);
+    }
 };
 
 void tst_BootMoment::fileFollowsTheNextMoment()
 {
     const QTemporaryDir folder;
+    const QTemporaryDir clocks;
+    QVERIFY(makeWakeAlarm(clocks));
     World world(Start);
-    BootMoment boot(world.parts->book, world.parts->schedule, world.clock, folder.path());
+    BootMoment boot(world.parts->book, world.parts->schedule, world.clock, folder.path(), clocks.path());
     boot.update();
     QCOMPARE(content(folder), "none");
     QCOMPARE(boot.facts(), (QVariantMap{{"boot_ready", true}, {"boot_reason", ""}}));
@@ -69,7 +77,7 @@ void tst_BootMoment::lastChangeIsWrittenAtTheEnd()
     const QTemporaryDir folder;
     World world(Start);
     {
-        BootMoment boot(world.parts->book, world.parts->schedule, world.clock, folder.path());
+        BootMoment boot(world.parts->book, world.parts->schedule, world.clock, folder.path(), "/nonexistent");
         boot.update();
         world.add(daily(7, 0, Boots));
         QCOMPARE(content(folder), "none");
@@ -80,7 +88,7 @@ void tst_BootMoment::lastChangeIsWrittenAtTheEnd()
 void tst_BootMoment::missingFolderIsReported()
 {
     World world(Start);
-    BootMoment boot(world.parts->book, world.parts->schedule, world.clock, "/nonexistent");
+    BootMoment boot(world.parts->book, world.parts->schedule, world.clock, "/nonexistent", "/nonexistent");
     boot.update();
     QCOMPARE(boot.facts().value("boot_ready"), false);
     QVERIFY(boot.facts().value("boot_reason").toString().startsWith("/nonexistent: "));
@@ -92,6 +100,20 @@ void tst_BootMoment::missingFolderIsReported()
     boot.update();
     QCOMPARE(log.lines(QtWarningMsg).size(), 1);
     QVERIFY(boot.facts().value("boot_reason").toString().startsWith("/nonexistent/"));
+}
+
+void tst_BootMoment::missingHardwareClockIsReported()
+{
+    const QTemporaryDir folder;
+    const QTemporaryDir clocks;
+    World world(Start);
+    BootMoment boot(world.parts->book, world.parts->schedule, world.clock, folder.path(), clocks.path());
+    boot.update();
+    QCOMPARE(boot.facts(),
+             (QVariantMap{{"boot_ready", false}, {"boot_reason", "no hardware clock can turn the device on"}}));
+    // Its driver may be loaded late.
+    QVERIFY(makeWakeAlarm(clocks));
+    QCOMPARE(boot.facts().value("boot_ready"), true);
 }
 
 QTEST_GUILESS_MAIN(tst_BootMoment)

@@ -4,7 +4,10 @@
 
 #include <cerrno>
 #include <QDateTime>
+#include <QDir>
+#include <QFile>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <sys/timerfd.h>
 #include <utility>
@@ -37,7 +40,8 @@ private slots:
     void expiresAtItsMomentAndNotBefore();
     void momentThatPassedExpiresAtOnce();
     void tellsOfAClockThatWasSetBeforeItIsArmed();
-    void kindAndReasonAgree();
+    void wakesWithTheRightAndAClockThatCan_data();
+    void wakesWithTheRightAndAClockThatCan();
 };
 
 void tst_TimerFdWakeTimer::armedMomentIsReadBack()
@@ -79,7 +83,7 @@ void tst_TimerFdWakeTimer::momentThatPassedExpiresAtOnce()
 
 void tst_TimerFdWakeTimer::tellsOfAClockThatWasSetBeforeItIsArmed()
 {
-    TimerFdWakeTimer timer(setTime);
+    TimerFdWakeTimer timer("/sys/class/rtc", setTime);
     const QSignalSpy clockSet(&timer, &WakeTimer::clockSet);
     const QSignalSpy expired(&timer, &WakeTimer::expired);
     timer.arm(QDateTime::currentMSecsSinceEpoch() + 3600000);
@@ -90,11 +94,42 @@ void tst_TimerFdWakeTimer::tellsOfAClockThatWasSetBeforeItIsArmed()
     QCOMPARE(clockSet.size(), 1);
 }
 
-void tst_TimerFdWakeTimer::kindAndReasonAgree()
+void tst_TimerFdWakeTimer::wakesWithTheRightAndAClockThatCan_data()
 {
-    const TimerFdWakeTimer timer;
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QByteArray>("wakeup");
+    QTest::addColumn<bool>("isAble");
+
+    QTest::newRow("no clock") << QStringList() << QByteArray() << false;
+    QTest::newRow("one without an alarm") << QStringList{"rtc0/time"} << QByteArray() << false;
+    QTest::newRow("one with an alarm") << QStringList{"rtc0/wakealarm"} << QByteArray() << true;
+    QTest::newRow("the second one") << QStringList{"rtc0/time", "rtc1/wakealarm"} << QByteArray() << true;
+    QTest::newRow("told to wake") << QStringList{"rtc0/wakealarm"} << QByteArray("enabled\n") << true;
+    QTest::newRow("told not to wake") << QStringList{"rtc0/wakealarm"} << QByteArray("disabled\n") << false;
+}
+
+void tst_TimerFdWakeTimer::wakesWithTheRightAndAClockThatCan()
+{
+    QFETCH(QStringList, files);
+    QFETCH(QByteArray, wakeup);
+    QFETCH(bool, isAble);
+    const QTemporaryDir clocks;
+    const auto write = [&clocks](const QString &name, const QByteArray &content) {
+        QFile file(clocks.filePath(name));
+        return QDir().mkpath(QFileInfo(file).path()) && file.open(QIODevice::WriteOnly)
+            && file.write(content) == content.size();
+    };
+    for (const QString &name : std::as_const(files))
+        QVERIFY(write(name, {}));
+    if (!wakeup.isEmpty())
+        QVERIFY(write("rtc0/device/power/wakeup", wakeup));
+
+    const TimerFdWakeTimer timer(clocks.path());
+    const bool isGranted = timer.kind() == "CLOCK_REALTIME_ALARM";
+    QCOMPARE(timer.wakesFromSleep(), isGranted && isAble);
     QCOMPARE(timer.reason().isEmpty(), timer.wakesFromSleep());
-    QCOMPARE(timer.kind(), timer.wakesFromSleep() ? "CLOCK_REALTIME_ALARM" : "CLOCK_REALTIME");
+    if (isGranted && !isAble)
+        QCOMPARE(timer.reason(), "no hardware clock can wake the device");
 }
 
 QTEST_GUILESS_MAIN(tst_TimerFdWakeTimer)

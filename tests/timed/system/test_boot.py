@@ -15,14 +15,20 @@ CLOCK_RTC = os.path.join(os.path.dirname(TIMED), "clock-rtc")
 class Boot(DaemonCase):
     with_system_bus = False
 
+    def setUp(self):
+        super().setUp()
+        self.clock = os.path.join(self.folder("rtc"), "rtc0")
+        self.alarm = os.path.join(self.clock, "wakealarm")
+        os.makedirs(self.clock, exist_ok=True)
+        with open(self.alarm, "w", encoding="ascii"):
+            pass
+        self.environment["TIMED_RTC_FOLDER"] = self.folder("rtc")
+
     def shut_down(self):
         """Ends the session and does what the system's unit does then; answers the hardware clock's alarm."""
         self.stop_daemon()
-        alarm = os.path.join(self.folder("rtc"), "wakealarm")
-        with open(alarm, "w", encoding="ascii"):
-            pass
-        subprocess.run([CLOCK_RTC, "--moments", self.folder("boot"), "--rtc", self.folder("rtc")], check=True)
-        with open(alarm, encoding="ascii") as file:
+        subprocess.run([CLOCK_RTC, "--moments", self.folder("boot"), "--rtc", self.clock], check=True)
+        with open(self.alarm, encoding="ascii") as file:
             return file.read()
 
     def test_next_alarm_with_the_flag_turns_the_device_on(self):
@@ -48,6 +54,13 @@ class Boot(DaemonCase):
         self.start_daemon()
         self.assertFalse(self.fact("boot_ready"))
         self.assertIn("/nonexistent", self.fact("boot_reason"))
+
+    def test_missing_hardware_clock_is_told(self):
+        os.remove(self.alarm)
+        self.start_daemon()
+        self.assertFalse(self.fact("boot_ready"))
+        self.assertFalse(self.fact("timer_wakes"))
+        self.assertIn("hardware clock", self.fact("boot_reason"))
 
 
 if __name__ == "__main__":
