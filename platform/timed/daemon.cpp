@@ -21,6 +21,7 @@
 #include "platform/timed/ringing.h"
 #include "platform/timed/schedule.h"
 #include "platform/timed/sleepguard.h"
+#include "platform/timed/snapshotkeeper.h"
 #include "platform/timed/sqlitestore.h"
 #include "platform/timed/systemclock.h"
 #include "platform/timed/timedate.h"
@@ -29,6 +30,7 @@
 #include <chrono>
 #include <QDBusConnection>
 #include <QDBusError>
+#include <QTimer>
 
 namespace Astel::Timed {
 
@@ -37,12 +39,8 @@ namespace {
 // The standard name for an error of the bus itself.
 constexpr auto BusError = "org.freedesktop.DBus.Error.Failed";
 
-// Many changes in a row are copied together, and do not share the disk with the copy.
-constexpr std::chrono::milliseconds PauseBeforeSnapshot = std::chrono::seconds(2);
 constexpr std::chrono::milliseconds RetryInterval = std::chrono::seconds(2);
 constexpr int MaximalRetries = 3;
-// Should no other change come.
-constexpr std::chrono::milliseconds LongestWithoutSnapshot = std::chrono::hours(24);
 
 } // namespace
 
@@ -68,6 +66,7 @@ struct Daemon::Parts
         , notifier(bus)
         , missedTeller(book, lifeCycle, notifier, zone)
         , answerTeller(lifeCycle, notifier, zone)
+        , snapshots(store, clock, {})
     {
         health.add([this] { return sleep.facts(); });
         health.add([this] { return boot.facts(); });
@@ -95,17 +94,13 @@ struct Daemon::Parts
     BusNotifier notifier;
     MissedTeller missedTeller;
     AnswerTeller answerTeller;
+    SnapshotKeeper snapshots;
 };
 
 Daemon::Daemon(const Settings &settings, std::unique_ptr<SqliteStore> store)
     : m_store(std::move(store))
     , m_parts(std::make_unique<Parts>(settings, *m_store, QDBusConnection::sessionBus(), QDBusConnection::systemBus()))
-{
-    m_snapshotTimer.setSingleShot(true);
-    m_snapshotTimer.setTimerType(Qt::VeryCoarseTimer);
-    QObject::connect(&m_snapshotTimer, &QTimer::timeout, &m_snapshotTimer,
-                     [this] { m_store->takeSnapshot(m_parts->clock.now()); });
-}
+{ }
 
 Daemon::~Daemon() = default;
 
@@ -157,11 +152,11 @@ void Daemon::follow()
     QObject::connect(&parts.zone, &ZoneSource::changed, &parts.lifeCycle, &LifeCycle::zoneChanged);
     QObject::connect(&parts.sleep, &SleepControl::goesToSleep, &parts.lifeCycle, &LifeCycle::goesToSleep);
     QObject::connect(&parts.sleep, &SleepControl::resumed, &parts.lifeCycle, &LifeCycle::resumed);
-    QObject::connect(&parts.notifier, &Notifier::appeared, &m_snapshotTimer, [this] {
+    QObject::connect(&parts.notifier, &Notifier::appeared, &parts.notifier, [this] {
         m_noticesTried = 0;
         tellOfRestoration();
     });
-    QObject::connect(&parts.service, &BusService::idle, &m_snapshotTimer, [this] { keepSnapshot(); });
+    QObject::connect(&parts.service, &BusService::idle, &parts.snapshots, &SnapshotKeeper::follow);
 }
 
 void Daemon::tellOfRestoration()
@@ -178,17 +173,8 @@ void Daemon::tellOfRestoration()
         m_restorationUntold = !shown;
         // One that has just come may not be ready yet.
         if (!shown && m_parts->notifier.isPresent() && m_noticesTried++ < MaximalRetries)
-            QTimer::singleShot(RetryInterval, &m_snapshotTimer, [this] { tellOfRestoration(); });
+            QTimer::singleShot(RetryInterval, &m_parts->notifier, [this] { tellOfRestoration(); });
     });
-}
-
-void Daemon::keepSnapshot()
-{
-    if (!m_store->isAheadOfSnapshot())
-        return;
-    const auto delay = m_store->wantsSnapshot(m_parts->clock.now()) ? PauseBeforeSnapshot : LongestWithoutSnapshot;
-    if (!m_snapshotTimer.isActive() || m_snapshotTimer.intervalAsDuration() > delay)
-        m_snapshotTimer.start(delay);
 }
 
 } // namespace Astel::Timed

@@ -6,7 +6,6 @@
 
 #include <memory>
 #include <QObject>
-#include <QTimer>
 
 namespace Astel::Timed {
 
@@ -39,12 +38,10 @@ private:
     Daemon(const Settings &settings, std::unique_ptr<SqliteStore> store);
     Result<> start();
     void follow();
-    void keepSnapshot();
     void tellOfRestoration();
 
     std::unique_ptr<SqliteStore> m_store;
     std::unique_ptr<Parts> m_parts;
-    QTimer m_snapshotTimer;
     bool m_restorationUntold = false;
     int m_noticesTried = 0;
 };

@@ -68,6 +68,7 @@ SnapshotWriter::~SnapshotWriter()
 
 void SnapshotWriter::start()
 {
+    m_owed = true;
     if (!m_asked.exchange(true))
         m_thread.start([this] { write(); });
 }
@@ -94,6 +95,7 @@ void SnapshotWriter::write()
         QFile::remove(fresh);
         qCWarning(lcTimed, "ignoring: no snapshot: %ls", qUtf16Printable(problem));
     }
+    m_owed = !problem.isEmpty();
 }
 
 QString SnapshotWriter::copy(const QString &target)

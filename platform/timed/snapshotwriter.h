@@ -24,6 +24,8 @@ public:
     /** Asks for a copy of what is committed by now; returns at once. */
     void start();
     void wait() { m_thread.waitForDone(); }
+    /** Whether the copy that was asked for last has failed, or is still under way. */
+    bool isOwed() const { return m_owed; }
     /** "ok", or what was wrong with the database when it was last copied. */
     QString integrity() const;
 
@@ -35,6 +37,7 @@ private:
     const QString m_path;
     QThreadPool m_thread;
     std::atomic<bool> m_asked = false;
+    std::atomic<bool> m_owed = false;
     mutable QMutex m_mutex;
     QString m_integrity = QStringLiteral("ok");
 };

@@ -17,6 +17,7 @@ namespace {
 
 constexpr qint64 Day = Q_INT64_C(86400) * 1000;
 constexpr int CommitsBetweenSnapshots = 10;
+constexpr qint64 PauseAfterFailure = Q_INT64_C(600) * 1000;
 
 QVariant orNull(std::optional<qint64> moment)
 {
@@ -183,8 +184,9 @@ bool SqliteStore::wasRestored() const
 
 bool SqliteStore::wantsSnapshot(qint64 now) const
 {
-    return m_commitsSinceSnapshot >= CommitsBetweenSnapshots
-        || (m_commitsSinceSnapshot > 0 && std::abs(now - m_lastSnapshot) >= Day);
+    const qint64 since = std::abs(now - m_lastSnapshot);
+    return m_commitsSinceSnapshot >= CommitsBetweenSnapshots || (m_commitsSinceSnapshot > 0 && since >= Day)
+        || (m_snapshots.isOwed() && since >= PauseAfterFailure);
 }
 
 void SqliteStore::takeSnapshot(qint64 now)
