@@ -9,6 +9,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QRawFont>
+#include <QTextLayout>
 #include <QTextOption>
 #include <QtMath>
 
@@ -19,6 +20,7 @@ namespace {
 constexpr ushort firstComplexCharacter = 0x0250;
 /** How small, as a share of its size, a text gets to fit. */
 constexpr qreal smallestShare = 0.7;
+constexpr qreal endless = 1'000'000;
 
 /** Glyphs of a plain text in which each digit takes the width of the widest digit. */
 QGlyphRun tabularGlyphs(const QString &text, const QFont &font, qreal *width)
@@ -46,6 +48,24 @@ QGlyphRun tabularGlyphs(const QString &text, const QFont &font, qreal *width)
     return run;
 }
 
+bool isPlain(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < firstComplexCharacter; });
+}
+
+/** As wide as it is drawn: of scripts that come from several fonts the metrics alone say too little. */
+qreal widthOf(const QString &text, const QFont &font)
+{
+    if (isPlain(text))
+        return QFontMetricsF(font).horizontalAdvance(text);
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(endless);
+    layout.endLayout();
+    return line.naturalTextWidth();
+}
+
 } // namespace
 
 void PreparedText::setText(const QString &text)
@@ -70,21 +90,21 @@ void PreparedText::setFit(Fit fit, Qt::Alignment lines)
 
 bool PreparedText::isTabular() const
 {
-    return m_hasTabularDigits && m_fit != Fit::Wrap && !m_text.isEmpty()
-        && std::all_of(m_text.begin(), m_text.end(), [](QChar c) { return c.unicode() < firstComplexCharacter; });
+    return m_hasTabularDigits && m_fit != Fit::Wrap && !m_text.isEmpty() && isPlain(m_text);
 }
 
 QSizeF PreparedText::naturalSize(qreal width) const
 {
-    const QFontMetricsF metrics(m_font);
     if (m_fit == Fit::Wrap && width >= 0) {
         prepare(width);
         return {width, std::ceil(m_size.height())};
     }
-    qreal natural = metrics.horizontalAdvance(m_text);
+    qreal natural = 0;
     if (isTabular())
         tabularGlyphs(m_text, m_font, &natural);
-    return {std::ceil(natural), std::ceil(metrics.height())};
+    else
+        natural = widthOf(m_text, m_font);
+    return {std::ceil(natural), std::ceil(QFontMetricsF(m_font).height())};
 }
 
 qreal PreparedText::minimumWidth() const
@@ -125,7 +145,7 @@ void PreparedText::prepare(qreal width) const
             return;
         m_glyphs = {};
     }
-    const bool elides = (m_fit == Fit::Elide || m_fit == Fit::Shrink) && metrics.horizontalAdvance(m_text) > width;
+    const bool elides = (m_fit == Fit::Elide || m_fit == Fit::Shrink) && widthOf(m_text, m_fittedFont) > width;
     m_static.setText(elides ? metrics.elidedText(m_text, Qt::ElideRight, width) : m_text);
     m_static.setTextFormat(Qt::PlainText);
     QTextOption option;
