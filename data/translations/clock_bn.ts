@@ -105,7 +105,7 @@
     </message>
     <message id="qtn_cloc_set_manually">
         <source>Choose another time</source>
-        <translation>অন্য সময় বেছে নিন</translation>
+        <translation>অন্য সময়</translation>
     </message>
     <message id="qtn_comm_time_am">
         <source>AM</source>

@@ -96,7 +96,7 @@
     <message id="qtn_cloc_reset_alarm">
         <source>Clocks go forward</source>
         <extracomment>Title of the question about an alarm at a time that summer time skips.</extracomment>
-        <translation>Die Uhren werden vorgestellt</translation>
+        <translation>Beginn der Sommerzeit</translation>
     </message>
     <message id="qtn_cloc_dst_transition_warning">
         <source>The clocks change before this alarm, so it would not ring at the time you chose. Set it to %1 instead?</source>
@@ -105,7 +105,7 @@
     </message>
     <message id="qtn_cloc_set_manually">
         <source>Choose another time</source>
-        <translation>Andere Zeit wählen</translation>
+        <translation>Andere Zeit</translation>
     </message>
     <message id="qtn_comm_time_am">
         <source>AM</source>

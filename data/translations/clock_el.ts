@@ -105,7 +105,7 @@
     </message>
     <message id="qtn_cloc_set_manually">
         <source>Choose another time</source>
-        <translation>Επιλογή άλλης ώρας</translation>
+        <translation>Άλλη ώρα</translation>
     </message>
     <message id="qtn_comm_time_am">
         <source>AM</source>

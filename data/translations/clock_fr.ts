@@ -101,11 +101,11 @@
     <message id="qtn_cloc_dst_transition_warning">
         <source>The clocks change before this alarm, so it would not ring at the time you chose. Set it to %1 instead?</source>
         <extracomment>%1 is the time one hour earlier.</extracomment>
-        <translation>L’heure change avant cette alarme : elle ne sonnerait pas à l’heure choisie. La régler plutôt sur %1 ?</translation>
+        <translation>L’heure change avant cette alarme : elle ne sonnerait pas à l’heure choisie. La régler plutôt sur %1 ?</translation>
     </message>
     <message id="qtn_cloc_set_manually">
         <source>Choose another time</source>
-        <translation>Choisir une autre heure</translation>
+        <translation>Autre heure</translation>
     </message>
     <message id="qtn_comm_time_am">
         <source>AM</source>

@@ -97,7 +97,7 @@
     <message id="qtn_cloc_reset_alarm">
         <source>Clocks go forward</source>
         <extracomment>Title of the question about an alarm at a time that summer time skips.</extracomment>
-        <translation>Часы переводятся вперёд</translation>
+        <translation>Летнее время</translation>
     </message>
     <message id="qtn_cloc_dst_transition_warning">
         <source>The clocks change before this alarm, so it would not ring at the time you chose. Set it to %1 instead?</source>
@@ -106,7 +106,7 @@
     </message>
     <message id="qtn_cloc_set_manually">
         <source>Choose another time</source>
-        <translation>Выбрать другое время</translation>
+        <translation>Другое время</translation>
     </message>
     <message id="qtn_comm_time_am">
         <source>AM</source>

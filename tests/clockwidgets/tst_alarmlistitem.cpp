@@ -62,6 +62,8 @@ private Q_SLOTS:
     void showsEveryPropertyAsARecycledCell();
     void hidesTheRepeatLineInTheOneLineStyle();
     void aLongTitleEndsBeforeTheSwitch();
+    void showsTheLastOfManyDays();
+    void tellsThatTheRepeatTextIsCutOff();
     void showsNothingForAnInvalidTime();
     void followsTheTimeFormat();
     void standsTheOtherWayRoundFromRightToLeft();
@@ -243,6 +245,28 @@ void tst_AlarmListItem::aLongTitleEndsBeforeTheSwitch()
     const QImage cut = scene.picture();
     scene.item->setSubTitle(QString("Work and more work ").repeated(20) + "tomorrow");
     QVERIFY(scene.picture() == cut);
+}
+
+void tst_AlarmListItem::showsTheLastOfManyDays()
+{
+    Scene scene;
+    scene.item->setItemStyle(AlarmListItem::WithRepeatLine);
+    scene.item->setGeometry(0, 100, 360, 88);
+    scene.item->setSubText("Mon, Tue, Wed, Thu, Fri, Sat");
+    QVERIFY(scene.stage.show());
+    QVERIFY(scene.item->showsWholeSubText());
+    const QImage saturday = scene.picture();
+    scene.item->setSubText("Mon, Tue, Wed, Thu, Fri, Sun");
+    QVERIFY(scene.picture() != saturday);
+}
+
+void tst_AlarmListItem::tellsThatTheRepeatTextIsCutOff()
+{
+    Scene scene;
+    scene.item->setItemStyle(AlarmListItem::WithRepeatLine);
+    scene.item->setGeometry(0, 100, 360, 88);
+    scene.item->setSubText(QStringLiteral("Wednesday, ").repeated(20));
+    QVERIFY(!scene.item->showsWholeSubText());
 }
 
 void tst_AlarmListItem::showsNothingForAnInvalidTime()

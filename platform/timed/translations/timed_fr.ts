@@ -48,7 +48,7 @@
     <message id="qtn_timed_missed_line">
         <source>%1 (%2): %3</source>
         <extracomment>The title of an alarm, the day and the time at which it should have rung, and why it did not</extracomment>
-        <translation>%1 (%2) : %3</translation>
+        <translation>%1 (%2) : %3</translation>
     </message>
     <message id="qtn_timed_missed_off">
         <source>the device was off</source>
@@ -84,7 +84,7 @@
     <message id="qtn_timed_ring_title_now">
         <source>Ring now: %1</source>
         <extracomment>%1 is the title of an alarm</extracomment>
-        <translation>Sonner maintenant : %1</translation>
+        <translation>Sonner maintenant : %1</translation>
     </message>
     <message id="qtn_timed_restored">
         <source>Alarms were restored</source>
@@ -92,7 +92,7 @@
     </message>
     <message id="qtn_timed_restored_why">
         <source>The file of the alarms was damaged. An earlier copy took its place: the latest changes may be missing, please look through your alarms.</source>
-        <translation>Le fichier des alarmes était endommagé. Une copie antérieure l’a remplacé : il peut manquer les dernières modifications, vérifiez vos alarmes.</translation>
+        <translation>Le fichier des alarmes était endommagé. Une copie antérieure l’a remplacé : il peut manquer les dernières modifications, vérifiez vos alarmes.</translation>
     </message>
 </context>
 </TS>
