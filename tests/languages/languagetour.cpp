@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/languages/languagetour.h"
 
+#include "alarmlist/emptylisthint.h"
 #include "alarmlist/notices/informationbanner.h"
 #include "alarms/qmalarmevent.h"
 #include "editor/alarmeditorlistitem.h"
@@ -21,6 +22,8 @@
 
 #include <QApplication>
 #include <QFontMetricsF>
+#include <QSettings>
+#include <QStandardPaths>
 #include <QTest>
 
 using Touch::SceneWindow;
@@ -28,7 +31,7 @@ using Touch::SceneWindow;
 namespace {
 
 constexpr QSize Narrow(360, 720);
-// The store of tones is made when it is first asked.
+// On a busy machine.
 constexpr int Patience = 30'000;
 
 /** Of this class, above all else in the window; null if something else is. */
@@ -114,12 +117,15 @@ void LanguageTour::visitMainPage()
     m_mainPage = std::make_unique<MashupPage>();
     m_mainPage->appear(m_window.get());
     m_window->show();
-    expect(QTest::qWaitForWindowExposed(m_window.get()), "window");
+    expect(QTest::qWaitForWindowExposed(m_window.get(), Patience), "window");
+    const auto *hint = Support::itemIn<EmptyListHint>(m_mainPage.get());
+    expect(hint && QTest::qWaitFor([hint] { return hint->isVisible(); }, Patience), "what to do with an empty list");
     look("empty");
     Support::addAlarm(QTime(6, 30), "06:30", {1, 2, 3, 4, 5, 6});
     Support::addAlarm(QTime(8, 45), "08:45", {0, 6});
     Support::addSwitchedOffAlarm(QTime(22, 0), qtTrId("qtn_cloc_alarm_title"), {0, 1, 2, 3, 4, 5, 6});
-    expect(QTest::qWaitFor([this] { return Support::countIn<AlarmListItem>(m_mainPage.get()) == 3; }), "alarms");
+    expect(QTest::qWaitFor([this] { return Support::countIn<AlarmListItem>(m_mainPage.get()) == 3; }, Patience),
+           "alarms");
     look("main");
 }
 
@@ -152,7 +158,7 @@ void LanguageTour::visitOptions()
 {
     m_editor->displayOptionsPage();
     const auto isShown = [] { return onTopOf<AlarmOptionsPage>(Touch::Window::active()) != nullptr; };
-    if (!QTest::qWaitFor(isShown)) {
+    if (!QTest::qWaitFor(isShown, Patience)) {
         expect(false, "options");
         return;
     }
@@ -194,8 +200,19 @@ void LanguageTour::visitTones()
     window->stepBack();
 }
 
-void LanguageTour::visitRingScreen()
+void LanguageTour::visitRingScreens()
 {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows)
+        window->hide();
+    for (const char *gesture : {"hold", "slide"})
+        visitRingScreen(gesture);
+}
+
+void LanguageTour::visitRingScreen(const QString &stopGesture)
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    QSettings(folder + "/ringer.conf", QSettings::IniFormat).setValue("Stop/gesture", stopGesture);
     QString reason;
     Ringer::RingPlugin *plugin = RingScreen::load(&reason);
     expect(plugin, reason);
@@ -203,19 +220,16 @@ void LanguageTour::visitRingScreen()
         return;
     RingScreen::RecordingAnswers answers;
     plugin->setAnswers(&answers);
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *each : windows)
-        each->hide();
     for (quint32 cookie = 1; cookie <= 3; ++cookie)
         plugin->show(RingScreen::teaTime(cookie, 1800));
-    expect(QTest::qWaitFor([] { return RingScreen::window() != nullptr; }), "ring screen");
     QGraphicsView *window = RingScreen::window();
-    expect(QTest::qWaitForWindowExposed(window), "ring screen in front");
+    expect(QTest::qWaitForWindowExposed(window, Patience), "ring screen");
     window->resize(Narrow);
-    expect(QTest::qWaitFor([window] { return window->scene()->sceneRect().size() == Narrow; }), "narrow ring screen");
+    expect(QTest::qWaitFor([window] { return window->scene()->sceneRect().size() == Narrow; }, Patience),
+           "narrow ring screen");
     QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    look("ring", window);
+    look("ring-" + stopGesture, window);
     for (quint32 cookie = 1; cookie <= 3; ++cookie)
         plugin->hide(cookie);
-    expect(QTest::qWaitFor([] { return RingScreen::window() == nullptr; }), "end of the ring screen");
+    expect(QTest::qWaitFor([] { return RingScreen::window() == nullptr; }, Patience), "end of the ring screen");
 }

@@ -30,7 +30,8 @@ public:
     void visitEditor();
     void visitQuestions();
     void visitOptions();
-    void visitRingScreen();
+    /** With either way of stopping the alarm. */
+    void visitRingScreens();
 
     /** What went wrong: "editor: Speicher…", or that something did not appear. */
     QStringList findings() const { return m_findings; }
@@ -39,6 +40,7 @@ private:
     void visitRepeatDays();
     void visitSnoozeTimes();
     void visitTones();
+    void visitRingScreen(const QString &stopGesture);
     /** In the window that is in front. */
     void look(const QString &what);
     void look(const QString &what, QGraphicsView *window);

@@ -28,7 +28,7 @@ int main(int argc, char **argv)
     tour.visitEditor();
     tour.visitQuestions();
     tour.visitOptions();
-    tour.visitRingScreen();
+    tour.visitRingScreens();
     const bool isClean = Support::removeAllAlarms();
     for (const QString &finding : tour.findings())
         output << finding << '\n';

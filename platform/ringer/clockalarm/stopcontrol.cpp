@@ -57,6 +57,19 @@ QRectF StopControl::knobRect() const
     return {left, area.top(), area.height(), area.height()};
 }
 
+bool StopControl::showsWholeText() const
+{
+    return QFontMetricsF(style().font()).horizontalAdvance(hint()) <= hintRect().width();
+}
+
+// Beside the knob, where there is one.
+QRectF StopControl::hintRect() const
+{
+    const auto knob = m_gesture == StopGesture::Slide ? rect().height() : style().radius / 2;
+    return isMirrored() ? rect().adjusted(style().radius / 2, 0, -knob, 0)
+                        : rect().adjusted(knob, 0, -style().radius / 2, 0);
+}
+
 void StopControl::reset()
 {
     m_phase = Phase::Idle;
@@ -242,9 +255,7 @@ void StopControl::paintTrack(QPainter *painter)
 
 void StopControl::paintText(QPainter *painter)
 {
-    const auto knob = m_gesture == StopGesture::Slide ? rect().height() : style().radius / 2;
-    const auto room = isMirrored() ? rect().adjusted(style().radius / 2, 0, -knob, 0)
-                                   : rect().adjusted(knob, 0, -style().radius / 2, 0);
+    const auto room = hintRect();
     painter->setFont(style().font());
     auto color = style().color;
     // The knob comes over the words.

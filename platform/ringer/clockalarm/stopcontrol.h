@@ -15,6 +15,7 @@
 class StopControl : public Touch::Widget
 {
     Q_OBJECT
+    Q_PROPERTY(bool showsWholeText READ showsWholeText)
 
 public:
     /** How long it is to be held, in milliseconds. */
@@ -28,6 +29,8 @@ public:
     [[nodiscard]] double progress() const { return m_progress; }
     /** Where the knob can be taken hold of, in its own coordinates. */
     [[nodiscard]] QRectF knobRect() const;
+    /** What is to be done is not elided. */
+    [[nodiscard]] bool showsWholeText() const;
     /** Lets go of it. */
     void reset();
 
@@ -55,6 +58,7 @@ private:
     enum class Phase { Idle, Sliding, Holding };
 
     [[nodiscard]] QString hint() const;
+    [[nodiscard]] QRectF hintRect() const;
     [[nodiscard]] bool isMirrored() const { return layoutDirection() == Qt::RightToLeft; }
     [[nodiscard]] double way() const;
     void paintTrack(QPainter *painter);
