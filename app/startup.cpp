@@ -50,6 +50,8 @@ int runClock(int &argc, char **argv)
 
 int runClock(int &argc, char **argv, ClockApplicationService *service)
 {
+    // The thread that talks to the bus wakes sooner without GLib's loop, which only the first thread needs.
+    qputenv("QT_NO_THREADED_GLIB", "1");
     initClockData();
     Touch::Application *application = Touch::ComponentCache::mApplication(argc, argv, "clock", service);
     openMainPage();

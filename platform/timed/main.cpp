@@ -44,6 +44,8 @@ bool quitWithTheBus(QCoreApplication *application)
 
 int main(int argc, char *argv[])
 {
+    // Its threads wait for nothing of GLib's, without whose loop each call is answered sooner.
+    qputenv("QT_NO_GLIB", "1");
     QCoreApplication application(argc, argv);
     quitOnSignals();
     const auto daemon = Daemon::create(readSettings());
