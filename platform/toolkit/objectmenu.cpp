@@ -8,10 +8,27 @@
 #include "platform/toolkit/linearlayoutpolicy.h"
 #include "platform/toolkit/window.h"
 
+#include <QTextBoundaryFinder>
+
 namespace Touch {
 
+namespace {
+
+/** A name may be a whole story; what there is to choose has to fit below it. */
+QString heading(const QString &name)
+{
+    constexpr int longest = 120;
+    if (name.size() <= longest)
+        return name;
+    QTextBoundaryFinder ends(QTextBoundaryFinder::Grapheme, name);
+    ends.setPosition(longest);
+    return name.left(ends.toPreviousBoundary()).trimmed() + QChar(u'\u2026');
+}
+
+} // namespace
+
 ObjectMenu::ObjectMenu(Widget *owner, QGraphicsItem *parent)
-    : Dialog(owner->accessibleName(), NoButton, parent)
+    : Dialog(heading(owner->accessibleName()), NoButton, parent)
     , m_owner(owner)
 {
     new LinearLayoutPolicy(new Layout(centralWidget()), Qt::Vertical);

@@ -3,6 +3,8 @@
 #include "platform/toolkit/action.h"
 #include "platform/toolkit/applicationpage.h"
 #include "platform/toolkit/applicationwindow.h"
+#include "platform/toolkit/button.h"
+#include "platform/toolkit/label.h"
 #include "platform/toolkit/list.h"
 #include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/pannableviewport.h"
@@ -57,6 +59,7 @@ private slots:
     void opensByTheMenuKey();
     void leavesBeforeItTriggers();
     void offersOnlyWhatIsForIt();
+    void aStoryForANameLeavesRoomForWhatIsOffered();
     void closesWithoutAnAction();
     void closesWhenItsCellIsNeededForAnotherRow();
     void closesWhenItsOwnerGoes();
@@ -199,6 +202,23 @@ void TestObjectMenu::offersOnlyWhatIsForIt()
     QCOMPARE(offered, (QList<QAction *>{cell()->actions().constFirst(), second}));
     const ObjectMenu *opened = ObjectMenu::open(cell());
     QCOMPARE(Support::countIn<Button>(opened->centralWidget()), 2);
+}
+
+void TestObjectMenu::aStoryForANameLeavesRoomForWhatIsOffered()
+{
+    Label owner(QStringLiteral("Long words of a name ").repeated(60));
+    auto *action = new Action(QStringLiteral("Delete"), &owner);
+    action->setLocation(Action::ObjectMenuLocation);
+    owner.addAction(action);
+    m_window->scene()->addItem(&owner);
+    ObjectMenu::open(&owner);
+    QTRY_VERIFY(menu());
+    QVERIFY(menu()->title().startsWith("Long words of a name Long"));
+    QVERIFY(menu()->title().endsWith(QChar(u'\u2026')));
+    const auto *entry = Support::itemIn<Button>(menu()->centralWidget());
+    QVERIFY(entry);
+    QTRY_VERIFY(m_window->sceneRect().contains(entry->sceneBoundingRect()));
+    m_window->scene()->removeItem(&owner);
 }
 
 void TestObjectMenu::closesWithoutAnAction()
