@@ -21,6 +21,21 @@ Wire::Event wakeUp(quint32 flags)
     return event;
 }
 
+/** An alarm that rings, in a world whose answers are told. */
+struct Told
+{
+    explicit Told(quint32 flags = Wire::KeepAlive)
+        : cookie(world.add(wakeUp(flags)))
+    {
+        world.passTo(Seven);
+    }
+
+    World world{Seven - Minute};
+    FakeNotifier notifier;
+    const AnswerTeller teller{world.parts->life, notifier, world.zone};
+    const quint32 cookie;
+};
+
 } // namespace
 
 /** What the user is shown of an alarm after the answer. */
@@ -50,11 +65,8 @@ void tst_AnswerTeller::initTestCase()
 
 void tst_AnswerTeller::snoozedAlarmSaysWhenItRingsAgain()
 {
-    World world(Seven - Minute);
-    FakeNotifier notifier;
-    const AnswerTeller teller(world.parts->life, notifier, world.zone);
-    const quint32 cookie = world.add(wakeUp(Wire::KeepAlive));
-    world.passTo(Seven);
+    Told alarm;
+    auto &[world, notifier, teller, cookie] = alarm;
     QVERIFY(world.parts->life.snooze(cookie, 900, "test"));
     QCOMPARE(notifier.notices.size(), 1);
     QCOMPARE(notifier.notices[0].summary, "Wake <b>up</b>");
@@ -66,11 +78,8 @@ void tst_AnswerTeller::snoozedAlarmSaysWhenItRingsAgain()
 
 void tst_AnswerTeller::noticeOfASnoozeStopsIt()
 {
-    World world(Seven - Minute);
-    FakeNotifier notifier;
-    const AnswerTeller teller(world.parts->life, notifier, world.zone);
-    const quint32 cookie = world.add(wakeUp(Wire::KeepAlive));
-    world.passTo(Seven);
+    Told alarm;
+    auto &[world, notifier, teller, cookie] = alarm;
     QVERIFY(world.parts->life.snooze(cookie, 900, "test"));
     emit notifier.chosen(notifier.notices[0].actions[0].key);
     QCOMPARE(world.state(cookie), State::Waiting);
@@ -80,11 +89,8 @@ void tst_AnswerTeller::noticeOfASnoozeStopsIt()
 
 void tst_AnswerTeller::noticeOfASnoozeGoesWhenItRings()
 {
-    World world(Seven - Minute);
-    FakeNotifier notifier;
-    const AnswerTeller teller(world.parts->life, notifier, world.zone);
-    const quint32 cookie = world.add(wakeUp(Wire::KeepAlive));
-    world.passTo(Seven);
+    Told alarm;
+    auto &[world, notifier, teller, cookie] = alarm;
     QVERIFY(world.parts->life.snooze(cookie, 900, "test"));
     world.passTo(Seven + 15 * Minute);
     QCOMPARE(world.state(cookie), State::Triggered);
@@ -119,11 +125,8 @@ void tst_AnswerTeller::stoppedAlarmRingsAgainWhenAskedFor_data()
 void tst_AnswerTeller::stoppedAlarmRingsAgainWhenAskedFor()
 {
     QFETCH(quint32, flags);
-    World world(Seven - Minute);
-    FakeNotifier notifier;
-    const AnswerTeller teller(world.parts->life, notifier, world.zone);
-    const quint32 cookie = world.add(wakeUp(flags));
-    world.passTo(Seven);
+    Told alarm(flags);
+    auto &[world, notifier, teller, cookie] = alarm;
     QVERIFY(world.parts->life.dismiss(cookie, "test"));
     QCOMPARE(notifier.notices.size(), 1);
     const Notice offer = notifier.notices[0];
@@ -142,11 +145,8 @@ void tst_AnswerTeller::stoppedAlarmRingsAgainWhenAskedFor()
 
 void tst_AnswerTeller::offerGoesWithTheAlarm()
 {
-    World world(Seven - Minute);
-    FakeNotifier notifier;
-    const AnswerTeller teller(world.parts->life, notifier, world.zone);
-    const quint32 cookie = world.add(wakeUp(Wire::KeepAlive));
-    world.passTo(Seven);
+    Told alarm;
+    auto &[world, notifier, teller, cookie] = alarm;
     QVERIFY(world.parts->life.dismiss(cookie, "test"));
     QVERIFY(*world.parts->service.cancel(cookie));
     QCOMPARE(notifier.closed, QStringList(notifier.notices[0].tag));
@@ -156,11 +156,8 @@ void tst_AnswerTeller::offerGoesWithTheAlarm()
 
 void tst_AnswerTeller::offerIsForOneTime()
 {
-    World world(Seven - Minute);
-    FakeNotifier notifier;
-    const AnswerTeller teller(world.parts->life, notifier, world.zone);
-    const quint32 cookie = world.add(wakeUp(Wire::KeepAlive));
-    world.passTo(Seven);
+    Told alarm;
+    auto &[world, notifier, teller, cookie] = alarm;
     QVERIFY(world.parts->life.dismiss(cookie, "test"));
     const QString again = notifier.notices[0].actions[0].key;
     emit notifier.chosen(again);
@@ -171,11 +168,8 @@ void tst_AnswerTeller::offerIsForOneTime()
 
 void tst_AnswerTeller::onlyItsOwnActionsCount()
 {
-    World world(Seven - Minute);
-    FakeNotifier notifier;
-    const AnswerTeller teller(world.parts->life, notifier, world.zone);
-    const quint32 cookie = world.add(wakeUp(Wire::KeepAlive));
-    world.passTo(Seven);
+    Told alarm;
+    auto &[world, notifier, teller, cookie] = alarm;
     QVERIFY(world.parts->life.snooze(cookie, 900, "test"));
     for (const char *key : {"", "default", "com.astel.timed.stop.", "com.astel.timed.stop.x", "com.astel.timed.stop.99",
                             "com.astel.timed.again.1", "org.example.stop.1"})
