@@ -84,8 +84,8 @@ Widget *AccessibleWidget::widget() const
 
 List *AccessibleWidget::list() const
 {
-    const QGraphicsItem *above = widget()->parentItem();
-    return above ? qobject_cast<List *>(const_cast<QGraphicsItem *>(above)->toGraphicsObject()) : nullptr;
+    QGraphicsItem *above = widget()->parentItem();
+    return above ? qobject_cast<List *>(above->toGraphicsObject()) : nullptr;
 }
 
 QAccessible::Role AccessibleWidget::role() const
