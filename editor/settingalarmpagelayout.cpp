@@ -64,7 +64,11 @@ SettingAlarmPage::SettingAlarmPage()
     followLocale();
 }
 
-SettingAlarmPage::~SettingAlarmPage() = default;
+SettingAlarmPage::~SettingAlarmPage()
+{
+    // The field loses the focus only when there is nothing left here to take note of it.
+    m_titleField->disconnect(this);
+}
 
 void SettingAlarmPage::buildTimePicker()
 {

@@ -29,6 +29,8 @@ constexpr int SecondsPerHour = 3600;
 void SettingAlarmPage::saveAlarm()
 {
     connect(Utility::instance(), &Utility::valueChanged, this, &SettingAlarmPage::onValueChanged, Qt::UniqueConnection);
+    // A tap on Save does not take the focus from a title that is still being composed.
+    m_titleField->commit();
     QmAlarmEvent record = recordFromFields();
     storeRecord(record);
     if (isNewAlarm()) {

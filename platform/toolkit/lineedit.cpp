@@ -4,6 +4,7 @@
 
 #include <QGuiApplication>
 #include <QInputMethod>
+#include <QInputMethodEvent>
 
 namespace Touch {
 
@@ -19,6 +20,32 @@ void LineEdit::setEnterKeyType(Qt::EnterKeyType type)
         return;
     m_enterKeyType = type;
     QGuiApplication::inputMethod()->update(Qt::ImEnterKeyType);
+}
+
+void LineEdit::commit()
+{
+    if (m_composed.isEmpty())
+        return;
+    QGuiApplication::inputMethod()->commit();
+    // Not every input method does so, and not every one at once.
+    if (m_composed.isEmpty())
+        return;
+    QInputMethodEvent event;
+    event.setCommitString(m_composed);
+    inputMethodEvent(&event);
+    QGuiApplication::inputMethod()->reset();
+}
+
+void LineEdit::inputMethodEvent(QInputMethodEvent *event)
+{
+    m_composed = event->preeditString();
+    QLineEdit::inputMethodEvent(event);
+}
+
+void LineEdit::focusOutEvent(QFocusEvent *event)
+{
+    commit();
+    QLineEdit::focusOutEvent(event);
 }
 
 QVariant LineEdit::inputMethodQuery(Qt::InputMethodQuery query) const

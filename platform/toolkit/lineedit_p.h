@@ -3,10 +3,11 @@
 #pragma once
 
 #include <QLineEdit>
+#include <QString>
 
 namespace Touch {
 
-/** A line edit that tells the input method what its Enter key stands for. */
+/** A line edit that tells the input method what its Enter key stands for, and loses nothing that is being composed. */
 class LineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -16,11 +17,18 @@ public:
     ~LineEdit() override;
 
     void setEnterKeyType(Qt::EnterKeyType type);
+    /** Makes what an input method is still composing a part of the text. */
+    void commit();
 
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
+protected:
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
 private:
     Qt::EnterKeyType m_enterKeyType = Qt::EnterKeyDefault;
+    QString m_composed; ///< stands in the text, but is not part of it yet
 };
 
 } // namespace Touch

@@ -63,6 +63,7 @@ TextEdit::~TextEdit()
 {
     // The proxy goes later, and with it the focus, when nothing here can take note of that any more.
     m_proxy->disconnect(this);
+    m_edit->disconnect(this);
 }
 
 QString TextEdit::text() const
@@ -108,6 +109,11 @@ void TextEdit::setCursorPosition(int position)
 QString TextEdit::selectedText() const
 {
     return m_edit->selectedText();
+}
+
+void TextEdit::commit()
+{
+    m_edit->commit();
 }
 
 void TextEdit::attachToolbar(int id)

@@ -34,6 +34,8 @@ public:
     int cursorPosition() const;
     void setCursorPosition(int position);
     QString selectedText() const;
+    /** Makes what an input method is still composing a part of the text; losing the focus does so as well. */
+    void commit();
 
     /** What it asks of the software keyboard, a set of InputMethodState; 0 for nothing. */
     int attachedToolbar() const { return m_toolbar; }

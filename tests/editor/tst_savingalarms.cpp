@@ -4,6 +4,9 @@
 
 #include "tests/support/logcapture.h"
 
+#include <QFile>
+#include <QInputMethodEvent>
+
 #include <functional>
 
 class TestSavingAlarms : public EditorTest
@@ -17,9 +20,13 @@ private slots:
     void savingStoresTheFieldsAndClosesWithTheTimeLeft();
     void savingRemembersTheTimeForTheNextAlarm();
     void savingWithoutATitleTakesTheStandardOne();
+    void aTitleStillBeingComposedIsSaved();
     void savingAnExistingAlarmKeepsWhatIsNotShown();
     void aFailedSaveClosesWithAnError();
+    void aFailedReplacementClosesWithAnErrorToo();
     void aFailedSaveIsNotRemembered();
+    void theTimeIsInTheFileWhenSavingIsDone();
+    void anAlarmWithoutATriggerClosesWithoutABanner();
     void onlyAWaitingSheetFollowsTheTriggers_data();
     void onlyAWaitingSheetFollowsTheTriggers();
     void escapeCancels();
@@ -47,7 +54,7 @@ void TestSavingAlarms::savingStoresTheFieldsAndClosesWithTheTimeLeft()
     QVERIFY(shownBanner().startsWith("qtn_cloc_time_left_alarm"));
     const QStringList lines = log.lines(QtDebugMsg);
     QCOMPARE(lines.filter("void SettingAlarmPage::onValueChanged()").size(), 1);
-    QCOMPARE(lines.filter("Time Left for Alarm to trigger is").size(), 1);
+    QCOMPARE(lines.count("Time Left for Alarm to trigger is \"" + shownBanner() + '"'), 1);
 }
 
 void TestSavingAlarms::savingRemembersTheTimeForTheNextAlarm()
@@ -68,6 +75,18 @@ void TestSavingAlarms::savingWithoutATitleTakesTheStandardOne()
     m_title->setText("  ");
     m_page->saveAlarm();
     QCOMPARE(QmAlarmEvent(m_page->getAlarmCookie()).title(), "qtn_cloc_alarm_title");
+}
+
+void TestSavingAlarms::aTitleStillBeingComposedIsSaved()
+{
+    load(QmAlarmEvent::NotStored, QTime(7, 5), QString());
+    m_title->setFocus();
+    QVERIFY(m_title->hasFocus());
+    QInputMethodEvent composing("早い", {});
+    QCoreApplication::sendEvent(m_window.get(), &composing);
+    QCOMPARE(m_title->text(), QString());
+    m_page->saveAlarm();
+    QCOMPARE(QmAlarmEvent(m_page->getAlarmCookie()).title(), "早い");
 }
 
 void TestSavingAlarms::savingAnExistingAlarmKeepsWhatIsNotShown()
@@ -99,6 +118,42 @@ void TestSavingAlarms::aFailedSaveClosesWithAnError()
     m_page->appear(m_window.get());
     emit Utility::instance()->valueChanged();
     QVERIFY2(m_page->isOnDisplay(), "it no longer waits for a trigger");
+}
+
+void TestSavingAlarms::aFailedReplacementClosesWithAnErrorToo()
+{
+    const quint32 cookie = Support::addAlarm(QTime(7, 5), "Tea");
+    load(cookie);
+    m_daemon.kill();
+    m_page->saveAlarm();
+    QVERIFY(!m_page->isOnDisplay());
+    QCOMPARE(m_page->getAlarmCookie(), QmAlarmEvent::NotStored);
+    QCOMPARE(shownBanner(), "qtn_cloc_alarm_save_error");
+    QVERIFY(m_daemon.start());
+    QCOMPARE(storedCookies(), QList<quint32>{cookie});
+}
+
+void TestSavingAlarms::theTimeIsInTheFileWhenSavingIsDone()
+{
+    load(QmAlarmEvent::NotStored);
+    pick(QTime(6, 45));
+    m_page->saveAlarm();
+    QFile file(QSettings("Korvo", "Clock").fileName());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains("DefaultAlarmTime="));
+}
+
+void TestSavingAlarms::anAlarmWithoutATriggerClosesWithoutABanner()
+{
+    load(QmAlarmEvent::NotStored);
+    m_page->saveAlarm();
+    QVERIFY(m_page->isOnDisplay());
+    // News of something else, before the daemon has told of this alarm.
+    emit Utility::instance()->valueChanged();
+    QVERIFY(!m_page->isOnDisplay());
+    QCOMPARE(shownBanner(), QString());
+    QVERIFY(Support::waitForTrigger(m_page->getAlarmCookie()));
+    QCOMPARE(shownBanner(), QString());
 }
 
 void TestSavingAlarms::aFailedSaveIsNotRemembered()

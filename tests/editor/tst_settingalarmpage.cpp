@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/editor/editortest.h"
 
+#include "alarmlist/notices/informationbanner.h"
 #include "platform/toolkit/separator.h"
 #include "tests/support/logcapture.h"
 
@@ -22,12 +23,16 @@ private slots:
     void aNewAlarmStartsWithTheDefaults();
     void aNewAlarmTakesThePreferences();
     void aNewAlarmTakesPreferencesWrittenByHand();
+    void aPreferenceThatIsNoTimeIsTakenAsItComes();
+    void aNewAlarmsMissingToneIsReplacedToo();
     void anExistingAlarmBringsItsOwnValues();
     void onlyAnExistingAlarmCanBeDeleted();
     void aMissingToneIsReplacedByTheDefault();
     void aBlankTitleIsNotLoaded();
     void theTitleHoldsAHundredAndTwentyCharacters();
     void aTitleOfBlanksShowsThePromptAgain();
+    void loadingTakesTheBannerAway();
+    void itGoesQuietlyWhileItsTitleHasTheFocus();
     void theLabelsFollowThePicker();
     void theHourComesFirstFromRightToLeftToo();
     void theMarkerStandsWhereTheLanguagePutsIt_data();
@@ -104,6 +109,24 @@ void TestSettingAlarmPage::aNewAlarmTakesPreferencesWrittenByHand()
     QCOMPARE(QmAlarmEvent(m_page->getAlarmCookie()).snooze(), 10);
 }
 
+void TestSettingAlarmPage::aPreferenceThatIsNoTimeIsTakenAsItComes()
+{
+    QSettings("Korvo", "Clock").setValue("Clock/DefaultAlarmTime", "soon");
+    load(QmAlarmEvent::NotStored);
+    // Hour and minute of no time are -1 each, and the picker folds them into the day.
+    QCOMPARE(pickedTime(), QTime(23, 59));
+    QCOMPARE(label("ClockhhLabel")->text(), "23");
+    QCOMPARE(label("ClockmmLabel")->text(), "59");
+}
+
+void TestSettingAlarmPage::aNewAlarmsMissingToneIsReplacedToo()
+{
+    QSettings("Korvo", "Clock").setValue("Clock/DefaultTone", "/nowhere/gone.aac");
+    load(QmAlarmEvent::NotStored);
+    m_page->saveAlarm();
+    QCOMPARE(QmAlarmEvent(m_page->getAlarmCookie()).tone(), Utility::defaultAlertTone());
+}
+
 void TestSettingAlarmPage::anExistingAlarmBringsItsOwnValues()
 {
     QSettings("Korvo", "Clock").setValue("Clock/DefaultAlarmTime", QTime(6, 45));
@@ -151,18 +174,39 @@ void TestSettingAlarmPage::theTitleHoldsAHundredAndTwentyCharacters()
 
 void TestSettingAlarmPage::aTitleOfBlanksShowsThePromptAgain()
 {
+    m_title->setFocus();
     m_title->setText("   ");
-    emit m_title->lostFocus(Qt::OtherFocusReason);
+    m_title->clearFocus();
     QCOMPARE(m_title->text(), QString());
+    m_title->setFocus();
     m_title->setText("  Tea ");
-    emit m_title->lostFocus(Qt::OtherFocusReason);
+    m_title->clearFocus();
     QCOMPARE(m_title->text(), "  Tea ");
+}
+
+void TestSettingAlarmPage::loadingTakesTheBannerAway()
+{
+    showInformationBanner("Alarm in 07:05");
+    QCOMPARE(shownBanner(), "Alarm in 07:05");
+    load(QmAlarmEvent::NotStored);
+    QCOMPARE(shownBanner(), QString());
+}
+
+void TestSettingAlarmPage::itGoesQuietlyWhileItsTitleHasTheFocus()
+{
+    load(QmAlarmEvent::NotStored);
+    m_title->setFocus();
+    QVERIFY(m_title->hasFocus());
+    QSignalSpy lost(m_title, &Touch::TextEdit::lostFocus);
+    m_page.reset();
+    QVERIFY(m_mainPage->isOnDisplay());
+    QCOMPARE(lost.size(), 1);
 }
 
 void TestSettingAlarmPage::theLabelsFollowThePicker()
 {
     load(QmAlarmEvent::NotStored);
-    emit m_picker->timeChanged(21, 35);
+    pick(QTime(21, 35));
     QCOMPARE(label("ClockhhLabel")->text(), "21");
     QCOMPARE(label("ClockmmLabel")->text(), "35");
     QVERIFY2(!label("ClockampmLabel")->isVisible(), "the day has 24 hours here");
@@ -283,8 +327,13 @@ void TestSettingAlarmPage::aNewTimeFormatShowsAtOnce()
     writeLocaleSettings("timeFormat=12\n");
     QTRY_COMPARE(label("ClockhhLabel")->text(), "09");
     QTRY_VERIFY(label("ClockampmLabel")->isVisible());
+    const QString marker = label("ClockampmLabel")->text();
+    QCOMPARE(label("ClockColonLabel")->text(), ":");
     writeLocaleSettings(QByteArray());
     QTRY_COMPARE(label("ClockhhLabel")->text(), "21");
+    QVERIFY(!label("ClockampmLabel")->isVisible());
+    QCOMPARE(label("ClockampmLabel")->text(), marker);
+    QCOMPARE(label("ClockColonLabel")->text(), ":");
 }
 
 void TestSettingAlarmPage::itIsNamedForThoseWhoDoNotSeeIt()
@@ -298,13 +347,15 @@ void TestSettingAlarmPage::itIsNamedForThoseWhoDoNotSeeIt()
 void TestSettingAlarmPage::theSlotsKeepTheirOrder()
 {
     const QMetaObject &meta = SettingAlarmPage::staticMetaObject;
-    QStringList names;
+    QByteArrayList signatures;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        names.append(meta.method(i).name());
-    QCOMPARE(names,
-             (QStringList{"saveAlarm", "cancelAlarm", "removeAlarm", "getAlarmCookie", "timeChangedInTimePicker",
-                          "verifyAlarmTitle", "timeFormatChanged", "resetStyle", "setStyle", "displayOptionsPage",
-                          "resetAlarm", "setAgainAlarm", "onValueChanged", "clearFocus", "showResetAlarmDialog"}));
+        signatures.append(meta.method(i).methodSignature());
+    QCOMPARE(
+        signatures,
+        (QByteArrayList{"saveAlarm()", "cancelAlarm()", "removeAlarm()", "getAlarmCookie()",
+                        "timeChangedInTimePicker(int,int)", "verifyAlarmTitle()", "timeFormatChanged()", "resetStyle()",
+                        "setStyle(bool,bool)", "displayOptionsPage()", "resetAlarm()", "setAgainAlarm()",
+                        "onValueChanged()", "clearFocus()", "showResetAlarmDialog(Clock::QmAlarmEvent)"}));
 }
 
 QTEST_MAIN(TestSettingAlarmPage)

@@ -28,16 +28,23 @@ private slots:
     void tellsWhyTheFocusCameAndWent();
     void losesTheFocusWhenItIsClearedOnIt();
     void goesQuietlyWithTheFocus();
+    void goesQuietlyWhileSomethingIsComposed();
     void tellsOfReturn();
     void takesTheFocusByATapOnItsEdge();
     void copiesAndPastes();
     void takesTextFromAnInputMethod();
+    void whatIsBeingComposedIsNoTextYet();
+    void whatIsBeingComposedCanBeTaken();
+    void whatIsBeingComposedStaysWhenTheFocusGoes();
+    void whatTheInputMethodGaveUpIsNotTaken();
     void showsItsPromptOnlyWhileEmpty();
     void isReachedByTab();
     void letsEscapeThrough();
 
 private:
     int inkOf(const TextEdit *edit) const;
+    /** As an input method does while one types; an empty text gives up. */
+    void compose(const QString &text);
 
     ApplicationWindow *m_window = nullptr;
     Sheet *m_sheet = nullptr;
@@ -145,6 +152,15 @@ void TestTextEdit::goesQuietlyWithTheFocus()
     QCOMPARE(lost.count(), 0);
 }
 
+void TestTextEdit::goesQuietlyWhileSomethingIsComposed()
+{
+    m_edit->setFocus(Qt::OtherFocusReason);
+    compose(QStringLiteral("早い"));
+    const QSignalSpy changed(m_edit, &TextEdit::textChanged);
+    delete m_edit;
+    QCOMPARE(changed.count(), 0);
+}
+
 void TestTextEdit::tellsOfReturn()
 {
     const QSignalSpy returned(m_edit, &TextEdit::returnPressed);
@@ -182,6 +198,54 @@ void TestTextEdit::takesTextFromAnInputMethod()
     event.setCommitString(QStringLiteral("早い"));
     QCoreApplication::sendEvent(m_window, &event);
     QCOMPARE(m_edit->text(), QStringLiteral("早い"));
+}
+
+void TestTextEdit::compose(const QString &text)
+{
+    QInputMethodEvent event(text, {});
+    QCoreApplication::sendEvent(m_window, &event);
+}
+
+void TestTextEdit::whatIsBeingComposedIsNoTextYet()
+{
+    m_edit->setText(QStringLiteral("Run"));
+    m_edit->setFocus(Qt::OtherFocusReason);
+    compose(QStringLiteral("ning"));
+    QCOMPARE(m_edit->text(), QStringLiteral("Run"));
+}
+
+void TestTextEdit::whatIsBeingComposedCanBeTaken()
+{
+    m_edit->setText(QStringLiteral("Run"));
+    m_edit->setFocus(Qt::OtherFocusReason);
+    m_edit->setCursorPosition(3);
+    const QSignalSpy changed(m_edit, &TextEdit::textChanged);
+    compose(QStringLiteral("n"));
+    compose(QStringLiteral("ning"));
+    m_edit->commit();
+    QCOMPARE(m_edit->text(), QStringLiteral("Running"));
+    QCOMPARE(changed.count(), 1);
+    m_edit->commit();
+    QCOMPARE(m_edit->text(), QStringLiteral("Running"));
+}
+
+void TestTextEdit::whatIsBeingComposedStaysWhenTheFocusGoes()
+{
+    m_edit->setFocus(Qt::OtherFocusReason);
+    compose(QStringLiteral("早い"));
+    QString atTheEnd;
+    connect(m_edit, &TextEdit::lostFocus, this, [this, &atTheEnd] { atTheEnd = m_edit->text(); });
+    m_edit->clearFocus();
+    QCOMPARE(atTheEnd, QStringLiteral("早い"));
+}
+
+void TestTextEdit::whatTheInputMethodGaveUpIsNotTaken()
+{
+    m_edit->setFocus(Qt::OtherFocusReason);
+    compose(QStringLiteral("早い"));
+    compose(QString());
+    m_edit->commit();
+    QCOMPARE(m_edit->text(), QString());
 }
 
 void TestTextEdit::showsItsPromptOnlyWhileEmpty()
