@@ -3,19 +3,14 @@
 #include "alarms/profiletone_p.h"
 
 #include "app/settings.h"
-
-#include <QSettings>
+#include "platform/sound/profile/soundprofile.h"
 
 namespace Clock {
 
 QString profileTone(const QString &customProfile, const QString &vendorProfile)
 {
-    const QString builtIn = Settings::BuiltInTone;
-    const QSettings custom(customProfile, QSettings::IniFormat);
-    if (custom.contains(Settings::ProfileToneKey))
-        return custom.value(Settings::ProfileToneKey, builtIn).toString();
-    const QSettings vendor(vendorProfile, QSettings::IniFormat);
-    return vendor.value(Settings::ProfileToneKey, builtIn).toString();
+    const auto named = Sound::profileValue({customProfile, vendorProfile}, Settings::ProfileToneKey);
+    return named.value_or(Settings::BuiltInTone);
 }
 
 } // namespace Clock

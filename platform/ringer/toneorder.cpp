@@ -3,10 +3,10 @@
 #include "platform/ringer/toneorder.h"
 
 #include "platform/ringer/toneplayer.h"
+#include "platform/sound/profile/soundprofile.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -14,6 +14,8 @@ namespace Ringer {
 
 namespace {
 
+const auto CustomProfile = QStringLiteral("97.custom.ini");
+const auto VendorProfile = QStringLiteral("93.korvo.ini");
 const auto AlertToneKey = QStringLiteral("fallback/clock.alert.tone");
 const auto BuiltInTone = QStringLiteral("sounds/ring-tones/Clock alert 1.aac");
 
@@ -51,12 +53,8 @@ QStringList ToneOrder::tones(const QString &eventTone) const
 
 QString ToneOrder::defaultAlertTone() const
 {
-    for (const auto *file : {"97.custom.ini", "93.korvo.ini"}) {
-        const QSettings profile(m_profileFolder + QLatin1Char('/') + QLatin1String(file), QSettings::IniFormat);
-        if (profile.contains(AlertToneKey))
-            return profile.value(AlertToneKey).toString();
-    }
-    return {};
+    const auto folder = m_profileFolder + QLatin1Char('/');
+    return Sound::profileValue({folder + CustomProfile, folder + VendorProfile}, AlertToneKey).value_or(QString());
 }
 
 } // namespace Ringer
