@@ -4,19 +4,25 @@
 
 #include "platform/clockwidgets/alerttone.h"
 #include "platform/clockwidgets/parts_p.h"
+#include "platform/clockwidgets/tonefilesheet_p.h"
 #include "platform/clockwidgets/toneitem_p.h"
+#include "platform/clockwidgets/tonejudge_p.h"
 #include "platform/clockwidgets/tonemodel_p.h"
 #include "platform/clockwidgets/tonepreview_p.h"
 #include "platform/tones/tonefiles.h"
+#include "platform/toolkit/banner.h"
+#include "platform/toolkit/basiclistitem.h"
 #include "platform/toolkit/basicsheetheader.h"
 #include "platform/toolkit/cellcreator.h"
+#include "platform/toolkit/layout.h"
+#include "platform/toolkit/linearlayoutpolicy.h"
 #include "platform/toolkit/list.h"
 #include "platform/toolkit/pannableviewport.h"
+#include "platform/toolkit/separator.h"
 #include "platform/toolkit/widgetrecycler.h"
 
 #include <functional>
 #include <QAction>
-#include <QGraphicsLinearLayout>
 
 namespace {
 
@@ -65,8 +71,10 @@ AlertToneBrowserSheet::AlertToneBrowserSheet(AlertTone *tone, QGraphicsItem *par
     , m_tone(tone)
     , m_model(new ToneModel(this))
     , m_preview(new TonePreview(this))
+    , m_judge(new ToneJudge(this))
 {
     loadClockTheme();
+    connect(m_judge, &ToneJudge::judged, this, &AlertToneBrowserSheet::hear);
     connect(m_preview, &TonePreview::stopped, this, [this] { m_model->setPlaying({}); });
     connect(this, &SceneWindow::appeared, this, &AlertToneBrowserSheet::showSelected);
     makeHeader();
@@ -95,9 +103,18 @@ void AlertToneBrowserSheet::makeList()
     m_list->setItemModel(m_model);
     m_viewport = new Touch::PannableViewport;
     m_viewport->setWidget(m_list);
-    auto *layout = new QGraphicsLinearLayout(Qt::Vertical, centralWidget());
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addItem(m_viewport);
+    auto *fileRow = new Touch::BasicListItem(Touch::BasicListItem::IconWithTitle);
+    fileRow->setObjectName("chooseFileItem");
+    fileRow->setTitle(qtTrId("qtn_sond_choose_file"));
+    fileRow->setImage("icon-m-clock-folder");
+    connect(fileRow, &Touch::BasicListItem::clicked, this, &AlertToneBrowserSheet::lookForFile);
+    auto *divider = new Touch::Separator;
+    divider->setStyleName("CommonItemDivider");
+    auto *column = new Touch::LinearLayoutPolicy(new Touch::Layout(centralWidget()), Qt::Vertical);
+    column->setSpacing(0);
+    column->addItem(fileRow);
+    column->addItem(divider);
+    column->addItem(m_viewport);
 }
 
 QString AlertToneBrowserSheet::selectedFile() const
@@ -124,7 +141,10 @@ void AlertToneBrowserSheet::aboutToAppear()
 
 void AlertToneBrowserSheet::aboutToLeave()
 {
+    m_judge->forget();
     m_preview->stop();
+    if (m_files)
+        m_files->dismiss();
     Sheet::aboutToLeave();
 }
 
@@ -140,15 +160,65 @@ void AlertToneBrowserSheet::showSelected()
     m_viewport->ensureVisible({0, height * m_model->rowOf(m_model->selected()), 1, height});
 }
 
+void AlertToneBrowserSheet::lookForFile()
+{
+    m_judge->forget();
+    m_preview->stop();
+    if (!m_files) {
+        m_files = std::make_unique<ToneFileSheet>();
+        connect(m_files.get(), &ToneFileSheet::tapped, m_judge, &ToneJudge::ask);
+        connect(m_files.get(), &ToneFileSheet::disappeared, m_judge, &ToneJudge::forget);
+    }
+    m_files->appear(hostWindow());
+}
+
 void AlertToneBrowserSheet::choose(const QString &path)
 {
     const bool wasPlaying = m_model->playing() == path;
+    m_judge->forget();
     m_preview->stop();
+    if (wasPlaying)
+        return;
+    if (m_model->isShipped(path))
+        select(path);
+    else
+        m_judge->ask(path);
+}
+
+void AlertToneBrowserSheet::hear(const QString &path, Sound::Probe::Verdict verdict)
+{
+    if (verdict != Sound::Probe::Heard) {
+        refuse(path, verdict);
+        return;
+    }
+    if (m_files)
+        m_files->dismiss();
+    // What was said of another file no longer holds, and may hide this one.
+    if (m_notice)
+        m_notice->disappear();
+    select(path);
+    showSelected();
+}
+
+void AlertToneBrowserSheet::select(const QString &path)
+{
     m_model->setSelected(path);
-    if (wasPlaying || Tones::nameFromFile(path) == QLatin1String("No sound"))
+    if (Tones::nameFromFile(path) == QLatin1String("No sound"))
         return;
     m_model->setPlaying(path);
     m_preview->play(path);
+}
+
+void AlertToneBrowserSheet::refuse(const QString &path, Sound::Probe::Verdict verdict)
+{
+    if (!m_notice) {
+        m_notice = std::make_unique<Touch::Banner>();
+        m_notice->setStyleName("InformationBanner");
+    }
+    const QString text
+        = verdict == Sound::Probe::Silent ? qtTrId("qtn_sond_file_silent") : qtTrId("qtn_sond_file_unplayable");
+    m_notice->setTitle(text.arg(m_model->titleOf(path)));
+    m_notice->appear(hostWindow());
 }
 
 void AlertToneBrowserSheet::take()

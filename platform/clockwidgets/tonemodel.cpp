@@ -3,12 +3,11 @@
 #include "platform/clockwidgets/tonemodel_p.h"
 
 #include "platform/clockwidgets/alerttone.h"
-#include "platform/locale/locale.h"
+#include "platform/clockwidgets/tonecollator_p.h"
 #include "platform/sparql/qsparqlresult.h"
 #include "platform/tones/tonefiles.h"
 
 #include <algorithm>
-#include <QCollator>
 #include <QFileInfo>
 #include <QUrl>
 
@@ -66,6 +65,11 @@ QString ToneModel::bestTitle(const QString &path) const
     return title.isEmpty() ? AlertTone::niceNameOf(path) : title;
 }
 
+bool ToneModel::isShipped(const QString &path) const
+{
+    return !shippedAs(path).isEmpty();
+}
+
 QString ToneModel::shippedAs(const QString &path) const
 {
     if (m_shipped.contains(path))
@@ -93,9 +97,7 @@ void ToneModel::arrange()
         tones += {path, bestTitle(path), Tone::Own};
     if (!own.contains(m_selected) && shippedAs(m_selected).isEmpty() && QFileInfo::exists(m_selected))
         tones += {m_selected, bestTitle(m_selected), isOwnMusic(m_selected) ? Tone::Own : Tone::Elsewhere};
-    QCollator order(QLocale(Touch::Locale::getDefault().categoryName(Touch::Locale::MessageCategory)));
-    order.setNumericMode(true);
-    order.setCaseSensitivity(Qt::CaseInsensitive);
+    const QCollator order = toneCollator();
     std::sort(tones.begin(), tones.end(), [&order](const Tone &one, const Tone &other) {
         if (one.kind != other.kind)
             return one.kind < other.kind;

@@ -29,6 +29,8 @@ public:
     QString playing() const { return m_playing; }
     void setPlaying(const QString &path);
 
+    /// Whether it is one of the system's, which are known to be heard.
+    bool isShipped(const QString &path) const;
     int rowOf(const QString &path) const;
     QString titleOf(const QString &path) const;
 

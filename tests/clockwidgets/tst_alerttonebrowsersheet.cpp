@@ -62,7 +62,6 @@ private Q_SLOTS:
     void theSoundEndsWithTheSheet();
     void doneTakesTheTone();
     void cancelKeepsTheTone();
-    void aToneThatCannotBePlayedFallsSilent();
     void keysReachEveryTone();
     void looks_data();
     void looks();
@@ -335,15 +334,6 @@ void tst_AlertToneBrowserSheet::cancelKeepsTheTone()
     // The next time it begins with the tone that is.
     m_sheet->appear(m_window.get());
     QCOMPARE(m_sheet->selectedFile(), shipped("Clock alert 1"));
-}
-
-void tst_AlertToneBrowserSheet::aToneThatCannotBePlayedFallsSilent()
-{
-    // It has a title and no sound at all.
-    auto *cell = list()->cellAt(0);
-    QVERIFY(QMetaObject::invokeMethod(cell, "clicked", Q_ARG(QString, m_music + "/Band/02.mp3")));
-    QCOMPARE(m_sheet->selectedFile(), m_music + "/Band/02.mp3");
-    QTRY_COMPARE_WITH_TIMEOUT(m_sheet->playedFile(), QString(), Patience);
 }
 
 void tst_AlertToneBrowserSheet::keysReachEveryTone()
