@@ -44,7 +44,7 @@ int defaultSnoozeIndex()
 AlarmOptionsPage::AlarmOptionsPage()
     : m_settings(Settings::Organisation, Settings::Application)
     , m_defaultTone(Settings::BuiltInTone)
-    , m_store(StoreDriver)
+    , m_store(StoreDriver, {}, this)
     , m_savedSnoozeIndex(defaultSnoozeIndex())
 {
     setStyleName("MoreOptionsSheet");

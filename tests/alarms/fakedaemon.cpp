@@ -47,6 +47,12 @@ void FakeDaemon::refuse(const QString &method, const QString &text)
         m_refused.insert(method, text);
 }
 
+void FakeDaemon::refuseOne(const QString &method, int call)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_refusedCalls.insert(method, call);
+}
+
 QStringList FakeDaemon::calls() const
 {
     const QMutexLocker lock(&m_mutex);
@@ -65,9 +71,11 @@ bool FakeDaemon::handleMessage(const QDBusMessage &message, const QDBusConnectio
     return connection.send(answerTo(message));
 }
 
-QDBusMessage FakeDaemon::answerTo(const QDBusMessage &message) const
+QDBusMessage FakeDaemon::answerTo(const QDBusMessage &message)
 {
     const QString method = message.member();
+    if (m_refusedCalls.contains(method) && --m_refusedCalls[method] == 0)
+        return message.createErrorReply(Astel::Timed::Wire::StorageError, "refused once");
     if (m_refused.contains(method))
         return message.createErrorReply(Astel::Timed::Wire::StorageError, m_refused.value(method));
     if (method == "query_attributes")

@@ -21,18 +21,21 @@ public:
     void setAttributes(quint32 cookie, const QVariantMap &attributes);
     /** Answers every call of a method with this error; with an empty text no more. */
     void refuse(const QString &method, const QString &text);
+    /** Answers one call of a method with an error: the first from now on is 1. */
+    void refuseOne(const QString &method, int call);
     QStringList calls() const;
 
     QString introspect(const QString &path) const override;
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
 
 private:
-    QDBusMessage answerTo(const QDBusMessage &message) const;
+    QDBusMessage answerTo(const QDBusMessage &message);
 
     QThread m_thread;
     bool m_onTheBus = false;
     mutable QMutex m_mutex;
     QMap<quint32, QVariantMap> m_attributes;
     QMap<QString, QString> m_refused;
+    QMap<QString, int> m_refusedCalls; ///< how many calls it is until the one that is refused
     QStringList m_calls;
 };

@@ -32,6 +32,7 @@ private slots:
     void init();
     void moreOptionsHaveATitleAndAnArrow();
     void aValueStandsBelowItsTitle();
+    void itsGridHasNoMarginsAndNoSpacing();
     void otherStylesStayEmpty_data();
     void otherStylesStayEmpty();
     void anEmptySubtitleKeepsTheHeight();
@@ -109,6 +110,19 @@ void TestAlarmEditorListItem::aValueStandsBelowItsTitle()
     QVERIFY(area(item->subtitleLabel()).top() >= area(item->titleLabel()).bottom());
     QCOMPARE(area(item->subtitleLabel()).left(), area(item->titleLabel()).left());
     QVERIFY(area(item->imageWidget()).left() >= area(item->subtitleLabel()).right());
+}
+
+void TestAlarmEditorListItem::itsGridHasNoMarginsAndNoSpacing()
+{
+    for (const int itemStyle : {2, 3}) {
+        const auto *item = place(new AlarmEditorListItem(AlarmEditorListItem::ItemStyle(itemStyle)));
+        const auto *layout = dynamic_cast<const Touch::Layout *>(item->layout());
+        QVERIFY(layout);
+        QCOMPARE(layout->policy()->contentsMargins(), QMarginsF());
+        QCOMPARE(layout->policy()->spacing(), 0.0);
+        // Two labels, the image, and below an empty place.
+        QCOMPARE(layout->policy()->items().size(), itemStyle == 2 ? 2 : 4);
+    }
 }
 
 void TestAlarmEditorListItem::otherStylesStayEmpty_data()

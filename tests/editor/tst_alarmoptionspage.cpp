@@ -1,24 +1,39 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "editor/alarmeditorlistitem.h"
-#include "editor/alarmoptionspage.h"
-#include "editor/repeatingrules.h"
 #include "editor/snoozechoices.h"
-#include "platform/toolkit/combobox.h"
-#include "tests/editor/editortest.h"
-#include "tests/support/logcapture.h"
+#include "platform/toolkit/basicsheetheader.h"
+#include "tests/editor/optionstest.h"
 
+#include <QAction>
 #include <QMetaMethod>
+#include <QTranslator>
 
-class TestAlarmOptionsPage : public EditorTest
+namespace {
+
+/** How a catalogue says the snooze times. */
+class Minutes : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *id, const char *, int) const override
+    {
+        return qstrcmp(id, "qtn_cloc_alarmeditor_snooze") == 0 ? QStringLiteral("%1 min") : QString();
+    }
+};
+
+} // namespace
+
+class TestAlarmOptionsPage : public OptionsTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase() { startStage(); }
-    void init();
-    void cleanup();
+    void init() { openOptions(); }
+    void cleanup() { closeOptions(); }
     void hasAnInvertedWindowChainedToTheCaller();
+    void hasNoMarginsOfItsOwn();
+    void cancelsAndSavesByItsHeader();
     void listsRepeatSnoozeAndTone();
     void offersFiveSnoozeTimes();
     void searchesByHalves_data();
@@ -26,90 +41,61 @@ private slots:
     void aNewAlarmStartsWithTheDefaults();
     void aNewAlarmTakesThePreferences();
     void aNewAlarmsSnoozeIsCutToEightBits();
+    void aNewAlarmsSnoozeThatCannotBeChosenKeepsTheChoice();
     void anExistingAlarmBringsItsOwnValues();
     void aSnoozeThatCannotBeChosenKeepsTheChoice();
     void aMissingToneIsReplacedByTheDefault();
-    void theRepeatRuleIsTakenFromTheDialog();
-    void checkingEveryDayRepeatsEveryDay();
-    void uncheckingAllDaysIsNever();
-    void aRejectedDialogChangesNothing();
-    void everyClickAsksAnew();
-    void savingMakesDefaults();
-    void savingWithoutASnoozeKeepsItsDefault();
-    void savingAnExistingAlarmsOptionsMakesDefaultsToo();
-    void cancellingRestoresRuleAndSnooze();
-    void cancellingGoesBackToWhatWasSaved();
-    void escapeCancels();
-    void resettingClosesWhatIsOpen();
-    void resettingWithNothingOpenOnlySaysSo();
     void theSlotsKeepTheirOrder();
-
-private:
-    AlarmEditorListItem *item(const QString &name) const
-    {
-        return Support::itemIn<AlarmEditorListItem>(m_options.get(), name);
-    }
-    Touch::ComboBox *snooze() const { return Support::itemIn<Touch::ComboBox>(m_options.get()); }
-    QString rule() const { return item("repeatBasicListItem")->subtitle(); }
-    RepeatingRules *dialog() const;
-    /** Opens the dialog, clicks some of its buttons, and is done. */
-    void chooseDays(const QStringList &buttons);
-    void openNewAlarm();
-    static QSettings settings() { return QSettings("Korvo", "Clock"); }
-
-    std::unique_ptr<AlarmOptionsPage> m_options;
 };
-
-void TestAlarmOptionsPage::init()
-{
-    QSettings("Korvo", "Clock").clear();
-    m_options = std::make_unique<AlarmOptionsPage>();
-}
-
-void TestAlarmOptionsPage::cleanup()
-{
-    m_options.reset();
-    closePage();
-}
-
-RepeatingRules *TestAlarmOptionsPage::dialog() const
-{
-    const auto sceneWindows = m_options->hostWindow()->sceneWindows();
-    for (Touch::SceneWindow *sceneWindow : sceneWindows) {
-        if (auto *rules = qobject_cast<RepeatingRules *>(sceneWindow); rules && rules->isOnDisplay())
-            return rules;
-    }
-    return nullptr;
-}
-
-void TestAlarmOptionsPage::openNewAlarm()
-{
-    m_options->load(QmAlarmEvent::NotStored, QString(), 10);
-    m_options->appear();
-}
-
-void TestAlarmOptionsPage::chooseDays(const QStringList &buttons)
-{
-    emit item("repeatBasicListItem")->clicked();
-    QVERIFY(dialog());
-    for (const QString &name : buttons)
-        Support::itemIn<Touch::Button>(dialog(), name)->click();
-    dialog()->standardButton(Touch::Dialog::Done)->click();
-}
 
 void TestAlarmOptionsPage::hasAnInvertedWindowChainedToTheCaller()
 {
+    m_mainPage->setTitle("Clock");
+    m_options = std::make_unique<AlarmOptionsPage>();
     openNewAlarm();
     const auto *window = qobject_cast<Touch::ApplicationWindow *>(m_options->hostWindow());
     QVERIFY(window);
     QVERIFY(window != m_window.get());
     QCOMPARE(window->chainedTo(), m_window.get());
+    QCOMPARE(window->chainedTitle(), "Clock");
     QCOMPARE(window->styleName(), "CommonApplicationWindowInverted");
     QCOMPARE(window->orientation(), Qt::Vertical);
     QVERIFY(window->isOrientationLocked());
     QVERIFY(window->isVisible());
     m_options->cancel();
     QTRY_VERIFY(!window->isVisible());
+}
+
+void TestAlarmOptionsPage::hasNoMarginsOfItsOwn()
+{
+    openNewAlarm();
+    const auto *header = Support::itemIn<Touch::Label>(m_options.get(), "AlarmOptionsHeader");
+    const Touch::Widget *content = m_options->centralWidget();
+    const auto *repeat = item("repeatBasicListItem");
+    QTRY_COMPARE(repeat->sceneBoundingRect().left(), content->sceneBoundingRect().left());
+    QTRY_COMPARE(repeat->sceneBoundingRect().right(), content->sceneBoundingRect().right());
+    QCOMPARE(header->sceneBoundingRect().top(), content->sceneBoundingRect().top());
+    QCOMPARE(repeat->sceneBoundingRect().top(), header->sceneBoundingRect().bottom());
+    QCOMPARE(snooze()->sceneBoundingRect().top(), repeat->sceneBoundingRect().bottom());
+    QCOMPARE(item("toneBasicListItem")->sceneBoundingRect().top(), snooze()->sceneBoundingRect().bottom());
+}
+
+void TestAlarmOptionsPage::cancelsAndSavesByItsHeader()
+{
+    openNewAlarm();
+    const auto *header = qobject_cast<Touch::BasicSheetHeader *>(m_options->headerWidget());
+    QVERIFY(header);
+    QCOMPARE(header->negativeAction()->text(), "qtn_comm_cancel");
+    QCOMPARE(header->positiveAction()->text(), "qtn_comm_save");
+    snooze()->setCurrentIndex(4);
+    header->positiveAction()->trigger();
+    QVERIFY(!m_options->isOnDisplay());
+    QCOMPARE(settings().value("Clock/SnoozeTime").toInt(), 30);
+    m_options->appear();
+    snooze()->setCurrentIndex(0);
+    header->negativeAction()->trigger();
+    QVERIFY(!m_options->isOnDisplay());
+    QCOMPARE(snooze()->currentIndex(), 4);
 }
 
 void TestAlarmOptionsPage::listsRepeatSnoozeAndTone()
@@ -135,7 +121,13 @@ void TestAlarmOptionsPage::listsRepeatSnoozeAndTone()
 
 void TestAlarmOptionsPage::offersFiveSnoozeTimes()
 {
-    QCOMPARE(snooze()->count(), 5);
+    Minutes minutes;
+    QVERIFY(QCoreApplication::installTranslator(&minutes));
+    m_options = std::make_unique<AlarmOptionsPage>();
+    QStringList texts;
+    for (int i = 0; i < snooze()->count(); ++i)
+        texts.append(snooze()->itemText(i));
+    QCOMPARE(texts, (QStringList{"5 min", "10 min", "15 min", "20 min", "30 min"}));
     QCOMPARE(QList<int>(SnoozeChoices.begin(), SnoozeChoices.end()), (QList<int>{5, 10, 15, 20, 30}));
 }
 
@@ -192,6 +184,17 @@ void TestAlarmOptionsPage::aNewAlarmsSnoozeIsCutToEightBits()
     QCOMPARE(snooze()->currentIndex(), 0);
 }
 
+void TestAlarmOptionsPage::aNewAlarmsSnoozeThatCannotBeChosenKeepsTheChoice()
+{
+    settings().setValue("Clock/SnoozeTime", 7);
+    snooze()->setCurrentIndex(2);
+    m_options->load(QmAlarmEvent::NotStored, QString(), 10);
+    QCOMPARE(snooze()->currentIndex(), 2);
+    m_options->cancel();
+    // The one that counts before any was saved is ten minutes.
+    QCOMPARE(snooze()->currentIndex(), 1);
+}
+
 void TestAlarmOptionsPage::anExistingAlarmBringsItsOwnValues()
 {
     settings().setValue("Clock/SnoozeTime", 20);
@@ -224,148 +227,6 @@ void TestAlarmOptionsPage::aMissingToneIsReplacedByTheDefault()
     settings().setValue("Clock/DefaultTone", "/nowhere/gone.aac");
     m_options->load(QmAlarmEvent::NotStored, m_tone, 10);
     QCOMPARE(m_options->tone(), Utility::defaultAlertTone());
-}
-
-void TestAlarmOptionsPage::theRepeatRuleIsTakenFromTheDialog()
-{
-    openNewAlarm();
-    const Support::LogCapture log;
-    chooseDays({"weekday0Button", "weekday2Button"});
-    QCOMPARE(m_options->repeatDays(), (QList<int>{1, 3}));
-    QCOMPARE(rule(), "Mon, Wed");
-    QVERIFY(!dialog());
-    QCOMPARE(log.lines(QtDebugMsg), QStringList{"AlarmOptionsPage::repeatingRulesButtonClicked()"});
-}
-
-void TestAlarmOptionsPage::checkingEveryDayRepeatsEveryDay()
-{
-    openNewAlarm();
-    chooseDays({"everyDayButton"});
-    QCOMPARE(m_options->repeatDays(), (QList<int>{1, 2, 3, 4, 5, 6, 0}));
-    QCOMPARE(rule(), "qtn_cloc_repeatalarm_ruleeveryday");
-}
-
-void TestAlarmOptionsPage::uncheckingAllDaysIsNever()
-{
-    m_options->load(Support::addAlarm(QTime(7, 5), "Tea", {1, 3}), m_tone, 10);
-    m_options->appear();
-    chooseDays({"weekday0Button", "weekday2Button"});
-    QCOMPARE(m_options->repeatDays(), QList<int>());
-    QCOMPARE(rule(), "qtn_cloc_repeatalarm_rulenever");
-}
-
-void TestAlarmOptionsPage::aRejectedDialogChangesNothing()
-{
-    m_options->load(Support::addAlarm(QTime(7, 5), "Tea", {1, 3}), m_tone, 10);
-    m_options->appear();
-    m_options->repeatingRulesButtonClicked();
-    Support::itemIn<Touch::Button>(dialog(), "everyDayButton")->click();
-    QVERIFY(m_options->hostWindow()->stepBack());
-    QVERIFY(!dialog());
-    QCOMPARE(m_options->repeatDays(), (QList<int>{1, 3}));
-    QCOMPARE(rule(), "Mon, Wed");
-}
-
-void TestAlarmOptionsPage::everyClickAsksAnew()
-{
-    openNewAlarm();
-    m_options->repeatingRulesButtonClicked();
-    const QPointer<RepeatingRules> first = dialog();
-    QVERIFY(m_options->hostWindow()->stepBack());
-    QTRY_VERIFY(!first);
-    m_options->repeatingRulesButtonClicked();
-    QVERIFY(dialog());
-    QVERIFY(dialog()->isNeverChecked());
-}
-
-void TestAlarmOptionsPage::savingMakesDefaults()
-{
-    openNewAlarm();
-    snooze()->setCurrentIndex(4);
-    m_options->save();
-    QVERIFY(!m_options->isOnDisplay());
-    QCOMPARE(settings().value("Clock/SnoozeTime").toInt(), 30);
-    QCOMPARE(settings().value("Clock/DefaultTone").toString(), m_options->tone());
-}
-
-void TestAlarmOptionsPage::savingWithoutASnoozeKeepsItsDefault()
-{
-    settings().setValue("Clock/SnoozeTime", 20);
-    openNewAlarm();
-    snooze()->setCurrentIndex(-1);
-    QCOMPARE(m_options->snoozeIndex(), 3);
-    m_options->save();
-    QCOMPARE(settings().value("Clock/SnoozeTime").toInt(), 20);
-}
-
-void TestAlarmOptionsPage::savingAnExistingAlarmsOptionsMakesDefaultsToo()
-{
-    m_options->load(Support::addAlarm(QTime(7, 5)), m_tone, 15);
-    m_options->appear();
-    m_options->save();
-    m_options->load(QmAlarmEvent::NotStored, QString(), 10);
-    QCOMPARE(m_options->snoozeIndex(), 2);
-    QCOMPARE(m_options->tone(), m_tone);
-}
-
-void TestAlarmOptionsPage::cancellingRestoresRuleAndSnooze()
-{
-    m_options->load(Support::addAlarm(QTime(7, 5), "Tea", {1, 3}), m_tone, 15);
-    m_options->appear();
-    chooseDays({"everyDayButton"});
-    snooze()->setCurrentIndex(4);
-    m_options->cancel();
-    QVERIFY(!m_options->isOnDisplay());
-    QCOMPARE(m_options->repeatDays(), (QList<int>{1, 3}));
-    QCOMPARE(rule(), "Mon, Wed");
-    QCOMPARE(m_options->snoozeIndex(), 2);
-    QCOMPARE(m_options->tone(), m_tone);
-    QVERIFY(!settings().contains("Clock/SnoozeTime"));
-    QVERIFY(!settings().contains("Clock/DefaultTone"));
-}
-
-void TestAlarmOptionsPage::cancellingGoesBackToWhatWasSaved()
-{
-    openNewAlarm();
-    chooseDays({"weekday4Button"});
-    snooze()->setCurrentIndex(0);
-    m_options->save();
-    m_options->appear();
-    chooseDays({"neverButton"});
-    snooze()->setCurrentIndex(4);
-    m_options->cancel();
-    QCOMPARE(m_options->repeatDays(), QList<int>{5});
-    QCOMPARE(m_options->snoozeIndex(), 0);
-}
-
-void TestAlarmOptionsPage::escapeCancels()
-{
-    openNewAlarm();
-    snooze()->setCurrentIndex(4);
-    QVERIFY(m_options->hostWindow()->stepBack());
-    QVERIFY(!m_options->isOnDisplay());
-    QCOMPARE(m_options->snoozeIndex(), 1);
-}
-
-void TestAlarmOptionsPage::resettingClosesWhatIsOpen()
-{
-    openNewAlarm();
-    snooze()->showPopup();
-    QVERIFY(snooze()->isPopupOpen());
-    m_options->resetContent();
-    QVERIFY(!snooze()->isPopupOpen());
-    m_options->repeatingRulesButtonClicked();
-    m_options->resetContent();
-    QVERIFY(!dialog());
-    QVERIFY(m_options->isOnDisplay());
-}
-
-void TestAlarmOptionsPage::resettingWithNothingOpenOnlySaysSo()
-{
-    m_options->load(QmAlarmEvent::NotStored, QString(), 10);
-    const Support::LogCapture log;
-    m_options->resetContent();
-    QCOMPARE(log.lines(), QStringList{"void AlarmOptionsPage::resetContent()"});
 }
 
 void TestAlarmOptionsPage::theSlotsKeepTheirOrder()

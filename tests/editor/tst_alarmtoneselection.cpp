@@ -38,6 +38,7 @@ private slots:
     void aToneWithoutATitleIsNamedAfterItsFile_data();
     void aToneWithoutATitleIsNamedAfterItsFile();
     void theTitleIsAskedForEachTimeTheSheetAppears();
+    void anAnsweredQuestionIsForgotten();
     void aStoreOutOfOrderLeavesTheNameOfTheFile();
     void shippedTonesAreFoundOnceTheirFolderIsRead();
     void theToneChosenIsTaken();
@@ -196,6 +197,15 @@ void TestAlarmToneSelection::theTitleIsAskedForEachTimeTheSheetAppears()
     QCOMPARE(shownTone(), "learned later");
     m_options->appear();
     QTRY_COMPARE(shownTone(), "The title");
+}
+
+void TestAlarmToneSelection::anAnsweredQuestionIsForgotten()
+{
+    m_options->load(Support::addAlarm(QTime(7, 5)), file("Morning_bell.aac"), 10);
+    m_options->appear();
+    QCOMPARE(m_options->findChildren<QSparqlResult *>().size(), 1);
+    QTRY_COMPARE(shownTone(), "Morning bell");
+    QTRY_COMPARE(m_options->findChildren<QSparqlResult *>().size(), 0);
 }
 
 void TestAlarmToneSelection::aStoreOutOfOrderLeavesTheNameOfTheFile()

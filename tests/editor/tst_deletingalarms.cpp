@@ -14,6 +14,7 @@ private slots:
     void cleanup() { closePage(); }
     void deletingTakesTheAlarmOutOfTheDaemon();
     void deletingASwitchedOffAlarmRefreshesTheTriggers();
+    void deletingASwitchedOnAlarmLeavesTheNewsToTheDaemon();
     void deletingANewAlarmOnlyCloses();
     void aFailedDeletionClosesWithAnError();
 };
@@ -38,6 +39,17 @@ void TestDeletingAlarms::deletingASwitchedOffAlarmRefreshesTheTriggers()
     QSignalSpy refreshed(Utility::instance(), &Utility::valueChanged);
     m_page->removeAlarm();
     QCOMPARE(refreshed.size(), 1);
+}
+
+void TestDeletingAlarms::deletingASwitchedOnAlarmLeavesTheNewsToTheDaemon()
+{
+    const quint32 cookie = Support::addAlarm(QTime(7, 5));
+    QVERIFY(Support::waitForChanges());
+    load(cookie);
+    QSignalSpy refreshed(Utility::instance(), &Utility::valueChanged);
+    m_page->removeAlarm();
+    QCOMPARE(refreshed.size(), 0);
+    QTRY_COMPARE(refreshed.size(), 1);
 }
 
 void TestDeletingAlarms::deletingANewAlarmOnlyCloses()

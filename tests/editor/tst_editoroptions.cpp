@@ -9,6 +9,7 @@
 #include "tests/support/logcapture.h"
 
 #include <QApplication>
+#include <QPointer>
 
 class TestEditorOptions : public EditorTest
 {
@@ -28,6 +29,7 @@ private slots:
     void optionsNeverOpenedLeaveTheAlarmAsItWas();
     void aSnoozeThatCannotBeChosenIsSavedAsTheChoice();
     void theOptionsGoWithTheEditor();
+    void theOptionsEndWithTheEditor();
     void resettingResetsThem();
     void theTitlesKeyboardSaysDone();
 
@@ -190,6 +192,16 @@ void TestEditorOptions::theOptionsGoWithTheEditor()
     QVERIFY(options());
     m_page->dismiss();
     QVERIFY(!options());
+}
+
+void TestEditorOptions::theOptionsEndWithTheEditor()
+{
+    load(QmAlarmEvent::NotStored);
+    m_page->displayOptionsPage();
+    const QPointer<AlarmOptionsPage> sheet = options();
+    QVERIFY(sheet);
+    m_page.reset();
+    QVERIFY(!sheet);
 }
 
 void TestEditorOptions::resettingResetsThem()

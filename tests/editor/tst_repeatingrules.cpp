@@ -6,6 +6,8 @@
 #include "platform/toolkit/applicationpage.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/button.h"
+#include "platform/toolkit/layout.h"
+#include "platform/toolkit/linearlayoutpolicy.h"
 #include "tests/support/look/items.h"
 #include "tests/support/look/look.h"
 
@@ -36,6 +38,8 @@ private slots:
     void theSeventhDayChecksEveryDay();
     void showsARule_data();
     void showsARule();
+    void aSecondRuleTakesTheFirstAway();
+    void hasNoMarginsOfItsOwn();
     void aNumberThatIsNoDayIsLeftOut();
     void theDaysComeInTheOrderOfTheList();
     void tellsHowItWasLeft();
@@ -123,6 +127,7 @@ void TestRepeatingRules::neverCannotBeTurnedOff()
     m_rules->setRepeatDays(false, {});
     never()->click();
     QVERIFY(never()->isChecked());
+    QVERIFY(!everyDay()->isChecked());
     QCOMPARE(checkedPlaces(), QList<int>());
 }
 
@@ -140,6 +145,7 @@ void TestRepeatingRules::everyDayCannotBeTurnedOff()
     m_rules->setRepeatDays(true, {0, 1, 2, 3, 4, 5, 6});
     everyDay()->click();
     QVERIFY(everyDay()->isChecked());
+    QVERIFY(!never()->isChecked());
     QCOMPARE(checkedPlaces().size(), 7);
 }
 
@@ -197,6 +203,30 @@ void TestRepeatingRules::showsARule()
     QTEST(never()->isChecked(), "isNever");
     QTEST(m_rules->isNeverChecked(), "isNever");
     QTEST(everyDay()->isChecked(), "isEveryDay");
+}
+
+void TestRepeatingRules::aSecondRuleTakesTheFirstAway()
+{
+    m_rules->setRepeatDays(true, {0, 1, 2, 3, 4, 5, 6});
+    m_rules->setRepeatDays(true, {2});
+    QCOMPARE(m_rules->repeatDays(), QList<int>{2});
+    QVERIFY(!everyDay()->isChecked());
+    m_rules->setRepeatDays(false, {});
+    m_rules->setRepeatDays(true, {2});
+    QVERIFY(!never()->isChecked());
+}
+
+void TestRepeatingRules::hasNoMarginsOfItsOwn()
+{
+    const auto *column = dynamic_cast<const Touch::Layout *>(m_rules->centralWidget()->layout());
+    QVERIFY(column);
+    const auto *policy = dynamic_cast<const Touch::LinearLayoutPolicy *>(column->policy());
+    QVERIFY(policy);
+    QCOMPARE(policy->spacing(), 0.0);
+    QCOMPARE(policy->contentsMargins(), QMarginsF());
+    qreal left = 1, top = 1, right = 1, bottom = 1;
+    column->getContentsMargins(&left, &top, &right, &bottom);
+    QCOMPARE(QMarginsF(left, top, right, bottom), QMarginsF());
 }
 
 void TestRepeatingRules::aNumberThatIsNoDayIsLeftOut()
