@@ -7,13 +7,17 @@
 #include "editor/weekdayorder.h"
 #include "platform/clockwidgets/alarmlistitem.h"
 #include "platform/clockwidgets/timepicker.h"
+#include "platform/clockwidgets/tonefileitem_p.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/combobox.h"
 #include "platform/toolkit/textedit.h"
 #include "tests/flow/finger.h"
 #include "tests/flow/wholeprogram.h"
+#include "tests/support/places.h"
 
+#include <QDir>
+#include <QFile>
 #include <QProcess>
 #include <QTest>
 
@@ -34,6 +38,24 @@ void tapSaying(const QString &start)
 {
     QTRY_VERIFY(Flow::itemSaying(start) && !Flow::isMoving());
     Flow::tap(pointOf(Flow::itemSaying(start)));
+}
+
+/** The row of a file or folder where one is looked for, or null. */
+QGraphicsObject *fileRow(const QString &path)
+{
+    const auto items = Flow::frontWindow()->scene()->items();
+    for (QGraphicsItem *item : items) {
+        auto *row = qobject_cast<ToneFileItem *>(item->toGraphicsObject());
+        if (row && row->isVisible() && row->path() == path)
+            return row;
+    }
+    return nullptr;
+}
+
+void tapFile(const QString &path)
+{
+    QTRY_VERIFY(fileRow(path) && !Flow::isMoving());
+    Flow::tap(pointOf(fileRow(path)));
 }
 
 bool keepScreenshot(const QString &name)
@@ -83,6 +105,7 @@ private slots:
     void itsOptionsOpenInTheirOwnWindow();
     void itsDaysAreChosen();
     void itsSnoozeIsChosen();
+    void aFileOfOnesOwnIsChosen();
     void itsToneIsChosen();
     void itIsSavedWithAllThat();
     void itIsOpenedAgainAndCancelled();
@@ -142,6 +165,30 @@ void TestEditorFlow::itsSnoozeIsChosen()
     tap("snoozeComboBox");
     tapSaying("20 minutes");
     QTRY_COMPARE(subtitleOf("snoozeComboBox"), "20 minutes");
+}
+
+void TestEditorFlow::aFileOfOnesOwnIsChosen()
+{
+    const QString folder = QDir::home().filePath("Downloads");
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(QFile::copy(Places::sharedData("sounds/ring-tones/Harbour.aac"), folder + "/Sea_shanty.aac"));
+    QFile text(folder + "/No_music.mp3");
+    QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no music in here") > 0);
+    text.close();
+    tap("toneBasicListItem");
+    tap("chooseFileItem");
+    tapFile(folder);
+    QTRY_VERIFY(fileRow(folder + "/No_music.mp3"));
+    QVERIFY(keepScreenshot("4-files"));
+    tapFile(folder + "/No_music.mp3");
+    QTRY_VERIFY_WITH_TIMEOUT(Flow::visibleTexts().join('\n').contains("No music"), 15000);
+    QVERIFY(keepScreenshot("4-refused"));
+    tapFile(folder + "/Sea_shanty.aac");
+    QTRY_VERIFY_WITH_TIMEOUT(!itemNamed("toneFileList"), 15000);
+    QTRY_VERIFY(Flow::itemSaying("Sea shanty"));
+    QVERIFY(keepScreenshot("4-file"));
+    tap("positiveButton");
+    QTRY_COMPARE(subtitleOf("toneBasicListItem"), "Sea shanty");
 }
 
 void TestEditorFlow::itsToneIsChosen()
