@@ -40,6 +40,7 @@ const QHash<QString, QStringList> sameAsEnglish{
     {"qtn_cloc_alarmeditor_snooze", {"fr"}},
     {"qtn_comm_navigation", {"de", "fr"}},
     {"qtn_ring_untitled", {"id", "pl", "sv", "tr"}},
+    {"qtn_sond_folder", {"id", "pl"}},
     {"qtn_sond_place_downloads", {"de", "nl", "pt_BR"}},
     {"qtn_timed_untitled", {"id", "pl", "sv", "tr"}},
 };

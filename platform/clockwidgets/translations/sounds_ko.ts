@@ -33,5 +33,54 @@
         <source>Cancel</source>
         <translation>취소</translation>
     </message>
+    <message id="qtn_sond_choose_file">
+        <source>Choose a file…</source>
+        <extracomment>The row above the tones that leads to one’s own files, and the spoken name of where it leads.</extracomment>
+        <translation>파일 선택…</translation>
+    </message>
+    <message id="qtn_sond_places">
+        <source>Places</source>
+        <extracomment>Title of the list of places where sound files may lie: music, downloads, home, memory cards.</extracomment>
+        <translation>위치</translation>
+    </message>
+    <message id="qtn_sond_place_music">
+        <source>Music</source>
+        <extracomment>The user’s folder for music.</extracomment>
+        <translation>음악</translation>
+    </message>
+    <message id="qtn_sond_place_downloads">
+        <source>Downloads</source>
+        <extracomment>The user’s folder for what was downloaded.</extracomment>
+        <translation>다운로드</translation>
+    </message>
+    <message id="qtn_sond_place_home">
+        <source>Home folder</source>
+        <extracomment>The folder with all of the user’s own folders.</extracomment>
+        <translation>홈 폴더</translation>
+    </message>
+    <message id="qtn_sond_folder_up">
+        <source>Up to %1</source>
+        <extracomment>Leads one folder up; %1 is the name of that folder, or “Places”.</extracomment>
+        <translation>위로: %1</translation>
+    </message>
+    <message id="qtn_sond_folder">
+        <source>%1, folder</source>
+        <extracomment>Spoken for a folder; %1 is its name.</extracomment>
+        <translation>%1, 폴더</translation>
+    </message>
+    <message id="qtn_sond_folder_empty">
+        <source>No sound files here</source>
+        <translation>여기에 소리 파일 없음</translation>
+    </message>
+    <message id="qtn_sond_file_unplayable">
+        <source>“%1” cannot be played. The tone stays as it was.</source>
+        <extracomment>%1 is the title of a sound file.</extracomment>
+        <translation>‘%1’을(를) 재생할 수 없습니다. 알람음은 그대로입니다.</translation>
+    </message>
+    <message id="qtn_sond_file_silent">
+        <source>“%1” starts with silence and would not wake you. The tone stays as it was.</source>
+        <extracomment>%1 is the title of a sound file.</extracomment>
+        <translation>‘%1’은(는) 무음으로 시작하여 깨우지 못합니다. 알람음은 그대로입니다.</translation>
+    </message>
 </context>
 </TS>

@@ -33,5 +33,54 @@
         <source>Cancel</source>
         <translation>Annuleren</translation>
     </message>
+    <message id="qtn_sond_choose_file">
+        <source>Choose a file…</source>
+        <extracomment>The row above the tones that leads to one’s own files, and the spoken name of where it leads.</extracomment>
+        <translation>Bestand kiezen…</translation>
+    </message>
+    <message id="qtn_sond_places">
+        <source>Places</source>
+        <extracomment>Title of the list of places where sound files may lie: music, downloads, home, memory cards.</extracomment>
+        <translation>Locaties</translation>
+    </message>
+    <message id="qtn_sond_place_music">
+        <source>Music</source>
+        <extracomment>The user’s folder for music.</extracomment>
+        <translation>Muziek</translation>
+    </message>
+    <message id="qtn_sond_place_downloads">
+        <source>Downloads</source>
+        <extracomment>The user’s folder for what was downloaded.</extracomment>
+        <translation>Downloads</translation>
+    </message>
+    <message id="qtn_sond_place_home">
+        <source>Home folder</source>
+        <extracomment>The folder with all of the user’s own folders.</extracomment>
+        <translation>Persoonlijke map</translation>
+    </message>
+    <message id="qtn_sond_folder_up">
+        <source>Up to %1</source>
+        <extracomment>Leads one folder up; %1 is the name of that folder, or “Places”.</extracomment>
+        <translation>Omhoog naar %1</translation>
+    </message>
+    <message id="qtn_sond_folder">
+        <source>%1, folder</source>
+        <extracomment>Spoken for a folder; %1 is its name.</extracomment>
+        <translation>%1, map</translation>
+    </message>
+    <message id="qtn_sond_folder_empty">
+        <source>No sound files here</source>
+        <translation>Geen geluidsbestanden hier</translation>
+    </message>
+    <message id="qtn_sond_file_unplayable">
+        <source>“%1” cannot be played. The tone stays as it was.</source>
+        <extracomment>%1 is the title of a sound file.</extracomment>
+        <translation>‘%1’ kan niet worden afgespeeld. Het geluid blijft zoals het was.</translation>
+    </message>
+    <message id="qtn_sond_file_silent">
+        <source>“%1” starts with silence and would not wake you. The tone stays as it was.</source>
+        <extracomment>%1 is the title of a sound file.</extracomment>
+        <translation>‘%1’ begint met stilte en zou je niet wekken. Het geluid blijft zoals het was.</translation>
+    </message>
 </context>
 </TS>

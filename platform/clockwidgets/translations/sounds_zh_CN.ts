@@ -33,5 +33,54 @@
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message id="qtn_sond_choose_file">
+        <source>Choose a file…</source>
+        <extracomment>The row above the tones that leads to one’s own files, and the spoken name of where it leads.</extracomment>
+        <translation>选择文件…</translation>
+    </message>
+    <message id="qtn_sond_places">
+        <source>Places</source>
+        <extracomment>Title of the list of places where sound files may lie: music, downloads, home, memory cards.</extracomment>
+        <translation>位置</translation>
+    </message>
+    <message id="qtn_sond_place_music">
+        <source>Music</source>
+        <extracomment>The user’s folder for music.</extracomment>
+        <translation>音乐</translation>
+    </message>
+    <message id="qtn_sond_place_downloads">
+        <source>Downloads</source>
+        <extracomment>The user’s folder for what was downloaded.</extracomment>
+        <translation>下载</translation>
+    </message>
+    <message id="qtn_sond_place_home">
+        <source>Home folder</source>
+        <extracomment>The folder with all of the user’s own folders.</extracomment>
+        <translation>主文件夹</translation>
+    </message>
+    <message id="qtn_sond_folder_up">
+        <source>Up to %1</source>
+        <extracomment>Leads one folder up; %1 is the name of that folder, or “Places”.</extracomment>
+        <translation>上一级：%1</translation>
+    </message>
+    <message id="qtn_sond_folder">
+        <source>%1, folder</source>
+        <extracomment>Spoken for a folder; %1 is its name.</extracomment>
+        <translation>%1，文件夹</translation>
+    </message>
+    <message id="qtn_sond_folder_empty">
+        <source>No sound files here</source>
+        <translation>这里没有声音文件</translation>
+    </message>
+    <message id="qtn_sond_file_unplayable">
+        <source>“%1” cannot be played. The tone stays as it was.</source>
+        <extracomment>%1 is the title of a sound file.</extracomment>
+        <translation>无法播放“%1”。铃声保持不变。</translation>
+    </message>
+    <message id="qtn_sond_file_silent">
+        <source>“%1” starts with silence and would not wake you. The tone stays as it was.</source>
+        <extracomment>%1 is the title of a sound file.</extracomment>
+        <translation>“%1”以静音开头，无法叫醒您。铃声保持不变。</translation>
+    </message>
 </context>
 </TS>
