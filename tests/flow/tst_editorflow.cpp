@@ -194,11 +194,11 @@ void TestEditorFlow::aFileOfOnesOwnIsChosen()
 void TestEditorFlow::itsToneIsChosen()
 {
     tap("toneBasicListItem");
-    QTRY_VERIFY(Flow::itemSaying("Dewdrops"));
+    QTRY_VERIFY(Flow::itemSaying("Village Bells"));
     QVERIFY(keepScreenshot("4-tones"));
-    tapSaying("Dewdrops");
+    tapSaying("Village Bells");
     tapSaying("Done");
-    QTRY_COMPARE(subtitleOf("toneBasicListItem"), "Dewdrops");
+    QTRY_COMPARE(subtitleOf("toneBasicListItem"), "Village Bells");
     QVERIFY(keepScreenshot("5-chosen"));
 }
 
@@ -215,7 +215,7 @@ void TestEditorFlow::itIsSavedWithAllThat()
     QCOMPARE(stored.alarmTime(), m_time);
     QCOMPARE(stored.repeatDays(), chosenDays());
     QCOMPARE(stored.snooze(), 20);
-    QVERIFY(stored.tone().endsWith("/Dewdrops.aac"));
+    QVERIFY(stored.tone().endsWith("/Village Bells.aac"));
     QVERIFY(keepScreenshot("6-saved"));
 }
 
@@ -225,7 +225,7 @@ void TestEditorFlow::itIsOpenedAgainAndCancelled()
     Flow::tap(pointOf(row(), 0.5));
     tap("moreOptionsBasicListItem");
     QTRY_COMPARE(subtitleOf("snoozeComboBox"), "20 minutes");
-    QTRY_COMPARE(subtitleOf("toneBasicListItem"), "Dewdrops");
+    QTRY_COMPARE(subtitleOf("toneBasicListItem"), "Village Bells");
     tap("negativeButton");
     QTRY_COMPARE(Flow::frontWindow(), applicationWindow);
     QVERIFY(keepScreenshot("7-existing"));
