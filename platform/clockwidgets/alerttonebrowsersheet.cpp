@@ -197,7 +197,8 @@ void AlertToneBrowserSheet::hear(const QString &path, Sound::Probe::Verdict verd
     if (m_notice)
         m_notice->disappear();
     select(path);
-    showSelected();
+    // The list is as long as that only once it is laid out.
+    QMetaObject::invokeMethod(this, &AlertToneBrowserSheet::showSelected, Qt::QueuedConnection);
 }
 
 void AlertToneBrowserSheet::select(const QString &path)

@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <QStandardPaths>
-#include <QStorageInfo>
 
 QList<TonePlace> tonePlaces()
 {
@@ -21,15 +20,17 @@ QList<TonePlace> tonePlaces()
     if (QDir(downloads) != QDir::home())
         add(qtTrId("qtn_sond_place_downloads"), downloads);
     add(qtTrId("qtn_sond_place_home"), QDir::homePath());
-    const QList<QStorageInfo> volumes = QStorageInfo::mountedVolumes();
-    for (const QStorageInfo &volume : volumes) {
-        if (volume.isReady() && isMountPointOfDrives(volume.rootPath()))
-            add(QFileInfo(volume.rootPath()).fileName(), volume.rootPath());
-    }
-    return places;
+    const QString user = QDir::home().dirName();
+    return places + drivesIn({"/run/media/" + user, "/media/" + user});
 }
 
-bool isMountPointOfDrives(const QString &path)
+QList<TonePlace> drivesIn(const QStringList &folders)
 {
-    return path.startsWith(QLatin1String("/media/")) || path.startsWith(QLatin1String("/run/media/"));
+    QList<TonePlace> drives;
+    for (const QString &folder : folders) {
+        const QFileInfoList infos = QDir(folder).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+        for (const QFileInfo &info : infos)
+            drives += {info.fileName(), info.absoluteFilePath()};
+    }
+    return drives;
 }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <QList>
-#include <QString>
+#include <QStringList>
 
 /// A folder in which one starts to look for a file.
 struct TonePlace
@@ -15,5 +15,5 @@ struct TonePlace
 /// The user's music and downloads, where there are such folders, the home, and memory cards and drives.
 QList<TonePlace> tonePlaces();
 
-/// Whether this is where the desktop puts memory cards and drives.
-bool isMountPointOfDrives(const QString &path);
+/// What lies in the folders where the desktop puts memory cards and drives, by name. Asks no drive anything.
+QList<TonePlace> drivesIn(const QStringList &folders);

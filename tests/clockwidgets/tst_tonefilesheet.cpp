@@ -177,7 +177,8 @@ void tst_ToneFileSheet::aFileThatIsFoundIsHeardAndChosen()
     QCOMPARE(notice(), QString());
     QTRY_VERIFY_WITH_TIMEOUT(m_server.peak(300) > 0.1f, Patience);
     const auto *cells = Support::itemIn<Touch::List>(m_sheet.get());
-    QTRY_VERIFY(cells->cellAt(int(tones().indexOf("Bell 2"))));
+    const int row = int(tones().indexOf("Bell 2"));
+    QTRY_VERIFY(cells->cellAt(row) && m_window->sceneRect().contains(cells->cellAt(row)->sceneBoundingRect()));
 }
 
 void tst_ToneFileSheet::doneTakesTheFile()
