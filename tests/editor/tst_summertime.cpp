@@ -4,6 +4,9 @@
 #include "tests/editor/editortest.h"
 #include "tests/support/logcapture.h"
 
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
 #include <QTranslator>
 
 #include <ctime>
@@ -70,6 +73,7 @@ private slots:
     void aQuestionLeftOpenLosesNoAlarm();
     void theQuestionIsAskedAgain();
     void theQuestionIsMadeOnce();
+    void theQuestionSpeaksInTheUsersHours();
     void aWeeklyAlarmIsAskedAboutToo();
     void otherTimesAreNotAskedAbout_data();
     void otherTimesAreNotAskedAbout();
@@ -309,6 +313,23 @@ void TestSummerTime::theQuestionIsMadeOnce()
     answer(Answer::SetAgain);
     m_page->showResetAlarmDialog(alarm);
     QCOMPARE(question(), first);
+}
+
+void TestSummerTime::theQuestionSpeaksInTheUsersHours()
+{
+    changeZone(zoneChangingTomorrow(2));
+    load(QmAlarmEvent::NotStored);
+    pick(QTime(15, 30));
+    QDir config(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    QVERIFY(config.mkpath("Korvo"));
+    QFile settings(config.filePath("Korvo/Locale.conf"));
+    QVERIFY(settings.open(QIODevice::WriteOnly) && settings.write("timeFormat=12\n") > 0);
+    settings.close();
+    QTRY_COMPARE(label("ClockhhLabel")->text(), "03");
+    m_page->showResetAlarmDialog(Support::alarmAt(QTime(15, 30)));
+    const QString text = question()->text();
+    QVERIFY(settings.remove());
+    QVERIFY2(text.contains("2:30") && !text.contains("14:30"), qPrintable(text));
 }
 
 void TestSummerTime::aWeeklyAlarmIsAskedAboutToo()

@@ -12,6 +12,7 @@
 #include "mainview/mashuppage.h"
 #include "platform/clockwidgets/alarmlistitem.h"
 #include "platform/clockwidgets/alerttonebrowsersheet.h"
+#include "platform/clockwidgets/tonefilesheet_p.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/combobox.h"
 #include "platform/toolkit/pannableviewport.h"
@@ -145,8 +146,9 @@ void LanguageTour::visitQuestions()
     m_editor->showResetAlarmDialog(Clock::QmAlarmEvent(m_editor->getAlarmCookie()));
     look("question");
     m_window->stepBack();
-    for (const char *notice : {"qtn_cloc_alarm_save_error", "qtn_cloc_alarm_delete_error"}) {
-        showInformationBanner(qtTrId(notice));
+    for (const char *notice : {"qtn_cloc_alarm_save_error", "qtn_cloc_alarm_delete_error", "qtn_sond_file_unplayable",
+                               "qtn_sond_file_silent"}) {
+        showInformationBanner(qtTrId(notice).replace("%1", "Zebra crossing"));
         look("notice");
     }
     showInformationBanner(qtTrId("qtn_cloc_time_left_alarm").arg(qtTrId("qtn_cloc_about_days", 12)));
@@ -195,8 +197,14 @@ void LanguageTour::visitTones()
 {
     Touch::Window *window = Touch::Window::active();
     onTopOf<AlarmOptionsPage>(window)->toneClicked();
-    expect(onTopOf<AlertToneBrowserSheet>(window), "tones");
+    auto *tones = onTopOf<AlertToneBrowserSheet>(window);
+    expect(tones, "tones");
     look("tones");
+    emit Support::itemIn<Touch::BasicListItem>(tones, "chooseFileItem")->clicked();
+    expect(onTopOf<ToneFileSheet>(window), "files");
+    look("files");
+    window->stepBack();
+    expect(onTopOf<AlertToneBrowserSheet>(window), "tones again");
     window->stepBack();
 }
 
