@@ -4,6 +4,7 @@
 
 #include "platform/toolkit/choicerow_p.h"
 #include "platform/toolkit/dialog.h"
+#include "platform/toolkit/direction_p.h"
 #include "platform/toolkit/gridlayoutpolicy.h"
 #include "platform/toolkit/imagewidget.h"
 #include "platform/toolkit/label.h"
@@ -76,7 +77,7 @@ void ComboBox::showPopup()
     if (isPopupOpen() || m_items.isEmpty())
         return;
     m_popup = new Dialog(title());
-    m_popup->setLayoutDirection(layoutDirection());
+    takeDirection(m_popup, this);
     Widget *content = m_popup->centralWidget();
     auto *column = new LinearLayoutPolicy(new Layout(content), Qt::Vertical);
     ChoiceRow *current = nullptr;

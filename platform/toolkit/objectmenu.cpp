@@ -4,6 +4,7 @@
 
 #include "platform/toolkit/action.h"
 #include "platform/toolkit/choicerow_p.h"
+#include "platform/toolkit/direction_p.h"
 #include "platform/toolkit/layout.h"
 #include "platform/toolkit/linearlayoutpolicy.h"
 #include "platform/toolkit/window.h"
@@ -82,7 +83,7 @@ Widget *ObjectMenu::ownerOf(QGraphicsItem *item)
 ObjectMenu *ObjectMenu::open(Widget *owner)
 {
     auto *menu = new ObjectMenu(owner);
-    menu->setLayoutDirection(owner->layoutDirection());
+    takeDirection(menu, owner);
     menu->appear(owner->hostWindow(), DestroyWhenDone);
     return menu;
 }

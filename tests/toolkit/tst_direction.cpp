@@ -4,6 +4,8 @@
 #include "platform/toolkit/application.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/basiclistitem.h"
+#include "platform/toolkit/combobox.h"
+#include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/textedit.h"
 #include "tests/support/look/mirror.h"
 #include "tools/gallery/gallery.h"
@@ -53,6 +55,7 @@ private slots:
     void turnsWhatIsOpen();
     void turnsWhatIsKeptUntilItAppears();
     void leavesWhatHasADirectionOfItsOwn();
+    void turnsWhatAWidgetHasOpened();
 
 private:
     using Make = SceneWindow *(*)();
@@ -127,6 +130,25 @@ void TestDirection::leavesWhatHasADirectionOfItsOwn()
     page.appear(&window);
     Locale::setDefault(Locale(QStringLiteral("ar_EG")));
     QCOMPARE(page.item->layoutDirection(), Qt::LeftToRight);
+}
+
+void TestDirection::turnsWhatAWidgetHasOpened()
+{
+    ApplicationWindow window;
+    window.show();
+    Gallery::RowsPage page;
+    page.appear(&window);
+    page.choice->showPopup();
+    Locale::setDefault(Locale(QStringLiteral("ar_EG")));
+    QCOMPARE(window.topSceneWindow()->layoutDirection(), Qt::RightToLeft);
+    page.choice->dismissPopup();
+    const ObjectMenu *menu = ObjectMenu::open(page.item);
+    Locale::setDefault(Locale(QStringLiteral("en_GB")));
+    QCOMPARE(menu->layoutDirection(), Qt::LeftToRight);
+    // What is on a page with a direction of its own keeps to that.
+    page.setLayoutDirection(Qt::RightToLeft);
+    page.choice->showPopup();
+    QCOMPARE(window.topSceneWindow()->layoutDirection(), Qt::RightToLeft);
 }
 
 int main(int argc, char **argv)
