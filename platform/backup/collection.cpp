@@ -15,7 +15,7 @@ namespace Backup {
 
 namespace {
 
-constexpr qint64 LargestTone = 32 * 1024 * 1024;
+constexpr qint64 LargestTone = Q_INT64_C(32) * 1024 * 1024;
 
 Result<QList<SettingsFile>> settingsOf(const QList<Participant> &participants)
 {

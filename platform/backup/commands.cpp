@@ -64,7 +64,7 @@ Result<> runCreate(const CommandLine &line)
     const auto request = requestOf(line);
     if (!request)
         return request.problem();
-    if (const auto free = mayBeWritten(request->file); !free)
+    if (auto free = mayBeWritten(request->file); !free)
         return free;
     const QList<Participant> participants = installedParticipants();
     const auto ownTones = line.has(WithoutTonesOption) ? OwnTones::LeftOut : OwnTones::Included;
@@ -73,7 +73,7 @@ Result<> runCreate(const CommandLine &line)
     const auto archive = collect(participants, ownTones);
     if (!archive)
         return archive.problem();
-    if (const auto written = writeBackup(request->file, *archive); !written)
+    if (auto written = writeBackup(request->file, *archive); !written)
         return written;
     announcement.reset();
     say(QStringLiteral("Backed up %1, %2, %3 to %4")
@@ -105,7 +105,7 @@ Result<> runRestore(const CommandLine &line)
         return archive.problem();
     const QList<Participant> participants = installedParticipants();
     Restoration restoration(*archive);
-    if (const auto prepared = restoration.prepare(participants); !prepared)
+    if (auto prepared = restoration.prepare(participants); !prepared)
         return prepared;
     std::optional<Announcement> announcement(std::in_place, participants, Announcement::Occasion::Restore,
                                              request->patience);
