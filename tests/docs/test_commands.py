@@ -38,7 +38,8 @@ class Household:
             XDG_CACHE_HOME=f"{folder}/cache", XDG_RUNTIME_DIR=f"{folder}/run", TIMED_BOOT_FOLDER=f"{folder}/boot",
             XDG_DATA_DIRS=f"{BUILD}/share:/usr/share", PATH=f"{BUILD}/bin:{os.environ['PATH']}",
             RINGER_PLUGIN_DIR=f"{BUILD}/lib/ringer", PULSE_SERVER=f"unix:{SOUND}", LC_ALL="C.UTF-8",
-            PYTHONDONTWRITEBYTECODE="1")
+            # The alarms of the pages, set for the early morning, are not to ring meanwhile.
+            TZ="Asia/Tokyo" if 5 <= time.gmtime().tm_hour < 12 else "UTC", PYTHONDONTWRITEBYTECODE="1")
         for name in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"):
             self.environment.pop(name, None)
         os.mkdir(f"{folder}/run", 0o700)
