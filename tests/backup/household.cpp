@@ -4,6 +4,7 @@
 
 #include "platform/timedclient/interface.h"
 
+#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDir>
 #include <QFile>

@@ -3,6 +3,7 @@
 #include "tests/timed/daemonclient.h"
 
 #include <QDBusConnection>
+#include <QDBusError>
 #include <QDBusMessage>
 
 #include <algorithm>

@@ -7,6 +7,7 @@
 #include "tests/timed/buswatch.h"
 #include "tests/timed/world.h"
 
+#include <QDBusMessage>
 #include <QTest>
 
 using namespace Astel::Timed;

@@ -9,6 +9,7 @@
 
 #include <QDBusInterface>
 #include <QDBusReply>
+#include <QFile>
 #include <QRandomGenerator>
 #include <QTest>
 #include <QXmlStreamReader>
