@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDBusConnection>
+#include <QFile>
 #include <QStandardPaths>
 
 using namespace Astel::Timed;
@@ -40,14 +41,8 @@ bool quitWithTheBus(QCoreApplication *application)
                                                  "Disconnected", application, SLOT(quit()));
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+int run(QCoreApplication &application)
 {
-    // Its threads wait for nothing of GLib's, without whose loop each call is answered sooner.
-    qputenv("QT_NO_GLIB", "1");
-    QCoreApplication application(argc, argv);
-    quitOnSignals();
     const auto daemon = Daemon::create(readSettings());
     if (!daemon) {
         qCCritical(lcTimed, "%ls", qUtf16Printable(daemon.error().text));
@@ -56,4 +51,21 @@ int main(int argc, char *argv[])
     if (!quitWithTheBus(&application))
         qCWarning(lcTimed, "cannot see the end of the session bus, ignoring");
     return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // Its threads wait for nothing of GLib's, without whose loop each call is answered sooner.
+    qputenv("QT_NO_GLIB", "1");
+    QCoreApplication application(argc, argv);
+    // Now, while it is that of this program's file: later, the file may have been replaced.
+    const auto program = QFile::encodeName(QCoreApplication::applicationFilePath());
+    quitOnSignals();
+    const int status = run(application);
+    if (status != StartAnew)
+        return status;
+    startAnew(program);
+    return EXIT_FAILURE;
 }

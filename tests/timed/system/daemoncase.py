@@ -89,6 +89,9 @@ class DaemonCase(dbusmock.DBusTestCase):
     def start_daemon(self):
         self.daemon = subprocess.Popen([TIMED], env=self.environment)
         wait_for(lambda: self.bus.name_has_owner(SERVICE), "the daemon on the bus", 20)
+        self.meet_daemon()
+
+    def meet_daemon(self):
         self.timed = dbus.Interface(self.bus.get_object(SERVICE, PATH), SERVICE)
         self.timed.connect_to_signal("settings_changed", self.note_settings)
 
