@@ -35,7 +35,8 @@ Application::Application(int &argc, char **argv, const QString &appIdentifier, A
     , m_service(service)
 {
     setApplicationName(appIdentifier);
-    setDesktopFileName(appIdentifier);
+    // As launchers have it: a program that the bus can start is named after its name there.
+    setDesktopFileName(service ? service->serviceName() : appIdentifier);
     loadTheme();
     new DesktopLook(this);
     if (const QString icon = QStringLiteral(":/icons/%1.svg").arg(appIdentifier); QFile::exists(icon))

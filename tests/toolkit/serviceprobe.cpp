@@ -9,6 +9,7 @@
 
 #include <cstdio>
 #include <QAction>
+#include <QGuiApplication>
 
 using namespace Touch;
 
@@ -53,6 +54,10 @@ int main(int argc, char **argv)
     wave.setObjectName(QStringLiteral("wave"));
     QObject::connect(&wave, &QAction::triggered, [] { Service::say("wave"); });
     page.addAction(&wave);
+    QAction identify;
+    identify.setObjectName(QStringLiteral("identify"));
+    QObject::connect(&identify, &QAction::triggered, [] { Service::say(QGuiApplication::desktopFileName().toUtf8()); });
+    page.addAction(&identify);
     page.appear(window);
     window->show();
     if (application->arguments().contains(QLatin1String("--sheet")))

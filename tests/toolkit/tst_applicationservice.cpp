@@ -27,6 +27,7 @@ private slots:
     void goesOnWithoutABus();
     void takesLaunchesWithArguments();
     void isActivatedByTheDesktop();
+    void itsDesktopFileIsNamedAfterItsService();
     void endsOnRequest();
     void endsWhenItsWindowIsClosed();
     void endsWithASheetOpen_data();
@@ -204,6 +205,18 @@ void TestApplicationService::isActivatedByTheDesktop()
     unknown.waitForFinished();
     QVERIFY(!unknown.isError());
     QVERIFY(says(process, "launch-1"));
+    process.kill();
+    QVERIFY(process.waitForFinished());
+}
+
+void TestApplicationService::itsDesktopFileIsNamedAfterItsService()
+{
+    QProcess process;
+    QVERIFY(start(process));
+    DesktopProxy desktop(name, ApplicationService::objectPath(name), QDBusConnection::sessionBus());
+    desktop.ActivateAction(QStringLiteral("identify"), QVariantList(), QVariantMap());
+    QVERIFY(says(process, "launch"));
+    QVERIFY(says(process, name.toUtf8()));
     process.kill();
     QVERIFY(process.waitForFinished());
 }
