@@ -49,6 +49,8 @@ if(CLOCK_PRECOMPILE)
         target_include_directories(precompiled SYSTEM PRIVATE ${Qt6${module}_INCLUDE_DIRS})
     endforeach()
     target_compile_options(precompiled PRIVATE -fPIC)
+    # As Qt's own targets define it for their users.
+    target_compile_definitions(precompiled PRIVATE $<$<NOT:$<CONFIG:Debug>>:QT_NO_DEBUG>)
     if(CCACHE_PROGRAM)
         target_compile_options(clock-flags INTERFACE -fpch-preprocess)
     endif()
@@ -67,20 +69,50 @@ endfunction()
 function(clock_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "WITHOUT_QT" "" "SOURCES;LINK")
     add_library(${name} STATIC ${arg_SOURCES})
-    target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE clock-flags)
+    target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE $<BUILD_INTERFACE:clock-flags>)
     if(NOT arg_WITHOUT_QT)
         clock_precompiled(${name})
     endif()
 endfunction()
 
-# clock_program(NAME [WITHOUT_QT] SOURCES ... LINK ...): a program, put into the build folder's bin/.
+# Whatever is installed belongs to the package "clock", unless it says COMPONENT dev.
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME clock)
+
+# clock_program(NAME [WITHOUT_QT] SOURCES ... LINK ... [INSTALL FOLDER]): a program, put into the build folder's bin/, and
+# installed into a folder such as ${CMAKE_INSTALL_BINDIR} if one is named.
 function(clock_program name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "WITHOUT_QT" "" "SOURCES;LINK")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "WITHOUT_QT" "INSTALL" "SOURCES;LINK")
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ${arg_LINK} clock-flags)
     if(NOT arg_WITHOUT_QT)
         clock_precompiled(${name})
     endif()
+    if(arg_INSTALL)
+        install(TARGETS ${name} DESTINATION ${arg_INSTALL})
+    endif()
+endfunction()
+
+# clock_compressed(VARIABLE FILE): the path of the file compressed, as packages hold their documents.
+find_program(GZIP gzip REQUIRED)
+function(clock_compressed variable file)
+    get_filename_component(name ${file} NAME)
+    get_filename_component(file ${file} ABSOLUTE)
+    set(compressed ${CMAKE_CURRENT_BINARY_DIR}/${name}.gz)
+    add_custom_command(OUTPUT ${compressed}
+        COMMAND ${GZIP} --best --no-name --stdout ${file} > ${compressed}
+        DEPENDS ${file}
+        VERBATIM)
+    add_custom_target(${name}-compressed ALL DEPENDS ${compressed})
+    set(${variable} ${compressed} PARENT_SCOPE)
+endfunction()
+
+# clock_man(PAGE...): installs manual pages, named after their section: "alarmctl.1".
+function(clock_man)
+    foreach(page IN LISTS ARGN)
+        clock_compressed(compressed ${page})
+        string(REGEX MATCH "[0-9]$" section ${page})
+        install(FILES ${compressed} DESTINATION ${CMAKE_INSTALL_MANDIR}/man${section})
+    endforeach()
 endfunction()
 
 # The languages that every catalogue of texts is there in.
