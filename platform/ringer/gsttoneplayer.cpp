@@ -3,7 +3,6 @@
 #include "platform/ringer/gsttoneplayer.h"
 
 #include "platform/sound/audibility.h"
-#include "platform/sound/tonepipeline.h"
 
 #include <gst/gst.h>
 
@@ -12,7 +11,6 @@
 namespace Ringer {
 
 using namespace std::chrono_literals;
-using Sound::TonePipeline;
 
 namespace {
 
@@ -30,6 +28,8 @@ GstTonePlayer::GstTonePlayer(std::chrono::milliseconds riseTime, QObject *parent
     connect(&m_watchdog, &QTimer::timeout, this, [this] { fail(m_suspicion); });
     m_rise.setInterval(RiseStep);
     connect(&m_rise, &QTimer::timeout, this, &GstTonePlayer::raise);
+    connect(&m_tone, &Sound::AlarmTone::flows, this, &GstTonePlayer::onFlow);
+    connect(&m_tone, &Sound::AlarmTone::failed, this, &GstTonePlayer::fail);
 }
 
 GstTonePlayer::~GstTonePlayer() = default;
@@ -41,19 +41,14 @@ void GstTonePlayer::play(const QString &tone, int round)
         Q_EMIT audible();
         return;
     }
-    m_pipeline = tone == QLatin1String(Beeps) ? TonePipeline::ofBeeps(&m_suspicion, round)
-                                              : TonePipeline::ofFile(tone, &m_suspicion, round);
-    if (!m_pipeline) {
+    m_isRising = round == 0;
+    const auto path = tone == QLatin1String(Beeps) ? QString() : tone;
+    if (!m_tone.start(path, round, m_isRising ? riseVolume(0ms, m_riseTime) : 1, &m_suspicion)) {
         m_watchdog.start(0ms);
         return;
     }
-    connect(m_pipeline.get(), &TonePipeline::flows, this, &GstTonePlayer::onFlow);
-    connect(m_pipeline.get(), &TonePipeline::failed, this, &GstTonePlayer::fail);
-    m_isRising = round == 0;
-    m_pipeline->setVolume(m_isRising ? riseVolume(0ms, m_riseTime) : 1);
     m_suspicion = QStringLiteral("nothing is heard");
     m_watchdog.start(Sound::FirstSoundTime);
-    m_pipeline->start();
 }
 
 void GstTonePlayer::stop()
@@ -61,12 +56,7 @@ void GstTonePlayer::stop()
     m_watchdog.stop();
     m_rise.stop();
     m_heard.invalidate();
-    if (m_pipeline) {
-        m_pipeline->disconnect(this);
-        m_pipeline->halt();
-        // Not deleted at once: it may be the one that just called.
-        m_pipeline.release()->deleteLater();
-    }
+    m_tone.stop();
 }
 
 void GstTonePlayer::onFlow(bool isAudible)
@@ -94,7 +84,7 @@ void GstTonePlayer::fail(const QString &reason)
 void GstTonePlayer::raise()
 {
     const std::chrono::milliseconds heard{m_heard.elapsed()};
-    m_pipeline->setVolume(riseVolume(heard, m_riseTime));
+    m_tone.setVolume(riseVolume(heard, m_riseTime));
     if (heard >= m_riseTime)
         m_rise.stop();
 }

@@ -4,16 +4,12 @@
 
 #include "platform/ringer/toneplayer.h"
 #include "platform/ringer/volumerise.h"
+#include "platform/sound/alarmtone.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
 
 #include <chrono>
-#include <memory>
-
-namespace Sound {
-class TonePipeline;
-}
 
 namespace Ringer {
 
@@ -38,7 +34,7 @@ private:
     void raise();
 
     const std::chrono::milliseconds m_riseTime;
-    std::unique_ptr<Sound::TonePipeline> m_pipeline; ///< null when silent
+    Sound::AlarmTone m_tone;
     QTimer m_watchdog;
     QString m_suspicion; ///< why the tone has failed when the watchdog ends
     QTimer m_rise;

@@ -3,11 +3,13 @@
 #include "platform/ringer/ringcheck.h"
 
 #include "platform/ringer/pluginloader.h"
-#include "platform/ringer/pulsesink.h"
 #include "platform/ringer/toneprobe.h"
+#include "platform/sound/pulseserver.h"
 #include "platform/sound/soundoutput.h"
 
 #include <QGuiApplication>
+
+#include <algorithm>
 
 namespace Ringer {
 
@@ -16,10 +18,17 @@ namespace {
 QVariantMap pulseFacts()
 {
     QString reason;
-    const auto sink = defaultPulseSink(&reason);
-    if (!sink)
+    const auto server = Sound::PulseServer::create(&reason);
+    if (!server)
         return {{"output_reason", reason}};
-    return {{"output", sink->name}, {"volume", sink->volume}, {"muted", sink->isMuted}};
+    const auto sinks = server->sinks();
+    if (!sinks)
+        return {{"output_reason", "the sound server does not answer"}};
+    const auto sink = std::find_if(sinks->begin(), sinks->end(), [](const auto &each) { return each.isDefault; });
+    if (sink == sinks->end())
+        return {{"output_reason", "the sound server has no sound device"}};
+    // The ringer's stream is at full volume.
+    return {{"output", sink->name}, {"volume", sink->takesVolume ? 100 : sink->volume}, {"muted", sink->isMuted}};
 }
 
 // Only a sound server tells its volume.

@@ -8,27 +8,40 @@ namespace Sound {
 
 namespace {
 
-GstElement *open(const char *factory)
+GstElement *create(const char *factory)
 {
     auto *output = gst_element_factory_make(factory, nullptr);
+    if (output)
+        gst_object_ref_sink(output);
+    return output;
+}
+
+GstElement *open(GstElement *output)
+{
     if (!output)
         return nullptr;
-    gst_object_ref_sink(output);
     if (gst_element_set_state(output, GST_STATE_READY) != GST_STATE_CHANGE_FAILURE)
         return output;
     discardSoundOutput(output);
     return nullptr;
 }
 
-GstElement *openPulse()
+GstElement *openPulse(const QString &sink)
 {
-    auto *output = open("pulsesink");
+    auto *output = create("pulsesink");
     if (!output)
         return nullptr;
+    if (!sink.isEmpty())
+        g_object_set(output, "device", sink.toUtf8().constData(), nullptr);
     auto *role = gst_structure_new("properties", "media.role", G_TYPE_STRING, "alarm", nullptr);
     g_object_set(output, "client-name", "Clock", "stream-properties", role, "volume", 1.0, "mute", FALSE, nullptr);
     gst_structure_free(role);
-    return output;
+    return open(output);
+}
+
+GstElement *openDefault()
+{
+    return openPulse({});
 }
 
 // With no device at all the automatic output takes a sink that swallows every sound.
@@ -49,7 +62,7 @@ bool swallows(GstElement *automatic)
 
 GstElement *openAutomatic()
 {
-    auto *automatic = open("autoaudiosink");
+    auto *automatic = open(create("autoaudiosink"));
     if (!automatic || !swallows(automatic))
         return automatic;
     discardSoundOutput(automatic);
@@ -58,16 +71,22 @@ GstElement *openAutomatic()
 
 GstElement *openCard()
 {
-    return open("alsasink");
+    return open(create("alsasink"));
 }
 
 } // namespace
 
-GstElement *createSoundOutput(QString *reason, int choice)
+GstElement *createSoundOutput(QString *reason, const OutputChoice &choice)
 {
-    constexpr std::array ways{openPulse, openAutomatic, openCard};
+    if (!choice.sink.isEmpty()) {
+        auto *output = openPulse(choice.sink);
+        if (!output)
+            *reason = QStringLiteral("the sink does not open");
+        return output;
+    }
+    constexpr std::array ways{openDefault, openAutomatic, openCard};
     for (std::size_t step = 0; step < ways.size(); ++step) {
-        if (auto *output = ways[(std::size_t(choice) + step) % ways.size()]())
+        if (auto *output = ways[(std::size_t(choice.way) + step) % ways.size()]())
             return output;
     }
     *reason = QStringLiteral("no sound server and no sound device answers");

@@ -8,13 +8,20 @@
 
 namespace Sound {
 
+/** Which output a tone takes. */
+struct OutputChoice
+{
+    /** Counts the ways from 0: the Pulse or PipeWire server, whatever GStreamer finds, the sound card itself; begins anew
+     *  after the last. One that does not open gives way to the next. */
+    int way = 0;
+    QString sink; ///< of the server, which is then the only way; empty: its default
+};
+
 /**
- * The way to the loudspeaker, opened: the Pulse or PipeWire server with the role "alarm", at full volume whatever
- * other sounds are set to; without a server whatever GStreamer finds. Null with a reason when nothing can sound.
- * May wait for the server's answer. "choice" counts the ways in that order from 0, then the sound card itself, and
- * begins anew after the last; one that does not open gives way to the next.
+ * The way to the loudspeaker, opened: with the role "alarm" and at full volume, whatever other sounds are set to. Null
+ * with a reason when nothing can sound. May wait for the server's answer.
  */
-[[nodiscard]] GstElement *createSoundOutput(QString *reason, int choice = 0);
+[[nodiscard]] GstElement *createSoundOutput(QString *reason, const OutputChoice &choice = {});
 
 /** Closes an output that went into no pipeline. */
 void discardSoundOutput(GstElement *output);

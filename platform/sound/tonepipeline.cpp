@@ -3,7 +3,6 @@
 #include "platform/sound/tonepipeline.h"
 
 #include "platform/sound/audibility.h"
-#include "platform/sound/soundoutput.h"
 
 #include <QUrl>
 
@@ -62,18 +61,18 @@ GstElement *createBeepPipeline(GstElement *output, GstElement *filter)
 
 } // namespace
 
-std::unique_ptr<TonePipeline> TonePipeline::ofFile(const QString &path, QString *reason, int output)
+std::unique_ptr<TonePipeline> TonePipeline::ofFile(const QString &path, QString *reason, const OutputChoice &output)
 {
     const auto build = [&path](auto *sink, auto *filter) { return createFilePipeline(path, sink, filter); };
     return create(build, output, reason);
 }
 
-std::unique_ptr<TonePipeline> TonePipeline::ofBeeps(QString *reason, int output)
+std::unique_ptr<TonePipeline> TonePipeline::ofBeeps(QString *reason, const OutputChoice &output)
 {
     return create(createBeepPipeline, output, reason);
 }
 
-std::unique_ptr<TonePipeline> TonePipeline::create(const Build &build, int choice, QString *reason)
+std::unique_ptr<TonePipeline> TonePipeline::create(const Build &build, const OutputChoice &choice, QString *reason)
 {
     auto *output = createSoundOutput(reason, choice);
     if (!output)

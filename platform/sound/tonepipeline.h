@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "platform/sound/soundoutput.h"
+
 #include <QObject>
 
 #include <atomic>
@@ -21,11 +23,11 @@ class TonePipeline : public QObject
     Q_OBJECT
 
 public:
-    /** Plays a file; null, with a reason, where there is no working sound output or GStreamer lacks a part. "output" as
-     *  in createSoundOutput(). */
-    [[nodiscard]] static std::unique_ptr<TonePipeline> ofFile(const QString &path, QString *reason, int output = 0);
+    /** Plays a file; null, with a reason, where there is no working sound output or GStreamer lacks a part. */
+    [[nodiscard]] static std::unique_ptr<TonePipeline> ofFile(const QString &path, QString *reason,
+                                                              const OutputChoice &output = {});
     /** Plays two beeps a second, which need no file and no decoder; fails as ofFile() does. */
-    [[nodiscard]] static std::unique_ptr<TonePipeline> ofBeeps(QString *reason, int output = 0);
+    [[nodiscard]] static std::unique_ptr<TonePipeline> ofBeeps(QString *reason, const OutputChoice &output = {});
     ~TonePipeline() override;
 
     void start();
@@ -45,7 +47,8 @@ private:
     using Build = std::function<GstElement *(GstElement *output, GstElement *filter)>;
 
     TonePipeline(GstElement *pipeline, GstElement *filter);
-    [[nodiscard]] static std::unique_ptr<TonePipeline> create(const Build &build, int choice, QString *reason);
+    [[nodiscard]] static std::unique_ptr<TonePipeline> create(const Build &build, const OutputChoice &choice,
+                                                              QString *reason);
     static GstBusSyncReply onMessage(GstBus *bus, GstMessage *message, void *self);
     void post(GstMessage *message);
     void measure(GstMessage *message);

@@ -47,8 +47,15 @@ bool SoundServer::start()
                     "module-native-protocol-unix auth-anonymous=1 socket=" + socket});
     if (!QTest::qWaitFor([&] { return QFile::exists(socket); }, 10'000))
         return false;
+    return listenTo(QStringLiteral("null"));
+}
+
+bool SoundServer::listenTo(const QString &sink)
+{
+    stop(m_recorder);
+    forget();
     m_recorder.start(QStringLiteral("parec"),
-                     {"-d", "null.monitor", "--format=s16le", "--channels=1", "--latency-msec=20",
+                     {"-d", sink + ".monitor", "--format=s16le", "--channels=1", "--latency-msec=20",
                       "--rate=" + QString::number(Rate)});
     return QTest::qWaitFor([this] { return !samples().isEmpty(); }, 10'000);
 }
@@ -62,6 +69,15 @@ void SoundServer::kill()
 bool SoundServer::control(const QStringList &arguments)
 {
     return QProcess::execute(QStringLiteral("pactl"), arguments) == 0;
+}
+
+QString SoundServer::query(const QStringList &arguments)
+{
+    QProcess client;
+    client.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    client.start(QStringLiteral("pactl"), arguments);
+    client.waitForFinished();
+    return QString::fromUtf8(client.readAllStandardOutput());
 }
 
 void SoundServer::forget()

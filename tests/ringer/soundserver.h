@@ -24,6 +24,10 @@ public:
     void kill();
     /** What `pactl` does with these arguments; false where the server refuses. */
     [[nodiscard]] bool control(const QStringList &arguments);
+    /** What `pactl` answers. */
+    [[nodiscard]] QString query(const QStringList &arguments);
+    /** Hears this sink from now on; the one called "null" is there from the start. */
+    [[nodiscard]] bool listenTo(const QString &sink);
 
     /** Forgets what was heard so far. */
     void forget();

@@ -1,0 +1,271 @@
+// SPDX-FileCopyrightText: 2026 The Clock authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/sound/alarmtone.h"
+
+#include "tests/ringer/soundserver.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gst/gst.h>
+
+using Sound::AlarmTone;
+using Sound::OutputKeeper;
+using Sound::PulseSink;
+using Place = Sound::PulseSink::Place;
+
+namespace {
+
+constexpr auto Heard = 0.1f;
+
+PulseSink sink(const char *id, Place place, bool isDefault = false)
+{
+    return {QString::fromLatin1(id), {}, place, 100, false, false, isDefault};
+}
+
+QString namesOf(const QList<PulseSink> &sinks)
+{
+    QStringList names;
+    for (const auto &each : sinks)
+        names += each.id;
+    return names.join(' ');
+}
+
+} // namespace
+
+/** A tone on a real sound server: it is heard whatever was muted, and in the room as well as in the ears. */
+class TestAlarmTone : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void outputsFollowWhereTheDefaultIsWorn_data();
+    void outputsFollowWhereTheDefaultIsWorn();
+    void theServerTellsWhereASinkIs();
+    void theStreamIsAnAlarm();
+    void aMutedOutputIsOpenedForTheTone();
+    void aLowOutputIsRaisedForTheTone_data();
+    void aLowOutputIsRaisedForTheTone();
+    void whatIsMutedWhileItSoundsIsOpenedAgain();
+    void whatTheUserChangesMeanwhileStays();
+    void headphonesAndLoudspeakerBothSound();
+    void aLoudspeakerThatGoesLeavesTheHeadphones();
+    void headphonesThatComeLaterDoNotSilenceTheRoom();
+    void theLoudspeakerAloneSoundsOnce();
+    void withoutAServerThereIsAReason();
+
+private:
+    void start();
+    [[nodiscard]] bool addSink(const QString &name, const QString &formFactor);
+    [[nodiscard]] int streams();
+
+    Support::SoundServer m_server;
+    std::unique_ptr<AlarmTone> m_tone;
+};
+
+void TestAlarmTone::initTestCase()
+{
+    gst_init(nullptr, nullptr);
+}
+
+void TestAlarmTone::init()
+{
+    m_tone.reset();
+    m_server.kill();
+    QVERIFY(m_server.start());
+    m_tone = std::make_unique<AlarmTone>();
+}
+
+void TestAlarmTone::start()
+{
+    QString reason;
+    QVERIFY2(m_tone->start({}, 0, 1, &reason), qPrintable(reason));
+}
+
+bool TestAlarmTone::addSink(const QString &name, const QString &formFactor)
+{
+    return m_server.control(
+        {"load-module", "module-null-sink", "sink_name=" + name, "sink_properties=device.form_factor=" + formFactor});
+}
+
+int TestAlarmTone::streams()
+{
+    return int(m_server.query({"list", "short", "sink-inputs"}).count('\n'));
+}
+
+void TestAlarmTone::outputsFollowWhereTheDefaultIsWorn_data()
+{
+    QTest::addColumn<QList<PulseSink>>("sinks");
+    QTest::addColumn<QString>("outputs");
+    const auto speaker = sink("speaker", Place::Room);
+    QTest::newRow("no sink") << QList<PulseSink>() << "";
+    QTest::newRow("none is the default") << QList{speaker} << "";
+    QTest::newRow("one of which nothing is known") << QList{sink("a", Place::Unknown, true), speaker} << "a";
+    QTest::newRow("the loudspeaker") << QList{sink("a", Place::Room, true), sink("ears", Place::Ears)} << "a";
+    QTest::newRow("headphones alone") << QList{sink("ears", Place::Ears, true), sink("b", Place::Unknown)} << "ears";
+    QTest::newRow("headphones") << QList{speaker, sink("ears", Place::Ears, true)} << "ears speaker";
+}
+
+void TestAlarmTone::outputsFollowWhereTheDefaultIsWorn()
+{
+    QFETCH(QList<PulseSink>, sinks);
+    QTEST(namesOf(Sound::outputsOf(sinks)), "outputs");
+}
+
+void TestAlarmTone::theServerTellsWhereASinkIs()
+{
+    QVERIFY(addSink("ears", "headset"));
+    QVERIFY(addSink("speaker", "internal"));
+    QString reason;
+    const auto server = Sound::PulseServer::create(&reason);
+    QVERIFY2(server, qPrintable(reason));
+    const auto sinks = server->sinks();
+    QVERIFY(sinks);
+    QCOMPARE(namesOf(*sinks), "null ears speaker");
+    QCOMPARE(sinks->at(0).place, Place::Unknown);
+    QVERIFY(sinks->at(0).isDefault);
+    QCOMPARE(sinks->at(1).place, Place::Ears);
+    QCOMPARE(sinks->at(2).place, Place::Room);
+}
+
+// What other sounds are set to does not reach it.
+void TestAlarmTone::theStreamIsAnAlarm()
+{
+    start();
+    QTRY_COMPARE(streams(), 1);
+    const auto stream = m_server.query({"list", "sink-inputs"});
+    QVERIFY2(stream.contains("media.role = \"alarm\""), qPrintable(stream));
+    QVERIFY2(stream.contains("Mute: no"), qPrintable(stream));
+    QVERIFY2(stream.contains(" 100% "), qPrintable(stream));
+}
+
+void TestAlarmTone::aMutedOutputIsOpenedForTheTone()
+{
+    QVERIFY(m_server.control({"set-sink-mute", "null", "1"}));
+    start();
+    QTRY_VERIFY(m_server.peak(1000) > Heard);
+    m_tone->stop();
+    QTRY_COMPARE(m_server.query({"get-sink-mute", "null"}).trimmed(), "Mute: yes");
+}
+
+void TestAlarmTone::aLowOutputIsRaisedForTheTone_data()
+{
+    QTest::addColumn<QString>("volume");
+    QTest::addColumn<QString>("meanwhile");
+    QTest::newRow("at nothing") << " 0%"
+                                << " 50%";
+    QTest::newRow("low") << " 20%"
+                         << " 50%";
+    QTest::newRow("loud enough") << " 70%"
+                                 << " 70%";
+}
+
+void TestAlarmTone::aLowOutputIsRaisedForTheTone()
+{
+    QFETCH(QString, volume);
+    QFETCH(QString, meanwhile);
+    const auto now = [this] { return m_server.query({"get-sink-volume", "null"}); };
+    QVERIFY(m_server.control({"set-sink-volume", "null", volume.trimmed()}));
+    start();
+    QTRY_VERIFY(m_server.peak(1000) > Heard);
+    QTRY_VERIFY2(now().contains(meanwhile), qPrintable(now()));
+    m_tone->stop();
+    QTRY_VERIFY2(now().contains(volume), qPrintable(now()));
+}
+
+void TestAlarmTone::whatIsMutedWhileItSoundsIsOpenedAgain()
+{
+    start();
+    QTRY_VERIFY(m_server.peak(1000) > Heard);
+    QVERIFY(m_server.control({"set-sink-mute", "null", "1"}));
+    QTRY_COMPARE(m_server.peak(200), 0.0f);
+    QTRY_VERIFY(m_server.peak(200) > Heard);
+}
+
+void TestAlarmTone::whatTheUserChangesMeanwhileStays()
+{
+    QVERIFY(m_server.control({"set-sink-volume", "null", "10%"}));
+    start();
+    const auto now = [this] { return m_server.query({"get-sink-volume", "null"}); };
+    QTRY_VERIFY2(now().contains(" 50%"), qPrintable(now()));
+    QVERIFY(m_server.control({"set-sink-volume", "null", "80%"}));
+    m_tone.reset();
+    QVERIFY2(now().contains(" 80%"), qPrintable(now()));
+}
+
+void TestAlarmTone::headphonesAndLoudspeakerBothSound()
+{
+    QVERIFY(addSink("speaker", "internal"));
+    QVERIFY(addSink("ears", "headset"));
+    QVERIFY(m_server.control({"set-default-sink", "ears"}));
+    QVERIFY(m_server.control({"set-sink-mute", "speaker", "1"}));
+    start();
+    for (const auto *name : {"ears", "speaker"}) {
+        QVERIFY(m_server.listenTo(name));
+        QTRY_VERIFY2(m_server.peak(1000) > Heard, name);
+    }
+    QCOMPARE(streams(), 2);
+    m_tone->stop();
+    QTRY_COMPARE(m_server.peak(200), 0.0f);
+    QCOMPARE(streams(), 0);
+    QTRY_COMPARE(m_server.query({"get-sink-mute", "speaker"}).trimmed(), "Mute: yes");
+}
+
+void TestAlarmTone::aLoudspeakerThatGoesLeavesTheHeadphones()
+{
+    QVERIFY(addSink("ears", "headphone"));
+    QVERIFY(m_server.control({"set-default-sink", "ears"}));
+    const auto module = m_server.query(
+        {"load-module", "module-null-sink", "sink_name=speaker", "sink_properties=device.form_factor=speaker"});
+    QSignalSpy failed(m_tone.get(), &AlarmTone::failed);
+    start();
+    QTRY_COMPARE(streams(), 2);
+    QVERIFY(m_server.control({"unload-module", module.trimmed()}));
+    QTRY_COMPARE(streams(), 1);
+    QVERIFY(m_server.listenTo("ears"));
+    QTRY_VERIFY(m_server.peak(1000) > Heard);
+    QCOMPARE(failed.size(), 0);
+}
+
+void TestAlarmTone::headphonesThatComeLaterDoNotSilenceTheRoom()
+{
+    QVERIFY(addSink("speaker", "internal"));
+    QVERIFY(m_server.control({"set-default-sink", "speaker"}));
+    start();
+    QVERIFY(m_server.listenTo("speaker"));
+    QTRY_VERIFY(m_server.peak(1000) > Heard);
+    QVERIFY(addSink("ears", "headset"));
+    QVERIFY(m_server.control({"set-default-sink", "ears"}));
+    QVERIFY(m_server.listenTo("ears"));
+    QTRY_VERIFY(m_server.peak(1000) > Heard);
+    QVERIFY(m_server.listenTo("speaker"));
+    QTRY_VERIFY(m_server.peak(1000) > Heard);
+}
+
+void TestAlarmTone::theLoudspeakerAloneSoundsOnce()
+{
+    QVERIFY(addSink("ears", "headset"));
+    QVERIFY(addSink("speaker", "internal"));
+    QVERIFY(m_server.control({"set-default-sink", "speaker"}));
+    auto *keeper = m_tone->findChild<OutputKeeper *>();
+    QVERIFY(keeper);
+    QSignalSpy looked(keeper, &OutputKeeper::looked);
+    start();
+    QTRY_VERIFY(looked.size() >= 2);
+    QCOMPARE(streams(), 1);
+    QVERIFY(m_server.listenTo("ears"));
+    QCOMPARE(m_server.peak(200), 0.0f);
+}
+
+void TestAlarmTone::withoutAServerThereIsAReason()
+{
+    m_server.kill();
+    QString reason;
+    QVERIFY(!m_tone->start({}, 0, 1, &reason));
+    QVERIFY(reason.contains("no sound"));
+}
+
+QTEST_GUILESS_MAIN(TestAlarmTone)
+#include "tst_alarmtone.moc"
