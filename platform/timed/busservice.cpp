@@ -123,6 +123,14 @@ void BusService::sounds(uint cookie, const QString &tone)
         refuse(done.error());
 }
 
+void BusService::impaired(uint cookie, const QString &trouble)
+{
+    if (const auto valid = validateTrouble(trouble); !valid)
+        refuse(valid.error());
+    else if (const auto done = m_parts.lifeCycle.impaired(cookie, trouble); !done)
+        refuse(done.error());
+}
+
 qulonglong BusService::snooze(uint cookie, uint seconds, const QString &by)
 {
     const auto valid = validateWho(by);

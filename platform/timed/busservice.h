@@ -56,6 +56,7 @@ public:
     QList<uint> restore_events(const Wire::Records &records);
     void rings(uint cookie);
     void sounds(uint cookie, const QString &tone);
+    void impaired(uint cookie, const QString &trouble);
     qulonglong snooze(uint cookie, uint seconds, const QString &by);
     qulonglong press(uint cookie, uint button, const QString &by);
     void dismiss(uint cookie, const QString &by);

@@ -108,6 +108,16 @@ Result<> LifeCycle::sounds(quint32 cookie, const QString &tone)
     return Done{};
 }
 
+Result<> LifeCycle::impaired(quint32 cookie, const QString &trouble)
+{
+    const auto event = ringingEvent(cookie);
+    if (!event)
+        return event.error();
+    if (m_ringing.keepTrouble(cookie, trouble))
+        note(cookie, "impaired", trouble);
+    return Done{};
+}
+
 Result<qint64> LifeCycle::snooze(quint32 cookie, quint32 seconds, const QString &by)
 {
     const auto found = ringingEvent(cookie);

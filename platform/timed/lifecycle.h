@@ -41,6 +41,7 @@ public:
     /** The ringer's reports and the user's answers; they fail for an event that does not ring. */
     Result<> rings(quint32 cookie);
     Result<> sounds(quint32 cookie, const QString &tone);
+    Result<> impaired(quint32 cookie, const QString &trouble);
     /** Answers the end of the snooze in milliseconds; 0 seconds: those of the first button that snoozes. */
     Result<qint64> snooze(quint32 cookie, quint32 seconds, const QString &by);
     /** A button of the event, counted from 1; answers the end of its snooze, or nothing where it stops the alarm. */

@@ -15,6 +15,7 @@ namespace Astel::Timed {
 namespace {
 
 constexpr int QuickCalls = 3;
+constexpr int MaximalTroubles = 8;
 constexpr qint64 TimeToAcknowledge = 5000;
 constexpr qint64 LongInterval = 15000;
 
@@ -76,6 +77,18 @@ bool Ringing::acknowledgeSound(quint32 cookie)
     // A ringer that was seen and heard is worth another quick call, should it go.
     if (ring->second.acknowledged)
         ring->second.calls = 0;
+    return true;
+}
+
+bool Ringing::keepTrouble(quint32 cookie, const QString &trouble)
+{
+    const auto ring = m_rings.find(cookie);
+    if (ring == m_rings.end())
+        return false;
+    QStringList &known = ring->second.troubles;
+    if (known.size() == MaximalTroubles || known.contains(trouble))
+        return false;
+    known.append(trouble);
     return true;
 }
 

@@ -4,6 +4,7 @@
 
 #include <map>
 #include <QObject>
+#include <QStringList>
 
 namespace Astel::Timed {
 
@@ -31,6 +32,8 @@ public:
     bool acknowledge(quint32 cookie);
     /** The ringer says that it is heard; true for the first time since it was called. */
     bool acknowledgeSound(quint32 cookie);
+    /** Something is not as it should be; true for what is new, of which there are some for each ringing. */
+    bool keepTrouble(quint32 cookie, const QString &trouble);
     /** The time for acknowledging is over. */
     void callAgain(quint32 cookie);
     /** Moments from before do not count any more. */
@@ -50,6 +53,7 @@ private:
         bool acknowledged = false;
         bool heard = false;
         int calls = 0;
+        QStringList troubles;
     };
 
     void begin(quint32 cookie, Ring &ring);

@@ -157,6 +157,13 @@ Result<> validateTone(const QString &tone)
     return Done{};
 }
 
+Result<> validateTrouble(const QString &trouble)
+{
+    if (trouble.size() > LongestValue)
+        return limit(QStringLiteral("characters of a trouble"), trouble.size(), LongestValue);
+    return Done{};
+}
+
 Result<> validateWho(const QString &by)
 {
     if (by.size() > LongestName)

@@ -24,6 +24,7 @@ qsizetype textSize(const Wire::Event &event);
 Result<> validate(const Wire::Event &event);
 Result<> validate(const Wire::Filter &filter);
 Result<> validateTone(const QString &tone);
+Result<> validateTrouble(const QString &trouble);
 Result<> validateWho(const QString &by);
 
 } // namespace Astel::Timed

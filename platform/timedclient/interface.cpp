@@ -89,6 +89,11 @@ QDBusPendingReply<> Interface::sounds(uint cookie, const QString &tone)
     return m_proxy->sounds(cookie, tone);
 }
 
+QDBusPendingReply<> Interface::impaired(uint cookie, const QString &trouble)
+{
+    return m_proxy->impaired(cookie, trouble);
+}
+
 QDBusPendingReply<quint64> Interface::snooze(uint cookie, uint seconds, const QString &by)
 {
     return m_proxy->snooze(cookie, seconds, by);

@@ -42,6 +42,7 @@ public:
 
     QDBusPendingReply<> rings(uint cookie);
     QDBusPendingReply<> sounds(uint cookie, const QString &tone);
+    QDBusPendingReply<> impaired(uint cookie, const QString &trouble);
     /** Answers nanoseconds since the epoch. */
     QDBusPendingReply<quint64> snooze(uint cookie, uint seconds, const QString &by);
     /** Buttons are counted from 1. Answers nanoseconds since the epoch, 0 where the button stopped the alarm. */

@@ -82,6 +82,7 @@ void tst_Answers::snoozeNeedsALengthAndARingingEvent()
     QCOMPARE(world.parts->life.snooze(77, 60, "user").error().name, QLatin1String(Wire::UnknownError));
     QCOMPARE(world.parts->life.rings(waiting).error().name, QLatin1String(Wire::UnknownError));
     QCOMPARE(world.parts->life.sounds(waiting, "x").error().name, QLatin1String(Wire::UnknownError));
+    QCOMPARE(world.parts->life.impaired(waiting, "x").error().name, QLatin1String(Wire::UnknownError));
     QCOMPARE(world.parts->life.dismiss(waiting, "user").error().name, QLatin1String(Wire::UnknownError));
 
     Wire::Event bare = daily7();

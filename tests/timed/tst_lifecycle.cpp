@@ -121,6 +121,12 @@ void tst_LifeCycle::dueEventIsStoredAsTriggeredBeforeItRings()
     QVERIFY(world.parts->life.rings(cookie));
     QVERIFY(world.parts->life.sounds(cookie, "built-in"));
     QCOMPARE(world.store.words(), (QStringList{"due", "rang", "sounded"}));
+    QVERIFY(world.parts->life.impaired(cookie, "no display"));
+    QVERIFY(world.parts->life.impaired(cookie, "no display"));
+    QCOMPARE(world.store.words(), (QStringList{"due", "rang", "sounded", "impaired"}));
+    for (int trouble = 0; trouble < 20; ++trouble)
+        QVERIFY(world.parts->life.impaired(cookie, QString::number(trouble)));
+    QCOMPARE(world.store.words().count("impaired"), 8);
     // While it rings it is still in the map.
     QCOMPARE(world.parts->book.triggers().size(), 1);
 }

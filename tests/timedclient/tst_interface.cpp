@@ -182,6 +182,8 @@ void InterfaceTest::sendsTheOtherCalls_data()
     QTest::newRow("rings") << Call([](Interface &timed) { return timed.rings(7); }) << "u" << QVariantList{7u};
     QTest::newRow("sounds") << Call([](Interface &timed) { return timed.sounds(7, "/tone"); }) << "us"
                             << QVariantList{7u, "/tone"};
+    QTest::newRow("impaired") << Call([](Interface &timed) { return timed.impaired(7, "not heard"); }) << "us"
+                              << QVariantList{7u, "not heard"};
     QTest::newRow("snooze") << Call([](Interface &timed) { return timed.snooze(7, 300, "test"); }) << "uus"
                             << QVariantList{7u, 300u, "test"};
     QTest::newRow("press") << Call([](Interface &timed) { return timed.press(7, 2, "test"); }) << "uus"

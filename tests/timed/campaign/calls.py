@@ -25,7 +25,7 @@ GUARDED = 5
 
 SIGNATURES = {
     "add_event": f"({EVENT})", "replace_event": f"({EVENT}u)", "cancel": "(u)", "query": "(a{sv})",
-    "query_attributes": "(u)", "rings": "(u)", "sounds": "(us)", "snooze": "(uus)", "press": "(uus)",
+    "query_attributes": "(u)", "rings": "(u)", "sounds": "(us)", "impaired": "(us)", "snooze": "(uus)", "press": "(uus)",
     "dismiss": "(us)", "backup_events": "()", "restore_events": f"(a({EVENT}st))",
     "next_triggers": "(u)", "journal": "(x)", "health": "()",
 }
@@ -118,7 +118,7 @@ class Caller:
             return method, GLib.Variant(SIGNATURES[method], (records,))
         if method == "query":
             return method, GLib.Variant("(a{sv})", ({name: self.anything() for name in self.attributes()},))
-        if method == "sounds":
+        if method in ("sounds", "impaired"):
             return method, GLib.Variant("(us)", (self.cookie(), text))
         if method == "snooze":
             return method, GLib.Variant("(uus)", (self.cookie(), self.number("u"), text))
