@@ -16,6 +16,8 @@ public:
 
     virtual void rings(quint32 cookie) = 0;
     virtual void sounds(quint32 cookie, const QString &tone) = 0;
+    /** It rings, but not as it should; for the journal. */
+    virtual void impaired(quint32 cookie, const QString &trouble) = 0;
     virtual void snooze(quint32 cookie, quint32 seconds, const QString &by) = 0;
     virtual void dismiss(quint32 cookie, const QString &by) = 0;
 

@@ -9,13 +9,22 @@ namespace Ringer {
 
 namespace {
 
-const DesktopHold::Service ScreenSaver{QStringLiteral("org.freedesktop.ScreenSaver"),
-                                       QStringLiteral("/org/freedesktop/ScreenSaver"), QStringLiteral("Inhibit"),
-                                       QStringLiteral("UnInhibit")};
+const DesktopHold::Service ScreenSaver{
+    QStringLiteral("org.freedesktop.ScreenSaver"), QStringLiteral("/org/freedesktop/ScreenSaver"),
+    QStringLiteral("org.freedesktop.ScreenSaver"), QStringLiteral("Inhibit"), QStringLiteral("UnInhibit")};
+const DesktopHold::Service Portal{QStringLiteral("org.freedesktop.portal.Desktop"),
+                                  QStringLiteral("/org/freedesktop/portal/desktop"),
+                                  QStringLiteral("org.freedesktop.portal.Inhibit"),
+                                  QStringLiteral("Inhibit"),
+                                  {}};
 const DesktopHold::Service Feedback{QStringLiteral("org.sigxcpu.Feedback"), QStringLiteral("/org/sigxcpu/Feedback"),
-                                    QStringLiteral("TriggerFeedback"), QStringLiteral("EndFeedback")};
+                                    QStringLiteral("org.sigxcpu.Feedback"), QStringLiteral("TriggerFeedback"),
+                                    QStringLiteral("EndFeedback")};
 
 const auto Application = QStringLiteral("com.astel.ringer");
+const auto Reason = QStringLiteral("An alarm rings");
+// Of the portal: going idle.
+constexpr uint Idle = 8;
 // Again and again until it is ended.
 constexpr int UntilEnded = 0;
 
@@ -31,9 +40,12 @@ QVariantList feedbackArguments()
 Attention::Attention(const QDBusConnection &bus, QObject *parent)
     : QObject(parent)
     , m_bus(bus)
-    , m_display(ScreenSaver, {Application, QStringLiteral("An alarm rings")}, bus)
+    , m_display(ScreenSaver, {Application, Reason}, bus)
+    , m_idle(Portal, {QString(), Idle, QVariantMap{{"reason", Reason}}}, bus)
     , m_vibration(Feedback, feedbackArguments(), bus)
-{ }
+{
+    connect(&m_display, &DesktopHold::refused, &m_idle, &DesktopHold::begin);
+}
 
 Attention::~Attention() = default;
 
@@ -45,6 +57,7 @@ void Attention::setWanted(bool isWanted)
     if (!isWanted) {
         m_vibration.end();
         m_display.end();
+        m_idle.end();
         return;
     }
     m_vibration.begin();

@@ -8,7 +8,7 @@ namespace Ringer {
 
 /**
  * What calls for the user beside tone and screen: turns the display on and keeps it on through the desktop's screen
- * saver, vibrates through the feedback daemon. Does without whichever of them is not there. Owned by the program.
+ * saver or its portal, vibrates through the feedback daemon. Does without whichever of them is not there. Owned by the program.
  */
 class Attention : public QObject
 {
@@ -25,6 +25,7 @@ private:
 
     QDBusConnection m_bus;
     DesktopHold m_display;
+    DesktopHold m_idle; ///< where there is no screen saver to ask
     DesktopHold m_vibration;
     bool m_isWanted = false;
 };

@@ -6,13 +6,11 @@
 #include <QObject>
 #include <QVariantList>
 
-#include <optional>
-
 namespace Ringer {
 
 /**
- * Something that a service of the desktop does until it is told to end: one call begins it and answers a number, the
- * other ends it by that number. Without the service nothing happens. Main thread; nothing waits.
+ * Something that a service of the desktop does until it is told to end: one call begins it and answers a number, by
+ * which the other ends it, or the path of a request, which is closed. Main thread; nothing waits.
  */
 class DesktopHold : public QObject
 {
@@ -21,10 +19,11 @@ class DesktopHold : public QObject
 public:
     struct Service
     {
-        QString name; ///< of the interface as well
+        QString name;
         QString path;
+        QString interface;
         QString begin;
-        QString end;
+        QString end; ///< empty where requests are closed
     };
 
     DesktopHold(const Service &service, const QVariantList &arguments, const QDBusConnection &bus,
@@ -34,15 +33,18 @@ public:
     void begin(); ///< no effect while it goes on
     void end();
 
+Q_SIGNALS:
+    void refused(); ///< there is no such service, or it does not do that
+
 private:
-    void onBegun(std::optional<uint> number);
+    void onBegun(const QVariant &ticket);
 
     const Service m_service;
     const QVariantList m_arguments;
     QDBusConnection m_bus;
     bool m_isWanted = false;
     bool m_isAsked = false; ///< the answer is under way
-    std::optional<uint> m_number;
+    QVariant m_ticket;      ///< what ends it
 };
 
 } // namespace Ringer

@@ -1,14 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/locale/locale.h"
+#include "platform/notices/busnotifier.h"
 #include "platform/ringer/attention.h"
 #include "platform/ringer/gsttoneplayer.h"
 #include "platform/ringer/logging.h"
+#include "platform/ringer/notices/ringnotices.h"
 #include "platform/ringer/pluginloader.h"
 #include "platform/ringer/ringcheck.h"
 #include "platform/ringer/ringcontroller.h"
 #include "platform/ringer/ringerservice.h"
-#include "platform/ringer/ringnotices.h"
 #include "platform/ringer/texts/ringtexts.h"
 #include "platform/ringer/timeddaemon.h"
 
@@ -69,12 +70,22 @@ void follow(Ringer::RingController &controller, Ringer::RingNotices &notices)
     using Ringer::RingController;
     using Ringer::RingNotices;
     const auto who = QStringLiteral("notification");
-    QObject::connect(&controller, &RingController::begun, &notices, &RingNotices::show);
+    QObject::connect(&controller, &RingController::begun, &notices, [&notices](const Ringer::Alarm &alarm) {
+        notices.show({alarm.cookie, alarm.title, alarm.due, alarm.snoozeSeconds});
+    });
     QObject::connect(&controller, &RingController::over, &notices, &RingNotices::close);
     QObject::connect(&notices, &RingNotices::stopChosen, &controller,
                      [&controller, who](quint32 cookie) { controller.dismissBy(cookie, who); });
     QObject::connect(&notices, &RingNotices::snoozeChosen, &controller,
                      [&controller, who](quint32 cookie, int seconds) { controller.snoozeBy(cookie, seconds, who); });
+}
+
+void tellOfNoDisplay(Ringer::RingController &controller, Ringer::TimedDaemon &daemon)
+{
+    const auto trouble = QStringLiteral("No display: heard, not seen");
+    qCWarning(lcRinger, "%ls", qUtf16Printable(trouble));
+    QObject::connect(&controller, &Ringer::RingController::begun, &daemon,
+                     [&daemon, trouble](const Ringer::Alarm &alarm) { daemon.impaired(alarm.cookie, trouble); });
 }
 
 } // namespace
@@ -85,9 +96,6 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("ringer"));
     QApplication::setQuitOnLastWindowClosed(false);
-    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
-        qCWarning(lcRinger, "No display: alarms are heard, not seen");
-
     RingTexts::install();
     auto &locale = Touch::Locale::getDefault();
     const auto mirror = [&locale] { QApplication::setLayoutDirection(locale.textDirection()); };
@@ -98,10 +106,13 @@ int main(int argc, char **argv)
     Ringer::GstTonePlayer player;
     Ringer::PluginLoader plugins;
     Ringer::RingController controller(&daemon, &player, &plugins);
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        tellOfNoDisplay(controller, daemon);
     Ringer::RingCheck check(&plugins);
     Ringer::RingerService service(&controller, &check);
     quitWhenIdle(application, controller, service);
-    Ringer::RingNotices notices(QDBusConnection::sessionBus());
+    Notices::BusNotifier notifier(QDBusConnection::sessionBus(), QStringLiteral("ringer"), RingTexts::application());
+    Ringer::RingNotices notices(&notifier);
     follow(controller, notices);
     Ringer::Attention attention(QDBusConnection::sessionBus());
     QObject::connect(&controller, &Ringer::RingController::idleChanged, &attention,

@@ -46,8 +46,9 @@ PluginLoader::Screen PluginLoader::screen(const QString &name)
         m_plugins.insert(name, plugin);
         return {plugin, name};
     }
-    qCWarning(lcRinger, "No plug-in \"%s\" (%s), using the plain screen", qPrintable(name), qPrintable(reason));
-    return plainScreen();
+    const auto trouble = QStringLiteral("No plug-in \"%1\" (%2), using the plain screen").arg(name, reason);
+    qCWarning(lcRinger, "%ls", qUtf16Printable(trouble));
+    return plainScreen(trouble);
 }
 
 QString PluginLoader::reasonAgainst(const QString &name) const
@@ -74,13 +75,13 @@ RingPlugin *PluginLoader::load(const QString &name, QString *reason) const
     return plugin;
 }
 
-PluginLoader::Screen PluginLoader::plainScreen()
+PluginLoader::Screen PluginLoader::plainScreen(const QString &trouble)
 {
     if (!m_plainScreen) {
         m_plainScreen = std::make_unique<PlainScreen>();
         m_plainScreen->setAnswers(m_answers);
     }
-    return {m_plainScreen.get(), QStringLiteral("plain screen")};
+    return {m_plainScreen.get(), QStringLiteral("plain screen"), trouble};
 }
 
 } // namespace Ringer

@@ -24,6 +24,7 @@ public:
     {
         RingPlugin *plugin = nullptr; ///< never null in what screen() returns
         QString name;                 ///< for the daemon's journal
+        QString trouble = {};         ///< why it is the plain screen; empty where it is the plug-in
     };
 
     /** The folder of this installation, or the one in RINGER_PLUGIN_DIR. */
@@ -39,7 +40,7 @@ public:
 
 private:
     [[nodiscard]] RingPlugin *load(const QString &name, QString *reason) const;
-    [[nodiscard]] Screen plainScreen();
+    [[nodiscard]] Screen plainScreen(const QString &trouble);
 
     QString m_folder;
     Answers *m_answers = nullptr;

@@ -99,8 +99,9 @@ void Ring::onFailed(const QString &reason)
         tryTone(m_tone + 1);
     } else {
         qCCritical(lcRinger, "Alarm %u: nothing can be heard, trying again", m_alarm.cookie);
-        ++m_round;
         setState(State::Mute);
+        if (m_round++ == 0)
+            Q_EMIT unheard(reason);
     }
 }
 

@@ -48,6 +48,8 @@ public:
 
 Q_SIGNALS:
     void sounding();
+    /** All tones were tried in vain for the first time; it goes on trying. */
+    void unheard(const QString &reason);
 
 private:
     [[nodiscard]] bool hasSound() const { return m_state == State::Seeking || m_state == State::Sounding; }

@@ -4,6 +4,7 @@
 
 #include "platform/ringer/alarmdaemon.h"
 #include "platform/ringer/logging.h"
+#include "platform/ringer/notices/ringnotices.h"
 #include "platform/ringer/pluginloader.h"
 #include "platform/ringer/ring.h"
 
@@ -19,18 +20,10 @@ namespace {
 // No finger aims at what has just come up under it.
 constexpr std::chrono::milliseconds DeafTime{500};
 
-int snoozeSeconds(const Wire::Event &event)
-{
-    const auto snoozes = [](const Wire::Button &button) { return button.snooze > 0; };
-    const auto button = std::find_if(event.buttons.begin(), event.buttons.end(), snoozes);
-    return button != event.buttons.end() ? button->snooze : std::max(event.timeoutSnooze, 0);
-}
-
 Alarm alarmOf(quint32 cookie, const Wire::Event &event, quint64 due)
 {
-    return {cookie, event.attributes.value(QStringLiteral("TITLE")),
-            QDateTime::fromMSecsSinceEpoch(qint64(due / 1'000'000), Qt::UTC),
-            event.attributes.value(QStringLiteral("sound")), snoozeSeconds(event)};
+    const auto notice = ringNoticeOf(cookie, event, due);
+    return {cookie, notice.title, notice.due, event.attributes.value(QStringLiteral("sound")), notice.snoozeSeconds};
 }
 
 } // namespace
@@ -157,10 +150,15 @@ QString RingController::screenOf(quint32 cookie) const
 
 Ring *RingController::add(const Alarm &alarm, const QString &pluginName)
 {
-    const auto [plugin, name] = m_plugins->screen(pluginName);
+    const auto [plugin, name, trouble] = m_plugins->screen(pluginName);
+    if (!trouble.isEmpty())
+        m_daemon->impaired(alarm.cookie, trouble);
     auto *ring = new Ring(alarm, m_toneOrder.tones(alarm.tone), plugin, name, m_player);
     m_rings.emplace_back(ring);
     connect(ring, &Ring::sounding, this, [this, ring] { reportSound(*ring); });
+    connect(ring, &Ring::unheard, this, [this, ring](const QString &reason) {
+        m_daemon->impaired(ring->alarm().cookie, QStringLiteral("Nothing can be heard: ") + reason);
+    });
     return ring;
 }
 

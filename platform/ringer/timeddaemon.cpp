@@ -22,6 +22,11 @@ void TimedDaemon::sounds(quint32 cookie, const QString &tone)
     watchReport(cookie, m_timed.sounds(cookie, tone), "sounds");
 }
 
+void TimedDaemon::impaired(quint32 cookie, const QString &trouble)
+{
+    watchReport(cookie, m_timed.impaired(cookie, trouble), "impaired");
+}
+
 void TimedDaemon::snooze(quint32 cookie, quint32 seconds, const QString &by)
 {
     whenFinished(m_timed.snooze(cookie, seconds, by), [this, cookie](const QDBusError &error) {

@@ -17,6 +17,7 @@ public:
 
     void rings(quint32 cookie) override;
     void sounds(quint32 cookie, const QString &tone) override;
+    void impaired(quint32 cookie, const QString &trouble) override;
     void snooze(quint32 cookie, quint32 seconds, const QString &by) override;
     void dismiss(quint32 cookie, const QString &by) override;
 

@@ -3,15 +3,21 @@
 #include "platform/timed/answerteller.h"
 
 #include "platform/locale/locale.h"
+#include "platform/notices/actionkey.h"
+#include "platform/notices/notifier.h"
 #include "platform/timed/lifecycle.h"
 #include "platform/timed/logging.h"
 #include "platform/timed/noticetexts.h"
-#include "platform/timed/notifier.h"
 #include "platform/timed/zonesource.h"
 
 #include <optional>
 
 namespace Astel::Timed {
+
+using Notices::actionKey;
+using Notices::cookieOfAction;
+using Notices::Notice;
+using Notices::Notifier;
 
 namespace {
 
@@ -20,25 +26,10 @@ constexpr auto AgainPrefix = "com.astel.timed.again.";
 constexpr int AgainAfter = 300; // seconds
 constexpr auto Who = "notification";
 
-QString keyOf(const char *prefix, quint32 cookie)
-{
-    return prefix + QString::number(cookie);
-}
-
-std::optional<quint32> cookieOf(const char *prefix, const QString &key)
-{
-    bool valid = false;
-    const quint32 cookie = key.mid(int(qstrlen(prefix))).toUInt(&valid);
-    return valid && key.startsWith(QLatin1String(prefix)) ? std::optional(cookie) : std::nullopt;
-}
-
 Notice quietNotice(const AlarmEvent &event, const QString &body, const Notice::Action &action)
 {
-    Notice notice{NoticeTexts::title(event.wire()), body, {action}};
-    notice.tag = action.key;
-    notice.category = QStringLiteral("x-alarm.answered");
-    notice.urgency = Notice::Urgency::Low;
-    return notice;
+    return {NoticeTexts::title(event.wire()),   body,       {action},
+            QStringLiteral("x-alarm.answered"), action.key, Notice::Urgency::Low};
 }
 
 Notice snoozeNotice(const AlarmEvent &event, const Rules::Zone &zone)
@@ -46,7 +37,7 @@ Notice snoozeNotice(const AlarmEvent &event, const Rules::Zone &zone)
     //% "Snoozed, rings again at %1."
     const QString body = qtTrId("qtn_timed_snoozed").arg(NoticeTexts::time(event.moment().value_or(0), zone));
     //% "Stop"
-    return quietNotice(event, body, {keyOf(StopPrefix, event.cookie()), qtTrId("qtn_timed_stop")});
+    return quietNotice(event, body, {actionKey(StopPrefix, event.cookie()), qtTrId("qtn_timed_stop")});
 }
 
 Notice stoppedNotice(const AlarmEvent &event)
@@ -54,15 +45,17 @@ Notice stoppedNotice(const AlarmEvent &event)
     //% "Ring again in %n minute(s)"
     const QString again = qtTrId("qtn_timed_ring_again", AgainAfter / 60);
     //% "Stopped."
-    return quietNotice(event, qtTrId("qtn_timed_stopped"), {keyOf(AgainPrefix, event.cookie()), again});
+    return quietNotice(event, qtTrId("qtn_timed_stopped"), {actionKey(AgainPrefix, event.cookie()), again});
 }
 
 } // namespace
 
-AnswerTeller::AnswerTeller(LifeCycle &lifeCycle, Notifier &notifier, const ZoneSource &zone)
+AnswerTeller::AnswerTeller(LifeCycle &lifeCycle, Notifier &notifier, const ZoneSource &zone,
+                           std::chrono::milliseconds timeToTakeBack)
     : m_lifeCycle(lifeCycle)
     , m_notifier(notifier)
     , m_zone(zone)
+    , m_timeToTakeBack(timeToTakeBack)
 {
     connect(&lifeCycle, &LifeCycle::followed, this, &AnswerTeller::follow);
     connect(&lifeCycle, &LifeCycle::left, this, &AnswerTeller::forget);
@@ -101,7 +94,7 @@ void AnswerTeller::tellSnooze(const AlarmEvent &event)
 void AnswerTeller::endSnooze(quint32 cookie)
 {
     if (m_snoozed.erase(cookie) > 0)
-        m_notifier.close(keyOf(StopPrefix, cookie));
+        m_notifier.close(actionKey(StopPrefix, cookie));
 }
 
 // What has been shown already is brought up to date.
@@ -117,7 +110,7 @@ void AnswerTeller::offerAgain(const AlarmEvent &event)
     auto end = std::make_unique<QTimer>();
     end->setSingleShot(true);
     connect(end.get(), &QTimer::timeout, this, [this, cookie] { withdrawOffer(cookie); });
-    end->start(TimeToTakeBack);
+    end->start(m_timeToTakeBack);
     m_stopped.insert_or_assign(cookie, Stopped{event, std::move(end)});
     m_notifier.show(stoppedNotice(event), [](bool) {});
 }
@@ -130,14 +123,14 @@ void AnswerTeller::withdrawOffer(quint32 cookie)
     // It may be the one that just called.
     stopped->second.end.release()->deleteLater();
     m_stopped.erase(stopped);
-    m_notifier.close(keyOf(AgainPrefix, cookie));
+    m_notifier.close(actionKey(AgainPrefix, cookie));
 }
 
-void AnswerTeller::answer(const QString &actionKey)
+void AnswerTeller::answer(const QString &key)
 {
-    if (const auto again = cookieOf(AgainPrefix, actionKey)) {
+    if (const auto again = cookieOfAction(AgainPrefix, key)) {
         ringAgain(*again);
-    } else if (const auto stop = cookieOf(StopPrefix, actionKey)) {
+    } else if (const auto stop = cookieOfAction(StopPrefix, key)) {
         if (const auto done = m_lifeCycle.dismiss(*stop, Who); !done)
             qCWarning(lcTimed, "%ls", qUtf16Printable(done.error().text));
     }

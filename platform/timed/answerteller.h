@@ -10,10 +10,13 @@
 #include <QObject>
 #include <QTimer>
 
+namespace Notices {
+class Notifier;
+}
+
 namespace Astel::Timed {
 
 class LifeCycle;
-class Notifier;
 class ZoneSource;
 
 /**
@@ -28,7 +31,8 @@ public:
     /** How long a stop can be taken back. */
     static constexpr std::chrono::milliseconds TimeToTakeBack = std::chrono::minutes(5);
 
-    AnswerTeller(LifeCycle &lifeCycle, Notifier &notifier, const ZoneSource &zone);
+    AnswerTeller(LifeCycle &lifeCycle, Notices::Notifier &notifier, const ZoneSource &zone,
+                 std::chrono::milliseconds timeToTakeBack = TimeToTakeBack);
 
 private:
     struct Stopped
@@ -48,8 +52,9 @@ private:
     void ringAgain(quint32 cookie);
 
     LifeCycle &m_lifeCycle;
-    Notifier &m_notifier;
+    Notices::Notifier &m_notifier;
     const ZoneSource &m_zone;
+    const std::chrono::milliseconds m_timeToTakeBack;
     std::map<quint32, AlarmEvent> m_snoozed;
     std::map<quint32, Stopped> m_stopped;
 };

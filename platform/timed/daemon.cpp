@@ -3,10 +3,10 @@
 #include "platform/timed/daemon.h"
 
 #include "platform/context/contextpublisher.h"
+#include "platform/notices/busnotifier.h"
 #include "platform/timed/answerteller.h"
 #include "platform/timed/backupservice.h"
 #include "platform/timed/bootmoment.h"
-#include "platform/timed/busnotifier.h"
 #include "platform/timed/busringer.h"
 #include "platform/timed/busservice.h"
 #include "platform/timed/eventbook.h"
@@ -63,7 +63,7 @@ struct Daemon::Parts
         , health(book, schedule, timer, zone, store)
         , service({clock, zone, book, health, events, backup, lifeCycle})
         , boot(book, schedule, clock, settings.bootFolder, settings.clocks)
-        , notifier(bus)
+        , notifier(bus, QStringLiteral("timed"), NoticeTexts::application())
         , missedTeller(book, lifeCycle, notifier, zone)
         , answerTeller(lifeCycle, notifier, zone)
         , snapshots(store, clock, {})
@@ -91,7 +91,7 @@ struct Daemon::Parts
     std::unique_ptr<ContextPublisher> publisher;
     BusService service;
     BootMoment boot;
-    BusNotifier notifier;
+    Notices::BusNotifier notifier;
     MissedTeller missedTeller;
     AnswerTeller answerTeller;
     SnapshotKeeper snapshots;
@@ -152,7 +152,7 @@ void Daemon::follow()
     QObject::connect(&parts.zone, &ZoneSource::changed, &parts.lifeCycle, &LifeCycle::zoneChanged);
     QObject::connect(&parts.sleep, &SleepControl::goesToSleep, &parts.lifeCycle, &LifeCycle::goesToSleep);
     QObject::connect(&parts.sleep, &SleepControl::resumed, &parts.lifeCycle, &LifeCycle::resumed);
-    QObject::connect(&parts.notifier, &Notifier::appeared, &parts.notifier, [this] {
+    QObject::connect(&parts.notifier, &Notices::Notifier::appeared, &parts.notifier, [this] {
         m_noticesTried = 0;
         tellOfRestoration();
     });
@@ -168,7 +168,7 @@ void Daemon::tellOfRestoration()
     const QString summary = qtTrId("qtn_timed_restored");
     //% "The file of the alarms was damaged. An earlier copy took its place: the latest changes may be missing, please "
     //% "look through your alarms."
-    const Notice notice{summary, qtTrId("qtn_timed_restored_why"), {}};
+    const Notices::Notice notice{summary, qtTrId("qtn_timed_restored_why"), {}, QStringLiteral("x-alarm.restored")};
     m_parts->notifier.show(notice, [this](bool shown) {
         m_restorationUntold = !shown;
         // One that has just come may not be ready yet.

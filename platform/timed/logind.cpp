@@ -32,8 +32,8 @@ Logind::Logind(const QDBusConnection &bus)
     }
     if (!m_bus.connect(Service, Path, Interface, "PrepareForSleep", this, SLOT(prepareForSleep(bool))))
         qCWarning(lcTimed, "cannot listen to the login manager, ignoring");
-    connect(&m_presence, &BusPresence::appeared, this, [this] { delaySleep(m_wanted); });
-    connect(&m_presence, &BusPresence::vanished, this, [this] {
+    connect(&m_presence, &Notices::BusPresence::appeared, this, [this] { delaySleep(m_wanted); });
+    connect(&m_presence, &Notices::BusPresence::vanished, this, [this] {
         // What it handed out is worth nothing any more, and nobody else tells the end of a sleep.
         setDelay(Delay::None);
         if (m_asleep)

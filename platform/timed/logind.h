@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "platform/timed/buspresence.h"
+#include "platform/notices/buspresence.h"
 #include "platform/timed/sleepcontrol.h"
 
 #include <QDBusConnection>
@@ -42,7 +42,7 @@ private:
     void setDelay(Delay delay, const QDBusUnixFileDescriptor &descriptor = {});
 
     QDBusConnection m_bus;
-    BusPresence m_presence;
+    Notices::BusPresence m_presence;
     bool m_wanted = false;
     bool m_asleep = false;
     Delay m_delay = Delay::None;

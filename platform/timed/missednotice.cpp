@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/missednotice.h"
 
+#include "platform/notices/actionkey.h"
 #include "platform/timed/noticetexts.h"
 
 #include <algorithm>
 #include <set>
 
 namespace Astel::Timed {
+
+using Notices::Notice;
 
 namespace {
 
@@ -66,7 +69,7 @@ QList<Notice::Action> ringNowActions(const QList<Miss> &misses)
             continue;
         //% "Ring now: %1"
         const QString label = qtTrId("qtn_timed_ring_title_now").arg(NoticeTexts::title(miss.event));
-        result.append({ActionPrefix + QString::number(miss.cookie), label});
+        result.append({Notices::actionKey(ActionPrefix, miss.cookie), label});
     }
     if (result.size() == 1) {
         //% "Ring now"
@@ -81,16 +84,12 @@ Notice missedNotice(const QList<Miss> &misses, const Rules::Zone &zone)
 {
     //% "%n missed alarm(s)"
     const QString summary = qtTrId("qtn_timed_missed", int(misses.size()));
-    return {summary, bodyText(misses, zone), ringNowActions(misses)};
+    return {summary, bodyText(misses, zone), ringNowActions(misses), QStringLiteral("x-alarm.missed")};
 }
 
 std::optional<quint32> cookieToRing(const QString &actionKey)
 {
-    if (!actionKey.startsWith(QLatin1String(ActionPrefix)))
-        return std::nullopt;
-    bool valid = false;
-    const quint32 cookie = actionKey.mid(int(qstrlen(ActionPrefix))).toUInt(&valid);
-    return valid ? std::optional(cookie) : std::nullopt;
+    return Notices::cookieOfAction(ActionPrefix, actionKey);
 }
 
 } // namespace Astel::Timed

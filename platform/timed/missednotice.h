@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "platform/notices/notifier.h"
 #include "platform/timed/miss.h"
-#include "platform/timed/notifier.h"
 
 namespace Astel::Timed {
 
@@ -12,7 +12,7 @@ class Zone;
 }
 
 /** What the user reads about missed alarms, at least one: what, when by the wall clock of the zone, and why. */
-Notice missedNotice(const QList<Miss> &misses, const Rules::Zone &zone);
+Notices::Notice missedNotice(const QList<Miss> &misses, const Rules::Zone &zone);
 
 /** The cookie of the alarm that an action of such a notice asks to ring again. */
 std::optional<quint32> cookieToRing(const QString &actionKey);

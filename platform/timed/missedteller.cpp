@@ -18,7 +18,8 @@ constexpr int MaximalRetries = 3;
 
 } // namespace
 
-MissedTeller::MissedTeller(const EventBook &book, LifeCycle &lifeCycle, Notifier &notifier, const ZoneSource &zone)
+MissedTeller::MissedTeller(const EventBook &book, LifeCycle &lifeCycle, Notices::Notifier &notifier,
+                           const ZoneSource &zone)
     : m_book(book)
     , m_lifeCycle(lifeCycle)
     , m_notifier(notifier)
@@ -33,8 +34,8 @@ void MissedTeller::start()
 {
     tellAll();
     connect(&m_lifeCycle, &LifeCycle::missed, this, &MissedTeller::tellEach);
-    connect(&m_notifier, &Notifier::chosen, this, &MissedTeller::ring);
-    connect(&m_notifier, &Notifier::appeared, this, [this] {
+    connect(&m_notifier, &Notices::Notifier::chosen, this, &MissedTeller::ring);
+    connect(&m_notifier, &Notices::Notifier::appeared, this, [this] {
         m_failures = 0;
         tellAll();
     });

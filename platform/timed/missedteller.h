@@ -8,11 +8,14 @@
 #include <QTimer>
 #include <set>
 
+namespace Notices {
+class Notifier;
+}
+
 namespace Astel::Timed {
 
 class EventBook;
 class LifeCycle;
-class Notifier;
 class ZoneSource;
 
 /**
@@ -25,7 +28,7 @@ class MissedTeller : public QObject
     Q_OBJECT
 
 public:
-    MissedTeller(const EventBook &book, LifeCycle &lifeCycle, Notifier &notifier, const ZoneSource &zone);
+    MissedTeller(const EventBook &book, LifeCycle &lifeCycle, Notices::Notifier &notifier, const ZoneSource &zone);
 
     /** To be called once the life cycle has started. */
     void start();
@@ -41,7 +44,7 @@ private:
 
     const EventBook &m_book;
     LifeCycle &m_lifeCycle;
-    Notifier &m_notifier;
+    Notices::Notifier &m_notifier;
     const ZoneSource &m_zone;
     std::set<std::pair<qint64, quint32>> m_underWay;
     int m_failures = 0; ///< since a notice was shown, or the notifier appeared

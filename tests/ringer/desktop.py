@@ -12,22 +12,39 @@ import phone
 NOTIFICATIONS = "org.freedesktop.Notifications"
 SCREEN_SAVER = "org.freedesktop.ScreenSaver"
 FEEDBACK = "org.sigxcpu.Feedback"
+PORTAL = "org.freedesktop.portal.Desktop"
+PORTAL_PATH = "/org/freedesktop/portal/desktop"
+REQUEST_PATH = f"{PORTAL_PATH}/request/1"
 
 
 class Desktop:
-    """Notifications, screen saver and feedback daemon; close() ends them."""
+    """Notifications, screen saver, or the portal in its place, and feedback daemon; close() ends them."""
 
-    def __init__(self, of_phone):
+    def __init__(self, of_phone, screen_saver=True):
         self.phone = of_phone
         self._processes = []
         self.notifications = self._start(NOTIFICATIONS, "/org/freedesktop/Notifications", "-t", "notification_daemon")
+        if screen_saver:
+            self._start_screen_saver()
+        else:
+            self._start_portal()
+        self.feedback = self._start(FEEDBACK, "/org/sigxcpu/Feedback", FEEDBACK, "/org/sigxcpu/Feedback", FEEDBACK)
+        self._add(self.feedback, FEEDBACK, ("TriggerFeedback", "ssa{sv}i", "u", "ret = 9"),
+                  ("EndFeedback", "u", "", ""))
+
+    def _start_screen_saver(self):
         self.screen_saver = self._start(SCREEN_SAVER, "/org/freedesktop/ScreenSaver",
                                         SCREEN_SAVER, "/org/freedesktop/ScreenSaver", SCREEN_SAVER)
         self._add(self.screen_saver, SCREEN_SAVER, ("Inhibit", "ss", "u", "ret = 7"), ("UnInhibit", "u", "", ""),
                   ("SimulateUserActivity", "", "", ""))
-        self.feedback = self._start(FEEDBACK, "/org/sigxcpu/Feedback", FEEDBACK, "/org/sigxcpu/Feedback", FEEDBACK)
-        self._add(self.feedback, FEEDBACK, ("TriggerFeedback", "ssa{sv}i", "u", "ret = 9"),
-                  ("EndFeedback", "u", "", ""))
+
+    def _start_portal(self):
+        inhibit = "org.freedesktop.portal.Inhibit"
+        self.portal = self._start(PORTAL, PORTAL_PATH, PORTAL, PORTAL_PATH, inhibit)
+        self._add(self.portal, inhibit, ("Inhibit", "sua{sv}", "o", f"ret = dbus.ObjectPath('{REQUEST_PATH}')"))
+        self.portal.AddObject(REQUEST_PATH, "org.freedesktop.portal.Request", {}, [("Close", "", "", "")],
+                              dbus_interface=dbusmock.MOCK_IFACE)
+        self.request = self.phone.bus.get_object(PORTAL, REQUEST_PATH)
 
     def _start(self, name, path, *arguments):
         self._processes.append(

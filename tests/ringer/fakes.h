@@ -20,6 +20,10 @@ public:
     {
         calls += QStringLiteral("sounds %1 %2").arg(cookie).arg(tone);
     }
+    void impaired(quint32 cookie, const QString &trouble) override
+    {
+        calls += QStringLiteral("impaired %1 %2").arg(cookie).arg(trouble);
+    }
     void snooze(quint32 cookie, quint32 seconds, const QString &by) override
     {
         calls += QStringLiteral("snooze %1 %2 %3").arg(cookie).arg(seconds).arg(by);

@@ -5,30 +5,22 @@
 
     test_desktop_flow.py BUILD-FOLDER
 """
-import sys
-import tempfile
 import time
 import unittest
 
-import dbus
-
 import desktop
 import phone
+from phonecase import PhoneCase
 
-BUILD = sys.argv.pop(1)
 
+class DesktopCase(PhoneCase):
+    SCREEN_SAVER = True
 
-class DesktopFlow(unittest.TestCase):
     def setUp(self):
-        home = tempfile.TemporaryDirectory()
-        self.addCleanup(home.cleanup)
-        self.phone = phone.Phone(BUILD, home.name)
-        self.addCleanup(self.phone.close)
-        self.desktop = desktop.Desktop(self.phone)
+        super().setUp()
+        self.start()
+        self.desktop = desktop.Desktop(self.phone, self.SCREEN_SAVER)
         self.addCleanup(self.desktop.close)
-
-    def state(self, cookie):
-        return str(self.phone.timed("query_attributes", dbus.UInt32(cookie)).get("STATE", ""))
 
     def ring(self, title, **how):
         """Tells cookie and notification of an alarm that rings now."""
@@ -38,52 +30,76 @@ class DesktopFlow(unittest.TestCase):
         phone.wait_for(self.phone.ring_window, 10, "ring window")
         return cookie, notice
 
-    def wait_for_end(self):
-        phone.wait_for(lambda: not self.phone.ring_window(), 10, "ring window gone")
-        phone.wait_for(self.phone.sound.is_silent, 10, "silence")
+    def wait_for_notices(self, title, count):
+        """The latest notification of a title, once there have been so many."""
+        phone.wait_for(lambda: len(self.desktop.notices(title)) == count, 10, f"{count} notifications of {title}")
+        return self.desktop.notices(title)[-1]
 
+    def wait_for_closed(self, number):
+        phone.wait_for(lambda: number in self.desktop.closed(), 10, "notification gone")
+
+
+class DesktopFlow(DesktopCase):
     def test_the_notification_snoozes(self):
         cookie, (number, _, keys, hints) = self.ring("Wake up")
         self.assertEqual(list(keys), ["Snooze · 10 min", "Stop"])
         self.assertEqual((int(hints["urgency"]), str(hints["category"]), bool(hints["resident"])), (2, "alarm", True))
         self.desktop.choose(number, keys["Snooze · 10 min"])
-        phone.wait_for(lambda: self.state(cookie) == "SNOOZED", 10, "snoozed")
-        self.wait_for_end()
-        phone.wait_for(lambda: number in self.desktop.closed(), 5, "notification gone")
+        self.wait_for_state(cookie, "SNOOZED")
+        self.wait_for_silence()
+        self.wait_for_closed(number)
 
     def test_each_notification_stops_its_own_alarm(self):
         first, (one, _, _, _) = self.ring("Wake up")
         second, (two, _, keys, _) = self.ring("Take the pills", snooze=0)
         self.assertEqual(list(keys), ["Stop"])
         self.desktop.choose(two, keys["Stop"])
-        phone.wait_for(lambda: self.state(second) == "FINISHED", 10, "stopped")
-        phone.wait_for(lambda: two in self.desktop.closed(), 5, "notification gone")
+        self.wait_for_state(second, "FINISHED")
+        self.wait_for_closed(two)
         self.assertNotIn(one, self.desktop.closed())
         self.assertEqual(self.state(first), "TRIGGERED")
         self.assertTrue(self.phone.ring_window())
 
     def test_an_answer_elsewhere_takes_the_notification_back(self):
         cookie, (number, _, _, _) = self.ring("Wake up")
-        self.phone.timed("dismiss", dbus.UInt32(cookie), "test")
-        self.wait_for_end()
-        phone.wait_for(lambda: number in self.desktop.closed(), 5, "notification gone")
+        self.dismiss(cookie)
+        self.wait_for_silence()
+        self.wait_for_closed(number)
 
     def test_a_snooze_can_be_stopped_and_a_stop_be_taken_back(self):
         cookie, (number, _, keys, _) = self.ring("Wake up")
         self.desktop.choose(number, keys["Snooze · 10 min"])
-        phone.wait_for(lambda: len(self.desktop.notices("Wake up")) == 2, 10, "notification of the snooze")
-        snoozed, body, keys, _ = self.desktop.notices("Wake up")[1]
+        snoozed, body, keys, _ = self.wait_for_notices("Wake up", 2)
         self.assertRegex(body, r"^Snoozed, rings again at \d+:\d\d\s[AP]M\.$")
         self.phone.kill("com.astel.ringer")
         self.desktop.choose(snoozed, keys["Stop"])
-        phone.wait_for(lambda: self.state(cookie) == "FINISHED", 10, "stopped")
-        phone.wait_for(lambda: snoozed in self.desktop.closed(), 5, "notification of the snooze gone")
-        phone.wait_for(lambda: len(self.desktop.notices("Wake up")) == 3, 10, "offer to take it back")
-        offer, body, keys, _ = self.desktop.notices("Wake up")[2]
+        self.wait_for_state(cookie, "FINISHED")
+        self.wait_for_closed(snoozed)
+        offer, body, keys, _ = self.wait_for_notices("Wake up", 3)
         self.assertEqual(body, "Stopped.")
         self.desktop.choose(offer, keys["Ring again in 5 minutes"])
-        phone.wait_for(lambda: self.state(cookie) == "SNOOZED", 10, "rings again")
+        self.wait_for_state(cookie, "SNOOZED")
         self.assertAlmostEqual(self.phone.triggers()[cookie] / 1e9, time.time() + 300, delta=20)
+
+    def test_the_next_ringer_takes_back_what_a_killed_one_left(self):
+        cookie, (number, _, _, _) = self.ring("Wake up")
+        self.phone.kill("com.astel.ringer")
+        self.wait_for_closed(number)
+        again, _, keys, _ = self.wait_for_notices("Wake up", 2)
+        self.desktop.choose(again, keys["Stop"])
+        self.wait_for_state(cookie, "FINISHED")
+        self.wait_for_closed(again)
+
+    def test_the_next_daemon_takes_back_what_a_killed_one_left(self):
+        cookie, (number, _, keys, _) = self.ring("Wake up")
+        self.desktop.choose(number, keys["Snooze · 10 min"])
+        snoozed, _, _, _ = self.wait_for_notices("Wake up", 2)
+        self.phone.kill("com.astel.timed")
+        self.assertEqual(self.state(cookie), "SNOOZED")
+        self.wait_for_closed(snoozed)
+        again, _, keys, _ = self.wait_for_notices("Wake up", 3)
+        self.desktop.choose(again, keys["Stop"])
+        self.wait_for_state(cookie, "FINISHED")
 
     def test_the_display_is_on_and_it_vibrates_while_it_rings(self):
         cookie, _ = self.ring("Wake up")
@@ -94,9 +110,22 @@ class DesktopFlow(unittest.TestCase):
         phone.wait_for(lambda: len(calls(self.desktop.screen_saver, "Inhibit")) == 1, 5, "display kept on")
         phone.wait_for(lambda: calls(self.desktop.screen_saver, "SimulateUserActivity"), 5, "display turned on")
         self.assertEqual(calls(self.desktop.feedback, "EndFeedback"), [])
-        self.phone.timed("dismiss", dbus.UInt32(cookie), "test")
+        self.dismiss(cookie)
         phone.wait_for(lambda: calls(self.desktop.feedback, "EndFeedback") == [[9]], 5, "vibration ended")
         phone.wait_for(lambda: calls(self.desktop.screen_saver, "UnInhibit") == [[7]], 5, "display let go")
+
+
+class DesktopWithoutScreenSaver(DesktopCase):
+    SCREEN_SAVER = False
+
+    def test_the_portal_keeps_the_display_on(self):
+        cookie, _ = self.ring("Wake up")
+        calls = self.desktop.calls
+        [inhibit] = phone.wait_for(lambda: calls(self.desktop.portal, "Inhibit"), 5, "display kept on")
+        self.assertEqual(int(inhibit[1]), 8, "going idle")
+        self.assertEqual(calls(self.desktop.request, "Close"), [])
+        self.dismiss(cookie)
+        phone.wait_for(lambda: calls(self.desktop.request, "Close"), 5, "display let go")
 
 
 if __name__ == "__main__":

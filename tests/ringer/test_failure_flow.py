@@ -7,7 +7,6 @@
 """
 import pathlib
 import sys
-import tempfile
 import time
 import unittest
 
@@ -15,32 +14,12 @@ import dbus
 
 import desktop
 import phone
+from phonecase import BUILD, PhoneCase
 
-BUILD = sys.argv.pop(1)
 
-
-class FailureFlow(unittest.TestCase):
-    def setUp(self):
-        home = tempfile.TemporaryDirectory()
-        self.addCleanup(home.cleanup)
-        self.home = pathlib.Path(home.name)
-
-    def start(self, **how):
-        self.phone = phone.Phone(BUILD, self.home, **how)
-        self.addCleanup(self.phone.close)
-
+class FailureFlow(PhoneCase):
     def ring(self, **how):
         return self.phone.add_event("Wake up", int(time.time()) + 1, **how)
-
-    def state(self, cookie):
-        return str(self.phone.timed("query_attributes", dbus.UInt32(cookie)).get("STATE", ""))
-
-    def journal(self, cookie):
-        return [(str(what), str(detail)) for _, of, what, detail in self.phone.timed("journal", dbus.Int64(0))
-                if of == cookie]
-
-    def words(self, cookie):
-        return [what for what, _ in self.journal(cookie)]
 
     def sounded(self, cookie):
         """When a ringer said that it is heard, each time."""
@@ -49,13 +28,6 @@ class FailureFlow(unittest.TestCase):
 
     def wait_for_sound(self, since, seconds=15):
         return phone.wait_for(lambda: self.phone.sound.heard_since(since), seconds, "sound")
-
-    def wait_for_word(self, cookie, word, seconds=10):
-        phone.wait_for(lambda: word in self.words(cookie), seconds, f"{word} in the journal")
-
-    def wait_for_silence(self):
-        phone.wait_for(lambda: not self.phone.ring_window(), 5, "ring window gone")
-        phone.wait_for(self.phone.sound.is_silent, 5, "silence")
 
     def test_a_ringer_that_is_killed_ten_times_rings_again_each_time(self):
         self.start()
@@ -72,7 +44,7 @@ class FailureFlow(unittest.TestCase):
         print("rings again after", ", ".join(f"{1000 * each:.0f}" for each in times), "ms", file=sys.stderr)
         self.assertLess(max(times), 2)
         self.assertEqual(self.state(cookie), "TRIGGERED")
-        self.phone.timed("dismiss", dbus.UInt32(cookie), "test")
+        self.dismiss(cookie)
         self.wait_for_silence()
         self.assertEqual(self.state(cookie), "FINISHED")
         self.assertNotIn("failed", self.words(cookie))
@@ -83,13 +55,14 @@ class FailureFlow(unittest.TestCase):
         self.wait_for_word(cookie, "sounded")
         phone.wait_for(self.phone.ring_window, 5, "plain screen")
         self.assertIn("rang", self.words(cookie))
+        self.assertIn("libmissing", dict(self.journal(cookie))["impaired"])
 
     def test_a_plug_in_that_crashes(self):
         self.start(plugins=pathlib.Path(BUILD).resolve() / "tests" / "ringer-plugins")
         cookie = self.ring(PLUGIN="libcrashing")
         self.wait_for_word(cookie, "failed", 40)
         self.wait_for_word(cookie, "sounded", 20)
-        self.phone.timed("dismiss", dbus.UInt32(cookie), "test")
+        self.dismiss(cookie)
         phone.wait_for(self.phone.sound.is_silent, 10, "silence")
 
     def test_a_ringer_without_its_bus_name(self):
@@ -106,7 +79,17 @@ class FailureFlow(unittest.TestCase):
         cookie = self.ring()
         phone.wait_for(self.phone.ring_window, 15, "ring window")
         self.wait_for_word(cookie, "rang")
+        self.assertRegex(self.wait_for_word(cookie, "impaired"), "^Nothing can be heard: no sound server")
         self.assertNotIn("sounded", self.words(cookie))
+
+    def test_without_a_display_the_alarm_is_heard(self):
+        self.start(display=False)
+        due = int(time.time()) + 1
+        cookie = self.ring()
+        self.wait_for_sound(due)
+        self.assertEqual(self.wait_for_word(cookie, "impaired"), "No display: heard, not seen")
+        self.dismiss(cookie)
+        phone.wait_for(self.phone.sound.is_silent, 5, "silence")
 
     def test_unanswered_it_snoozes_three_times_and_is_missed(self):
         self.start(environment={"TIMED_RING_TIME": "2"})

@@ -7,7 +7,6 @@
 """
 import subprocess
 import sys
-import tempfile
 import time
 import unittest
 
@@ -15,19 +14,17 @@ import dbus
 import dbusmock
 
 import phone
+from phonecase import PhoneCase
 
-BUILD = sys.argv.pop(1)
 SERVER = "org.freedesktop.Notifications"
 
 
-class FallbackCase(unittest.TestCase):
+class FallbackCase(PhoneCase):
     SOUND = True
 
     def setUp(self):
-        home = tempfile.TemporaryDirectory()
-        self.addCleanup(home.cleanup)
-        self.phone = phone.Phone(BUILD, home.name, display=False, sound=self.SOUND, ringer=False)
-        self.addCleanup(self.phone.close)
+        super().setUp()
+        self.start(display=False, sound=self.SOUND, ringer=False)
         server = subprocess.Popen([sys.executable, "-m", "dbusmock", "--session", "-t", "notification_daemon"],
                                   env=self.phone.environment, stdout=subprocess.DEVNULL)
         self.addCleanup(server.wait)
@@ -39,20 +36,14 @@ class FallbackCase(unittest.TestCase):
         due = int(time.time()) + 1
         cookie = self.phone.add_event("Wake up", due)
         phone.wait_for(lambda: self.phone.sound.heard_since(due), 40, "beeps")
-        phone.wait_for(lambda: "sounded" in self.words(cookie), 10, "the journal knows")
+        self.wait_for_word(cookie, "sounded")
         return cookie
-
-    def words(self, cookie):
-        return [str(what) for _, of, what, _ in self.phone.timed("journal", dbus.Int64(0)) if of == cookie]
-
-    def state(self, cookie):
-        return str(self.phone.timed("query_attributes", dbus.UInt32(cookie)).get("STATE", ""))
 
     def choose(self, action):
         calls = self.server.GetMethodCalls("Notify", dbus_interface=dbusmock.MOCK_IFACE)
         [arguments] = [arguments for _, arguments in calls]
         self.assertEqual(str(arguments[3]), "Wake up")
-        self.assertEqual([str(text) for text in arguments[5][1::2]], ["Snooze", "Stop"])
+        self.assertEqual([str(text) for text in arguments[5][1::2]], ["Snooze · 10 min", "Stop"])
         key = {str(label): key for key, label in zip(arguments[5][::2], arguments[5][1::2])}[action]
         self.server.EmitSignal(SERVER, "ActionInvoked", "us", [dbus.UInt32(1), key],
                                dbus_interface=dbusmock.MOCK_IFACE)
@@ -69,8 +60,8 @@ class FallbackCase(unittest.TestCase):
 class FallbackFlow(FallbackCase):
     def test_snooze_of_the_notification(self):
         cookie = self.ring()
-        self.choose("Snooze")
-        phone.wait_for(lambda: self.state(cookie) == "SNOOZED", 10, "snoozed")
+        self.choose("Snooze · 10 min")
+        self.wait_for_state(cookie, "SNOOZED")
         self.wait_for_end()
         self.assertEqual(self.words(cookie), ["due", "failed", "sounded", "answered"])
         self.assertEqual(self.closed_notices(), 1)
@@ -78,7 +69,7 @@ class FallbackFlow(FallbackCase):
     def test_stop_of_the_notification(self):
         cookie = self.ring()
         self.choose("Stop")
-        phone.wait_for(lambda: self.state(cookie) == "FINISHED", 10, "stopped")
+        self.wait_for_state(cookie, "FINISHED")
         self.wait_for_end()
 
     def test_it_ends_with_the_daemon(self):
@@ -98,9 +89,10 @@ class FallbackWithoutSound(FallbackCase):
         # Time to try each output more than once: what nobody hears is not called heard.
         self.assertRaises(AssertionError, phone.wait_for, lambda: "sounded" in self.words(cookie), 4, "sound")
         self.choose("Stop")
-        phone.wait_for(lambda: self.state(cookie) == "FINISHED", 10, "stopped")
+        self.wait_for_state(cookie, "FINISHED")
         self.wait_for_end()
-        self.assertEqual(self.words(cookie), ["due", "failed", "answered"])
+        self.assertEqual(self.words(cookie), ["due", "failed", "impaired", "answered"])
+        self.assertRegex(dict(self.journal(cookie))["impaired"], "^Nothing can be heard: no sound server")
 
 
 if __name__ == "__main__":

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "platform/notices/notifier.h"
 #include "platform/timed/clock.h"
-#include "platform/timed/notifier.h"
 #include "platform/timed/ringer.h"
 #include "platform/timed/sleepcontrol.h"
 #include "platform/timed/store.h"
@@ -108,12 +108,12 @@ public:
 };
 
 /** Keeps the notices; the test says whether they were shown. */
-class FakeNotifier final : public Astel::Timed::Notifier
+class FakeNotifier final : public Notices::Notifier
 {
     Q_OBJECT
 
 public:
-    void show(const Astel::Timed::Notice &notice, const std::function<void(bool)> &done) override
+    void show(const Notices::Notice &notice, const std::function<void(bool)> &done) override
     {
         notices.append(notice);
         m_pending.append(done);
@@ -129,7 +129,7 @@ public:
             done(shown);
     }
 
-    QList<Astel::Timed::Notice> notices;
+    QList<Notices::Notice> notices;
     QStringList closed; ///< tags
     bool present = true;
 

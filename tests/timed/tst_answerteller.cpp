@@ -9,6 +9,7 @@
 #include <QTest>
 
 using namespace Astel::Timed;
+using Notices::Notice;
 
 namespace {
 
@@ -53,6 +54,7 @@ private slots:
     void stoppedAlarmRingsAgainWhenAskedFor();
     void offerGoesWithTheAlarm();
     void offerIsForOneTime();
+    void offerEndsWhenItsTimeIsOver();
     void onlyItsOwnActionsCount();
 };
 
@@ -164,6 +166,23 @@ void tst_AnswerTeller::offerIsForOneTime()
     world.passTo(Seven + Minute);
     emit notifier.chosen(again);
     QCOMPARE(world.moment(cookie), Seven + 5 * Minute);
+}
+
+void tst_AnswerTeller::offerEndsWhenItsTimeIsOver()
+{
+    QCOMPARE(AnswerTeller::TimeToTakeBack, std::chrono::milliseconds(5 * Minute));
+    World world(Seven - Minute);
+    FakeNotifier notifier;
+    const AnswerTeller teller(world.parts->life, notifier, world.zone, std::chrono::milliseconds(50));
+    const quint32 cookie = world.add(wakeUp(Wire::KeepAlive));
+    world.passTo(Seven);
+    QVERIFY(world.parts->life.dismiss(cookie, "test"));
+    const Notice offer = notifier.notices[0];
+    QCOMPARE(notifier.closed, QStringList());
+    QTRY_COMPARE(notifier.closed, QStringList(offer.tag));
+    emit notifier.chosen(offer.actions[0].key);
+    QCOMPARE(world.state(cookie), State::Waiting);
+    QCOMPARE(world.moment(cookie), Seven + Day);
 }
 
 void tst_AnswerTeller::onlyItsOwnActionsCount()

@@ -10,6 +10,7 @@
 #include <QTest>
 
 using namespace Astel::Timed;
+using Notices::Notice;
 
 namespace {
 

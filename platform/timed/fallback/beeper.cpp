@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/fallback/beeper.h"
 
-#include <array>
 #include <chrono>
-#include <gst/gst.h>
 #include <QtGlobal>
+#include <utility>
 
 namespace Fallback {
 
@@ -13,100 +12,69 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::array Outputs{"pulsesink", "alsasink", "autoaudiosink"};
-// Half a second of sound in each.
-constexpr auto Tone = "audiotestsrc wave=ticks freq=880 tick-interval=1000000000 sine-periods-per-tick=440 volume=0.9"
-                      " ! audioconvert ! audioresample ! ";
+constexpr int Ways = 3;
+constexpr double FullVolume = 1;
 constexpr auto RetryInterval = 300ms;
-constexpr auto WatchInterval = 100ms;
-
-struct Unref
-{
-    void operator()(GstMessage *message) const { gst_message_unref(message); }
-    void operator()(GstBus *bus) const { gst_object_unref(bus); }
-};
-
-/** Whether the output takes the tone and gives it to nobody: the last choice of an automatic one. */
-bool isDeaf(GstElement *pipeline)
-{
-    GstIterator *outputs = gst_bin_iterate_all_by_element_factory_name(GST_BIN(pipeline), "fakesink");
-    GValue output = G_VALUE_INIT;
-    const bool found = gst_iterator_next(outputs, &output) == GST_ITERATOR_OK;
-    if (found)
-        g_value_unset(&output);
-    gst_iterator_free(outputs);
-    return found;
-}
+constexpr auto Patience = 2000ms;
 
 } // namespace
-
-void Beeper::End::operator()(GstElement *pipeline) const
-{
-    gst_element_set_state(pipeline, GST_STATE_NULL);
-    gst_object_unref(pipeline);
-}
 
 Beeper::Beeper()
 {
     m_retry.setSingleShot(true);
     m_retry.setInterval(RetryInterval);
-    m_watch.setInterval(WatchInterval);
+    m_watchdog.setSingleShot(true);
+    m_watchdog.setInterval(Patience);
     connect(&m_retry, &QTimer::timeout, this, &Beeper::open);
-    connect(&m_watch, &QTimer::timeout, this, &Beeper::look);
+    connect(&m_watchdog, &QTimer::timeout, this, [this] { tryNext(QStringLiteral("nothing flows")); });
+    connect(&m_tone, &Sound::AlarmTone::flows, this, &Beeper::flow);
+    connect(&m_tone, &Sound::AlarmTone::failed, this, &Beeper::tryNext);
 }
 
 Beeper::~Beeper() = default;
 
 void Beeper::start()
 {
-    if (!m_pipeline && !m_retry.isActive())
+    if (!m_retry.isActive() && !m_watchdog.isActive())
         open();
 }
 
 void Beeper::stop()
 {
     m_retry.stop();
-    m_watch.stop();
-    m_pipeline.reset();
+    m_watchdog.stop();
+    m_tone.stop();
+    m_way = 0;
     m_heard = false;
 }
 
 void Beeper::open()
 {
-    const QByteArray description = QByteArray(Tone) + Outputs[m_output];
-    m_output = (m_output + 1) % Outputs.size();
-    GError *error = nullptr;
-    m_pipeline.reset(gst_parse_launch_full(description.constData(), nullptr, GST_PARSE_FLAG_FATAL_ERRORS, &error));
-    if (!m_pipeline || gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) == GST_STATE_CHANGE_FAILURE
-        || isDeaf(m_pipeline.get())) {
-        // Once for each: without any output they are tried over and over.
-        if (++m_failures <= Outputs.size())
-            qWarning("no sound through %s", description.constData());
-        m_pipeline.reset();
-        m_retry.start();
-    } else {
-        m_watch.start();
-    }
-    g_clear_error(&error);
+    QString reason;
+    if (m_tone.start({}, m_way, FullVolume, &reason))
+        m_watchdog.start();
+    else
+        tryNext(reason);
 }
 
-void Beeper::look()
+void Beeper::flow(bool isAudible)
 {
-    const std::unique_ptr<GstBus, Unref> bus(gst_element_get_bus(m_pipeline.get()));
-    const std::unique_ptr<GstMessage, Unref> trouble(
-        gst_bus_pop_filtered(bus.get(), GstMessageType(GST_MESSAGE_ERROR | GST_MESSAGE_EOS)));
-    if (trouble) {
-        qWarning("the sound output failed, trying the next one");
-        stop();
-        m_retry.start();
-        return;
-    }
-    GstState state = GST_STATE_NULL;
-    gst_element_get_state(m_pipeline.get(), &state, nullptr, 0);
-    if (state == GST_STATE_PLAYING && !m_heard) {
-        m_heard = true;
+    m_watchdog.start();
+    if (isAudible && !std::exchange(m_heard, true))
         emit heard();
-    }
+}
+
+void Beeper::tryNext(const QString &reason)
+{
+    m_watchdog.stop();
+    m_tone.stop();
+    m_heard = false;
+    // Once for each: without any output they are tried over and over.
+    if (++m_way <= Ways)
+        qWarning("no sound: %ls", qUtf16Printable(reason));
+    if (m_way == Ways)
+        emit unheard(reason);
+    m_retry.start();
 }
 
 } // namespace Fallback

@@ -2,17 +2,16 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <memory>
+#include "platform/sound/alarmtone.h"
+
 #include <QObject>
 #include <QTimer>
-
-using GstElement = struct _GstElement;
 
 namespace Fallback {
 
 /**
- * Beeps through whatever plays sound: the sound server, the sound card itself, anything else GStreamer finds. Makes the
- * tone itself; needs no file. Goes on to the next output where one fails, and begins again after the last.
+ * Beeps at full volume through whatever plays sound: the sound server, anything else GStreamer finds, the sound card
+ * itself. Needs no file. Goes on to the next output where one fails or nothing flows, and begins again after the last.
  */
 class Beeper : public QObject
 {
@@ -28,24 +27,20 @@ public:
     bool isHeard() const { return m_heard; }
 
 signals:
-    /** The output takes the tone. */
     void heard();
+    /** No output took the beeps; they are tried over and over. Once, until it is stopped. */
+    void unheard(const QString &reason);
 
 private:
-    struct End
-    {
-        void operator()(GstElement *pipeline) const;
-    };
-
     void open();
-    void look();
+    void flow(bool isAudible);
+    void tryNext(const QString &reason);
 
-    std::unique_ptr<GstElement, End> m_pipeline;
-    std::size_t m_output = 0;
-    std::size_t m_failures = 0;
+    Sound::AlarmTone m_tone;
+    int m_way = 0; ///< counts the outputs that were tried
     bool m_heard = false;
     QTimer m_retry;
-    QTimer m_watch;
+    QTimer m_watchdog;
 };
 
 } // namespace Fallback

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/fallback/fallbackringer.h"
 
-#include <algorithm>
+#include "platform/ringer/texts/ringtexts.h"
+
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <utility>
 
@@ -14,25 +16,23 @@ namespace Wire = Astel::Timed::Wire;
 
 constexpr auto Who = "notification";
 constexpr auto ToneName = "beeps";
-constexpr uint FirstButton = 0;
-
-bool canSnooze(const Wire::Event &event)
-{
-    return std::any_of(event.buttons.begin(), event.buttons.end(),
-                       [](const Wire::Button &button) { return button.snooze > 0; });
-}
 
 } // namespace
 
 FallbackRinger::FallbackRinger(const QDBusConnection &bus)
     : m_bus(bus)
-    , m_notice(bus)
+    , m_notifier(bus, QStringLiteral("clock-ring-fallback"), RingTexts::application())
+    , m_notices(&m_notifier)
 {
     connect(&m_beeper, &Beeper::heard, this, &FallbackRinger::reportSound);
-    connect(&m_notice, &RingNotice::snooze, this, [this](quint32 cookie) {
-        answer("snooze", {cookie, FirstButton, Who});
+    connect(&m_beeper, &Beeper::unheard, this, &FallbackRinger::reportTrouble);
+    connect(&m_notices, &Ringer::RingNotices::snoozeChosen, this, [this](quint32 cookie, int seconds) {
+        answer("snooze", {cookie, uint(seconds), Who});
     });
-    connect(&m_notice, &RingNotice::stop, this, [this](quint32 cookie) { answer("dismiss", {cookie, Who}); });
+    connect(&m_notices, &Ringer::RingNotices::stopChosen, this, [this](quint32 cookie) {
+        answer("dismiss", {cookie, Who});
+    });
+    takeBackNoticesOfTheRinger();
 }
 
 bool FallbackRinger::registerOnBus()
@@ -41,11 +41,20 @@ bool FallbackRinger::registerOnBus()
         && m_bus.registerService(Wire::FallbackRingerService);
 }
 
-void FallbackRinger::ring(uint cookie, const Wire::Event &event, qulonglong)
+// One that was killed cannot; its buttons would do nothing.
+void FallbackRinger::takeBackNoticesOfTheRinger()
+{
+    if (m_bus.interface()->isServiceRegistered(Wire::RingerService))
+        return;
+    Notices::NoticeRecord record(QStringLiteral("ringer"));
+    m_notifier.takeBack(record);
+}
+
+void FallbackRinger::ring(uint cookie, const Wire::Event &event, qulonglong due)
 {
     if (!m_ringing.insert(cookie).second)
         return;
-    m_notice.show(cookie, event.attributes.value("TITLE").simplified(), canSnooze(event));
+    m_notices.show(Ringer::ringNoticeOf(cookie, event, due));
     m_beeper.start();
     if (m_beeper.isHeard())
         answer("sounds", {cookie, ToneName});
@@ -55,7 +64,7 @@ void FallbackRinger::stop(uint cookie)
 {
     if (m_ringing.erase(cookie) == 0)
         return;
-    m_notice.close(cookie);
+    m_notices.close(cookie);
     if (!m_ringing.empty())
         return;
     m_beeper.stop();
@@ -65,7 +74,7 @@ void FallbackRinger::stop(uint cookie)
 void FallbackRinger::stopAll()
 {
     for (const quint32 cookie : std::exchange(m_ringing, {}))
-        m_notice.close(cookie);
+        m_notices.close(cookie);
     m_beeper.stop();
     emit finished();
 }
@@ -74,6 +83,12 @@ void FallbackRinger::reportSound()
 {
     for (const quint32 cookie : m_ringing)
         answer("sounds", {cookie, ToneName});
+}
+
+void FallbackRinger::reportTrouble(const QString &reason)
+{
+    for (const quint32 cookie : m_ringing)
+        answer("impaired", {cookie, "Nothing can be heard: " + reason});
 }
 
 void FallbackRinger::answer(const QString &method, const QVariantList &arguments)

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "platform/notices/busnotifier.h"
+#include "platform/ringer/notices/ringnotices.h"
 #include "platform/timed/fallback/beeper.h"
-#include "platform/timed/fallback/ringnotice.h"
 #include "platform/timedclient/wire.h"
 
 #include <QDBusConnection>
@@ -38,12 +39,15 @@ signals:
     void finished();
 
 private:
+    void takeBackNoticesOfTheRinger();
     void reportSound();
+    void reportTrouble(const QString &reason);
     void answer(const QString &method, const QVariantList &arguments);
 
     QDBusConnection m_bus;
     Beeper m_beeper;
-    RingNotice m_notice;
+    Notices::BusNotifier m_notifier;
+    Ringer::RingNotices m_notices;
     std::set<quint32> m_ringing;
 };
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/fallback/fallbackringer.h"
 
+#include "platform/ringer/texts/ringtexts.h"
+
 #include <chrono>
 #include <gst/gst.h>
 #include <QCoreApplication>
@@ -22,6 +24,7 @@ int main(int argc, char *argv[])
     gst_init(&argc, &argv);
     QCoreApplication application(argc, argv);
     Astel::Timed::Wire::registerTypes();
+    RingTexts::install();
     auto bus = QDBusConnection::sessionBus();
     Fallback::FallbackRinger ringer(bus);
     if (!ringer.registerOnBus()) {

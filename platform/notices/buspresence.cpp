@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "platform/timed/buspresence.h"
+#include "platform/notices/buspresence.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
-namespace Astel::Timed {
+namespace Notices {
 
 BusPresence::BusPresence(const QString &service, const QDBusConnection &bus)
     : m_watcher(service, bus)
@@ -38,4 +38,4 @@ void BusPresence::setPresent(bool present)
         emit vanished();
 }
 
-} // namespace Astel::Timed
+} // namespace Notices

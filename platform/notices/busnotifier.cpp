@@ -1,15 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "platform/timed/busnotifier.h"
+#include "platform/notices/busnotifier.h"
 
-#include "platform/timed/logging.h"
-#include "platform/timed/noticetexts.h"
+#include "platform/notices/logging.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
-namespace Astel::Timed {
+namespace Notices {
 
 namespace {
 
@@ -18,14 +17,24 @@ constexpr auto Path = "/org/freedesktop/Notifications";
 constexpr int UntilClosed = 0;
 constexpr uint NewNotice = 0;
 
-QDBusMessage methodCall(const QString &method)
+QDBusMessage methodCall(const QString &method, const QString &server = Service)
 {
-    return QDBusMessage::createMethodCall(Service, Path, Service, method);
+    return QDBusMessage::createMethodCall(server, Path, Service, method);
 }
 
 uchar toUrgency(Notice::Urgency urgency)
 {
     return urgency == Notice::Urgency::Critical ? 2 : 0;
+}
+
+QVariantMap toHints(const Notice &notice)
+{
+    QVariantMap hints{{"urgency", QVariant::fromValue(toUrgency(notice.urgency))}, {"category", notice.category}};
+    if (notice.isRinging) {
+        hints.insert("resident", true);
+        hints.insert("suppress-sound", true);
+    }
+    return hints;
 }
 
 QStringList toList(const QList<Notice::Action> &actions)
@@ -38,13 +47,16 @@ QStringList toList(const QList<Notice::Action> &actions)
 
 } // namespace
 
-BusNotifier::BusNotifier(const QDBusConnection &bus)
+BusNotifier::BusNotifier(const QDBusConnection &bus, const QString &program, const QString &title)
     : m_bus(bus)
+    , m_title(title)
+    , m_record(program)
     , m_presence(Service, bus)
 {
+    takeBack(m_record);
     connect(&m_presence, &BusPresence::appeared, this, &Notifier::appeared);
     if (!m_bus.connect(Service, Path, Service, "ActionInvoked", this, SLOT(actionInvoked(uint, QString))))
-        qCWarning(lcTimed, "cannot hear answers to notifications, ignoring");
+        qCWarning(lcNotices, "cannot hear answers to notifications, ignoring");
 }
 
 void BusNotifier::show(const Notice &notice, const std::function<void(bool)> &done)
@@ -56,7 +68,7 @@ void BusNotifier::show(const Notice &notice, const std::function<void(bool)> &do
         call->deleteLater();
         const QDBusPendingReply<QStringList> capabilities = *call;
         if (!capabilities.isValid()) {
-            qCWarning(lcTimed, "nobody shows notifications: %ls", qUtf16Printable(capabilities.error().message()));
+            qCWarning(lcNotices, "nobody shows notifications: %ls", qUtf16Printable(capabilities.error().message()));
             done(false);
             return;
         }
@@ -71,31 +83,33 @@ void BusNotifier::show(const Notice &notice, const std::function<void(bool)> &do
 void BusNotifier::send(const Notice &notice, const std::function<void(bool)> &done)
 {
     QDBusMessage question = methodCall("Notify");
-    const QVariantMap hints{{"urgency", QVariant::fromValue(toUrgency(notice.urgency))}, {"category", notice.category}};
-    question.setArguments({NoticeTexts::application(), m_tagged.value(notice.tag, NewNotice), "alarm-symbolic",
-                           notice.summary, notice.body, toList(notice.actions), hints, UntilClosed});
+    question.setArguments({m_title, m_tagged.value(notice.tag, NewNotice), "alarm-symbolic", notice.summary, notice.body,
+                           toList(notice.actions), toHints(notice), UntilClosed});
     auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, done, tag = notice.tag] {
         call->deleteLater();
         const QDBusPendingReply<uint> number = *call;
         if (number.isError())
-            qCWarning(lcTimed, "a notification is not shown: %ls", qUtf16Printable(number.error().message()));
+            qCWarning(lcNotices, "a notification is not shown: %ls", qUtf16Printable(number.error().message()));
         else if (!tag.isEmpty())
-            keepNumber(tag, number);
+            keepNumber(tag, call->reply().service(), number);
         done(!number.isError());
     });
 }
 
-void BusNotifier::keepNumber(const QString &tag, uint number)
+void BusNotifier::keepNumber(const QString &tag, const QString &server, uint number)
 {
     const auto known = m_tagged.find(tag);
     if (known == m_tagged.end()) {
         withdraw(number);
         return;
     }
-    if (*known != NewNotice && *known != number)
+    if (*known == number)
+        return;
+    if (*known != NewNotice)
         withdraw(*known);
     *known = number;
+    m_record.add(server, number);
 }
 
 void BusNotifier::close(const QString &tag)
@@ -109,6 +123,18 @@ void BusNotifier::withdraw(uint number)
     QDBusMessage call = methodCall("CloseNotification");
     call.setArguments({number});
     m_bus.send(call);
+    m_record.remove(number);
+}
+
+// To the server itself, as another one has its own numbers.
+void BusNotifier::takeBack(NoticeRecord &record)
+{
+    for (const NoticeRecord::Entry &entry : record.entries()) {
+        QDBusMessage call = methodCall("CloseNotification", entry.server);
+        call.setArguments({entry.number});
+        m_bus.send(call);
+    }
+    record.clear();
 }
 
 void BusNotifier::actionInvoked(uint, const QString &key)
@@ -116,4 +142,4 @@ void BusNotifier::actionInvoked(uint, const QString &key)
     emit chosen(key);
 }
 
-} // namespace Astel::Timed
+} // namespace Notices

@@ -7,7 +7,7 @@
 #include <QObject>
 #include <QString>
 
-namespace Astel::Timed {
+namespace Notices {
 
 /** What is shown to the user, in plain text. */
 struct Notice
@@ -23,9 +23,10 @@ struct Notice
     QString summary;
     QString body;
     QList<Action> actions;
+    QString category;
     QString tag = {}; ///< a later notice of the same tag takes its place; empty: it stands by itself
-    QString category = QStringLiteral("x-alarm.missed");
     Urgency urgency = Urgency::Critical;
+    bool isRinging = false; ///< makes its own sound, and goes only when it is closed
 };
 
 /** Whoever shows notices to the user. */
@@ -43,8 +44,8 @@ public:
 signals:
     /** It was not there, and is now. */
     void appeared();
-    /** The user chose an action, perhaps of a notice from before this daemon. */
+    /** The user chose an action, perhaps of a notice from before this program. */
     void chosen(const QString &key);
 };
 
-} // namespace Astel::Timed
+} // namespace Notices

@@ -2,37 +2,46 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "platform/timed/buspresence.h"
-#include "platform/timed/notifier.h"
+#include "platform/notices/buspresence.h"
+#include "platform/notices/noticerecord.h"
+#include "platform/notices/notifier.h"
 
 #include <QDBusConnection>
 #include <QHash>
 
-namespace Astel::Timed {
+namespace Notices {
 
-/** The notification server of the desktop, on the session bus; started by the bus where that can. */
+/**
+ * The notification server of the desktop, on the session bus; started by the bus where that can. Takes back the tagged
+ * notices that a program of the same name has left when it was killed.
+ */
 class BusNotifier final : public Notifier
 {
     Q_OBJECT
 
 public:
-    explicit BusNotifier(const QDBusConnection &bus);
+    /** The title is what the server calls the program. */
+    BusNotifier(const QDBusConnection &bus, const QString &program, const QString &title);
 
     void show(const Notice &notice, const std::function<void(bool)> &done) override;
     void close(const QString &tag) override;
     bool isPresent() const override { return m_presence.isPresent(); }
+    /** Closes what a program has left; only for one that runs no more. */
+    void takeBack(NoticeRecord &record);
 
 private slots:
     void actionInvoked(uint id, const QString &key);
 
 private:
     void send(const Notice &notice, const std::function<void(bool)> &done);
-    void keepNumber(const QString &tag, uint number);
+    void keepNumber(const QString &tag, const QString &server, uint number);
     void withdraw(uint number);
 
     QDBusConnection m_bus;
+    const QString m_title;
+    NoticeRecord m_record;
     BusPresence m_presence;
     QHash<QString, uint> m_tagged; ///< tags and the numbers of their notices, 0 while one is under way
 };
 
-} // namespace Astel::Timed
+} // namespace Notices

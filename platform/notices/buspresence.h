@@ -4,7 +4,7 @@
 
 #include <QDBusServiceWatcher>
 
-namespace Astel::Timed {
+namespace Notices {
 
 /** Whether somebody owns a name on a bus. Known once the bus has answered; nothing is started by asking. */
 class BusPresence : public QObject
@@ -27,4 +27,4 @@ private:
     bool m_present = false;
 };
 
-} // namespace Astel::Timed
+} // namespace Notices
