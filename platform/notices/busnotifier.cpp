@@ -83,8 +83,8 @@ void BusNotifier::show(const Notice &notice, const std::function<void(bool)> &do
 void BusNotifier::send(const Notice &notice, const std::function<void(bool)> &done)
 {
     QDBusMessage question = methodCall("Notify");
-    question.setArguments({m_title, m_tagged.value(notice.tag, NewNotice), "alarm-symbolic", notice.summary, notice.body,
-                           toList(notice.actions), toHints(notice), UntilClosed});
+    question.setArguments({m_title, m_tagged.value(notice.tag, NewNotice), "alarm-symbolic", notice.summary,
+                           notice.body, toList(notice.actions), toHints(notice), UntilClosed});
     auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, done, tag = notice.tag] {
         call->deleteLater();

@@ -5,6 +5,8 @@
 
     test_fallback_flow.py BUILD-FOLDER
 """
+import os
+import pathlib
 import subprocess
 import sys
 import time
@@ -71,6 +73,14 @@ class FallbackFlow(FallbackCase):
         self.choose("Stop")
         self.wait_for_state(cookie, "FINISHED")
         self.wait_for_end()
+
+    def test_it_takes_back_what_a_killed_ringer_left(self):
+        number = self.server.Notify("Clock", dbus.UInt32(0), "", "Left", "", [], {}, 0, dbus_interface=SERVER)
+        owner = self.phone.bus.get_name_owner(SERVER)
+        (pathlib.Path(os.environ["XDG_RUNTIME_DIR"]) / "ringer.notices").write_text(f"{owner} {number}\n")
+        self.ring()
+        closed = self.server.GetMethodCalls("CloseNotification", dbus_interface=dbusmock.MOCK_IFACE)
+        self.assertEqual([int(arguments[0]) for _, arguments in closed], [int(number)])
 
     def test_it_ends_with_the_daemon(self):
         self.ring()
