@@ -18,6 +18,8 @@ private slots:
     void initTestCase();
     void everythingHasItsPlace_data();
     void everythingHasItsPlace();
+    void snoozeAndStopAreThereWholeWhateverElseThereIs_data();
+    void snoozeAndStopAreThereWholeWhateverElseThereIs();
     void cleanup();
 
 private:
@@ -86,6 +88,33 @@ void TestRingScreens::everythingHasItsPlace()
 
     const QDir folder(QCoreApplication::applicationDirPath() + "/../screenshots");
     QVERIFY(folder.mkpath("."));
+    QVERIFY(window()->grab().save(folder.filePath(QStringLiteral("ring-%1.png").arg(QTest::currentDataTag()))));
+}
+
+void TestRingScreens::snoozeAndStopAreThereWholeWhateverElseThereIs_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const auto size : {QSize(360, 640), QSize(320, 568), QSize(480, 854), QSize(854, 480), QSize(640, 360)})
+        QTest::addRow("long-%dx%d", size.width(), size.height()) << size;
+}
+
+void TestRingScreens::snoozeAndStopAreThereWholeWhateverElseThereIs()
+{
+    QFETCH(QSize, size);
+    const auto title
+        = QStringLiteral("Take the blue pills with a full glass of water before breakfast, then call nine");
+    for (quint32 cookie = 1; cookie < 4; ++cookie)
+        m_plugin->show({cookie, title, QDateTime::currentDateTimeUtc(), {}, 600});
+    QVERIFY(waitForAnswers());
+    window()->resize(size);
+    QTRY_COMPARE(item("stop")->scene()->sceneRect().size().toSize(), size);
+    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    for (const auto *name : {"snooze", "stop"}) {
+        const auto place = item(name)->sceneBoundingRect();
+        QVERIFY2(QRectF(QPointF(), size).contains(place) && place.height() >= 56, name);
+    }
+    QVERIFY(item("stop")->sceneBoundingRect().top() - item("snooze")->sceneBoundingRect().bottom() >= 40);
+    const QDir folder(QCoreApplication::applicationDirPath() + "/../screenshots");
     QVERIFY(window()->grab().save(folder.filePath(QStringLiteral("ring-%1.png").arg(QTest::currentDataTag()))));
 }
 

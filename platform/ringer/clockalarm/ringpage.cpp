@@ -15,6 +15,8 @@
 #include "platform/toolkit/theme.h"
 
 #include <algorithm>
+#include <array>
+#include <QMarginsF>
 #include <QPainter>
 
 using Ringer::Alarm;
@@ -25,6 +27,9 @@ using Touch::Locale;
 namespace {
 
 constexpr auto AnswerSpacing = 12;
+constexpr auto MostSpared = 6;
+constexpr auto ColumnSpacing = 16;
+constexpr QMarginsF Margins(24, 16, 24, 28);
 
 Label *createLabel(const char *styleName)
 {
@@ -104,6 +109,8 @@ void RingPage::createContent()
     setComponentsDisplayMode(AllComponents, Hide);
     m_date = createLabel("RingDate");
     m_time = createLabel("RingTime");
+    // Better as wide as it is than less of it.
+    m_time->setTextElide(false);
     m_half = createLabel("RingHalf");
     m_alarmTitle = createLabel("RingTitle");
     m_alarmTitle->setWordWrap(true);
@@ -129,17 +136,17 @@ void RingPage::arrangeContent()
     // As large as the page, whatever was wanted on a larger screen before.
     centralWidget()->setMinimumSize(0, 0);
     auto *layout = new Touch::Layout(centralWidget());
-    auto *moment = createColumn({m_date, m_time, m_half, m_alarmTitle}, Qt::AlignVCenter, 0);
-    auto *answers = createColumn({m_waiting, m_snooze, m_choice, m_stop}, Qt::AlignBottom, AnswerSpacing);
+    m_moment = createColumn({m_date, m_time, m_half, m_alarmTitle}, Qt::AlignVCenter, 0);
+    m_answers = createColumn({m_waiting, m_snooze, m_choice, m_stop}, Qt::AlignBottom, AnswerSpacing);
     auto *portrait = new Touch::LinearLayoutPolicy(layout, Qt::Vertical);
     layout->setPortraitPolicy(portrait);
     auto *landscape = new Touch::LinearLayoutPolicy(layout, Qt::Horizontal);
     layout->setLandscapePolicy(landscape);
     for (auto *policy : {portrait, landscape}) {
-        policy->setContentsMargins(24, 16, 24, 28);
-        policy->setSpacing(16);
-        policy->addItem(moment);
-        policy->addItem(answers);
+        policy->setContentsMargins(Margins.left(), Margins.top(), Margins.right(), Margins.bottom());
+        policy->setSpacing(ColumnSpacing);
+        policy->addItem(m_moment);
+        policy->addItem(m_answers);
     }
 }
 
@@ -158,11 +165,11 @@ void RingPage::applyStyles()
     const auto longSide = std::max(size().width(), size().height());
     const auto isCompact = shortSide < 400 || longSide < 720 || size().height() < 560;
     const auto suffix = QLatin1String(isCompact ? "Compact" : "");
-    m_waiting->setRoom(size().height() < 720 ? 1 : 2);
     m_time->setStyleName(QLatin1String("RingTime") + suffix);
     m_alarmTitle->setStyleName(QLatin1String("RingTitle") + suffix);
     m_snooze->setStyleName(QLatin1String("RingSnooze") + suffix);
     m_stop->setStyleName(QLatin1String("RingStop") + suffix);
+    fit();
 }
 
 // A glow like the first light, strongest behind the time.
@@ -204,13 +211,50 @@ void RingPage::refresh()
     if (!isContentCreated() || m_alarms.isEmpty())
         return;
     const auto &front = m_alarms.constFirst();
-    m_alarmTitle->setText(RingTexts::title(front.title));
     m_snooze->setText(RingTexts::snooze(front.snoozeSeconds));
     m_snooze->setVisible(front.snoozeSeconds > 0);
     m_choice->refresh();
-    m_choice->setVisible(front.snoozeSeconds > 0);
     m_waiting->setAlarms(m_alarms.mid(1));
     refreshTime();
+    fit();
+}
+
+// Snooze and Stop have to be there whole, whatever else there is to read.
+void RingPage::fit()
+{
+    if (!isContentCreated() || m_alarms.isEmpty())
+        return;
+    for (int step = 0; step <= MostSpared; ++step) {
+        spare(step);
+        if (neededHeight() <= size().height())
+            return;
+    }
+}
+
+// Asks the columns themselves: what holds them learns of a change only later.
+qreal RingPage::neededHeight() const
+{
+    const auto isWide = size().width() > size().height();
+    const auto room = size().width() - Margins.left() - Margins.right();
+    const auto heightOf = [](const Touch::Widget *column, qreal width) {
+        return column->layout()->effectiveSizeHint(Qt::MinimumSize, {width, -1}).height();
+    };
+    const auto border = Margins.top() + Margins.bottom();
+    if (isWide)
+        return border + std::max(heightOf(m_moment, m_moment->size().width()), heightOf(m_answers, -1));
+    return border + heightOf(m_moment, room) + ColumnSpacing + heightOf(m_answers, room);
+}
+
+// Step by step what is least needed by who wakes up: words of the title, the cards of what waits, the date, the choice.
+void RingPage::spare(int step)
+{
+    constexpr std::array TitleLengths{90, 60, 40, 20};
+    const auto &front = m_alarms.constFirst();
+    m_alarmTitle->setText(
+        RingTexts::title(front.title, TitleLengths.at(std::min<std::size_t>(step, TitleLengths.size() - 1))));
+    m_waiting->setRoom(step >= 4 ? 0 : size().height() < 720 ? 1 : 2);
+    m_date->setVisible(step < 5);
+    m_choice->setVisible(step < 6 && front.snoozeSeconds > 0);
 }
 
 void RingPage::refreshTime()

@@ -49,6 +49,9 @@ protected:
 
 private:
     void applyStyles();
+    void fit();
+    void spare(int step);
+    [[nodiscard]] qreal neededHeight() const;
     void arrangeContent();
     void refresh();
     void refreshTime();
@@ -57,6 +60,8 @@ private:
     QList<Ringer::Alarm> m_alarms;
     StopGesture m_gesture = StopGesture::Slide;
     QTimer m_minute;
+    Touch::Widget *m_moment = nullptr;
+    Touch::Widget *m_answers = nullptr;
     Touch::Label *m_date = nullptr;
     Touch::Label *m_time = nullptr;
     Touch::Label *m_half = nullptr;

@@ -41,12 +41,17 @@ QString application()
 
 QString title(const QString &title)
 {
+    return RingTexts::title(title, TitleLength);
+}
+
+QString title(const QString &title, int length)
+{
     const auto text = title.simplified();
     if (text.isEmpty()) {
         //% "Alarm"
         return qtTrId("qtn_ring_untitled");
     }
-    return text.size() > TitleLength ? text.left(TitleLength) + QStringLiteral("…") : text;
+    return text.size() > length ? text.left(length).trimmed() + QStringLiteral("…") : text;
 }
 
 QString due(const QDateTime &moment)

@@ -18,6 +18,8 @@ void install();
 [[nodiscard]] QString application(); ///< of windows and notifications
 /** One line, never empty, and not longer than is needed to know the alarm. */
 [[nodiscard]] QString title(const QString &title);
+/** The same, cut after so many characters. */
+[[nodiscard]] QString title(const QString &title, int length);
 /** The time of day of a moment, whatever its zone, where the user is now. */
 [[nodiscard]] QString due(const QDateTime &moment);
 [[nodiscard]] QString snooze(int seconds);
