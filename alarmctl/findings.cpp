@@ -110,12 +110,14 @@ Finding soundOutput(const QVariantMap &ringer)
     if (name.isEmpty())
         return {Mark::Bad, subject, "none, " + textIn(ringer, "output_reason")};
     if (ringer.value("muted").toBool())
-        return {Mark::Bad, subject, name + ", muted"};
+        return {Mark::Warning, subject, name + ", muted: is opened while an alarm rings"};
     if (!ringer.contains("volume"))
         return {Mark::Warning, subject, name + ", its volume is not known"};
     const uint volume = ringer.value("volume").toUInt();
-    const Mark mark = volume == 0 ? Mark::Bad : volume < QuietVolume ? Mark::Warning : Mark::Good;
-    return {mark, subject, QStringLiteral("%1, volume %2 %").arg(name).arg(volume)};
+    const QString text = QStringLiteral("%1, volume %2 %").arg(name).arg(volume);
+    if (volume < QuietVolume)
+        return {Mark::Warning, subject, text + ": is raised while an alarm rings"};
+    return {Mark::Good, subject, text};
 }
 
 Finding tone(const QVariantMap &ringer, const QString &wanted)

@@ -159,8 +159,8 @@ void addRowsOfOutput()
             facts.ringer->insert("output_reason", "nothing answers");
         },
         "sound output", Mark::Bad, "none, nothing answers");
-    row("muted", ringerSays("muted", true), "sound output", Mark::Bad, "Loudspeaker, muted");
-    row("volume 0", ringerSays("volume", 0u), "sound output", Mark::Bad, "volume 0 %");
+    row("muted", ringerSays("muted", true), "sound output", Mark::Warning, "Loudspeaker, muted: is opened");
+    row("volume 0", ringerSays("volume", 0u), "sound output", Mark::Warning, "volume 0 %: is raised");
     row("volume 1", ringerSays("volume", 1u), "sound output", Mark::Warning, "volume 1 %");
     row("volume 24", ringerSays("volume", 24u), "sound output", Mark::Warning, "volume 24 %");
     row("volume 25", ringerSays("volume", 25u), "sound output", Mark::Good, "volume 25 %");
