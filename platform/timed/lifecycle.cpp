@@ -20,6 +20,8 @@ namespace {
 // For entries of the journal that are about all events.
 constexpr quint32 NoCookie = 0;
 
+const auto RingerGone = QStringLiteral("The ringer has gone and is called again");
+
 qint64 firstSnooze(const Wire::Event &event)
 {
     for (const Wire::Button &button : event.buttons) {
@@ -44,6 +46,10 @@ LifeCycle::LifeCycle(EventBook &book, Schedule &schedule, Ringing &ringing, cons
     connect(&schedule, &Schedule::reached, this, &LifeCycle::reached);
     connect(&ringing, &Ringing::ringerSilent, this, [this](quint32 cookie, int calls) {
         note(cookie, "failed", QStringLiteral("no answer of the ringer to %1 calls, the fallback rings").arg(calls));
+    });
+    connect(&ringing, &Ringing::ringerGone, this, [this](quint32 cookie) {
+        if (m_ringing.keepTrouble(cookie, RingerGone))
+            note(cookie, "impaired", RingerGone);
     });
 }
 

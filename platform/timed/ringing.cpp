@@ -137,6 +137,7 @@ void Ringing::ringerVanished()
             call(cookie, ring);
         else
             m_schedule.set(cookie, Purpose::Retry, m_clock.now() + TimeToAcknowledge);
+        emit ringerGone(cookie);
     }
 }
 

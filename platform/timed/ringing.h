@@ -46,6 +46,8 @@ signals:
     void ended();
     /** The ringer was called several times and is silent; it is called on at longer intervals, the fallback rings. */
     void ringerSilent(quint32 cookie, int calls);
+    /** The ringer went away while this alarm rings. */
+    void ringerGone(quint32 cookie);
 
 private:
     struct Ring

@@ -48,6 +48,7 @@ class FailureFlow(PhoneCase):
         self.wait_for_silence()
         self.assertEqual(self.state(cookie), "FINISHED")
         self.assertNotIn("failed", self.words(cookie))
+        self.assertEqual(self.words(cookie).count("impaired"), 1)
 
     def test_a_plug_in_that_is_missing(self):
         self.start()

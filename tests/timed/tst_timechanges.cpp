@@ -370,6 +370,8 @@ void tst_TimeChanges::ringerThatDiesIsCalledAgain()
     emit world.ringer.vanished();
     emit world.ringer.vanished();
     QCOMPARE(world.ringer.rung.size(), 3);
+    // Told once.
+    QCOMPARE(world.store.words(), (QStringList{"due", "rang", "impaired"}));
     world.pass(5 * Second);
     QCOMPARE(world.ringer.rung.size(), 4);
 }
