@@ -65,6 +65,12 @@ QStringList placeholders(const QString &text)
     return found;
 }
 
+QString contentsOf(const QString &sourceFile)
+{
+    QFile file(Places::source(sourceFile));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 /** The names of texts in the sources of application and platform. */
 QSet<QString> usedTexts()
 {
@@ -110,6 +116,8 @@ private slots:
     void noTextIsLeftInEnglish();
     void theMorningIsCalledAsInTimes_data();
     void theMorningIsCalledAsInTimes();
+    void theDesktopKnowsTheApplication_data() { theMorningIsCalledAsInTimes_data(); }
+    void theDesktopKnowsTheApplication();
 
 private:
     static void addRows();
@@ -273,6 +281,25 @@ void TestCatalogues::theMorningIsCalledAsInTimes()
     Touch::Locale::setDefault(locale);
     const QDateTime morning(QDate(2026, 1, 1), QTime(8, 0), Qt::UTC);
     QCOMPARE(qtTrId("qtn_comm_time_am"), locale.formatDateTime(morning, "%p"));
+}
+
+// In the menu of programs and in the catalogue of a software centre.
+void TestCatalogues::theDesktopKnowsTheApplication()
+{
+    QFETCH(QString, language);
+    if (language == u"en")
+        return;
+    const Catalogue clock = Catalogue::read(path("clock", language));
+    QCOMPARE(clock.texts.first().id, "qtn_cloc_title");
+    const QString title = clock.texts.first().forms.first();
+    const QString menu = contentsOf("data/desktop/com.korvo.clock.desktop");
+    QVERIFY(menu.contains(QStringLiteral("\nName[%1]=%2\n").arg(language, title)));
+    QVERIFY(menu.contains(QStringLiteral("\nGenericName[%1]=").arg(language)));
+    QVERIFY(menu.contains(QStringLiteral("\nComment[%1]=").arg(language)));
+    const QString software = contentsOf("data/desktop/com.korvo.clock.metainfo.xml.in");
+    const QString tag = QString(language).replace(u'_', u'-');
+    QVERIFY(software.contains(QStringLiteral("<name xml:lang=\"%1\">%2</name>").arg(tag, title)));
+    QVERIFY(software.contains(QStringLiteral("<summary xml:lang=\"%1\">").arg(tag)));
 }
 
 QTEST_GUILESS_MAIN(TestCatalogues)
