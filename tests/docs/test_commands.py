@@ -26,7 +26,7 @@ BUILD = pathlib.Path(sys.argv[1]).resolve()
 ASKED = sys.argv[2:]
 SECONDS = 50  # for one command
 FOLDER = tempfile.TemporaryDirectory(prefix="clock-docs-")
-# A phone without a sound server, so that there is something for "alarmctl health" to tell.
+# A phone without a sound server or sound device, so that there is something for "alarmctl health" to tell.
 SOUND = pathlib.Path(FOLDER.name) / "no-sound"
 
 
@@ -38,7 +38,8 @@ class Household:
             os.environ, HOME=folder, XDG_DATA_HOME=f"{folder}/data", XDG_CONFIG_HOME=f"{folder}/config",
             XDG_CACHE_HOME=f"{folder}/cache", XDG_RUNTIME_DIR=f"{folder}/run", TIMED_BOOT_FOLDER=f"{folder}/boot",
             XDG_DATA_DIRS=f"{BUILD}/share:/usr/share", PATH=f"{BUILD}/bin:{os.environ['PATH']}",
-            RINGER_PLUGIN_DIR=f"{BUILD}/lib/ringer", PULSE_SERVER=f"unix:{SOUND}", LC_ALL="C.UTF-8",
+            RINGER_PLUGIN_DIR=f"{BUILD}/lib/ringer", PULSE_SERVER=f"unix:{SOUND}", ALSA_CONFIG_PATH="/dev/null",
+            LC_ALL="C.UTF-8",
             # The alarms of the pages, set for the early morning, are not to ring meanwhile.
             TZ="Asia/Tokyo" if 5 <= time.gmtime().tm_hour < 12 else "UTC", PYTHONDONTWRITEBYTECODE="1")
         for name in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"):
