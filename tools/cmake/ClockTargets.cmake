@@ -39,6 +39,13 @@ if(CMAKE_BUILD_TYPE STREQUAL "Debug" AND GOLD_PROGRAM)
     add_link_options(-fuse-ld=gold)
 endif()
 
+# Counts which lines run; tools/coverage.py reads the counts.
+option(CLOCK_COVERAGE "Count the lines that run" OFF)
+if(CLOCK_COVERAGE)
+    target_compile_options(clock-flags INTERFACE --coverage -fprofile-update=atomic)
+    target_link_options(clock-flags INTERFACE --coverage)
+endif()
+
 # Debug builds read the headers of Qt and of the standard library from one precompiled file, which halves their time.
 # The release build does without, so that a missing #include is seen there.
 option(CLOCK_PRECOMPILE "Precompile the headers of Qt and of the standard library" OFF)

@@ -1,0 +1,63 @@
+#!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The Clock authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+"""coverage.py BUILD-FOLDER: how many of our lines the last test run in BUILD-FOLDER went through, folder by folder.
+
+The build has counted them (-DCLOCK_COVERAGE=ON); gcovr reads the counts. Ends with status 1 where the application or
+the platform has fallen below its share.
+"""
+
+import collections
+import json
+import os
+import pathlib
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+APPLICATION = ("app", "mainview", "alarms", "alarmlist", "editor", "backup")
+# Percent of the lines: of the application's folders together, and of the platform's.
+GOALS = {"application": 90, "platform": 85}
+
+
+def counted(build):
+    """Every source file of ours with its lines that could run and those that did, as (file, lines, run)."""
+    folders = [build / name for name in (*APPLICATION, "platform", "alarmctl")]
+    command = ["gcovr", "--root", str(ROOT), "--filter", f"{ROOT}/({'|'.join((*APPLICATION, 'platform', 'alarmctl'))})/",
+               "-j", str(os.cpu_count()), "--json-summary", "-", *map(str, folders)]
+    report = subprocess.run(command, cwd=build, capture_output=True, text=True, check=False)
+    if report.returncode != 0:
+        sys.exit(report.stderr)
+    return [(file["filename"], file["line_total"], file["line_covered"])
+            for file in json.loads(report.stdout)["files"]]
+
+
+def folder_of(name):
+    parts = pathlib.Path(name).parts
+    return "/".join(parts[:2]) if parts[0] == "platform" else parts[0]
+
+
+def main():
+    build = pathlib.Path(sys.argv[1]).resolve()
+    folders = collections.defaultdict(lambda: [0, 0])
+    houses = collections.defaultdict(lambda: [0, 0])
+    for name, lines, run in counted(build):
+        folder = folder_of(name)
+        house = "application" if folder in APPLICATION else folder.split("/")[0]
+        for sums in (folders[folder], houses[house]):
+            sums[0] += lines
+            sums[1] += run
+    if not folders:
+        sys.exit("no counts: was the build configured with -DCLOCK_COVERAGE=ON, and has a test run?")
+    for folder, (lines, run) in sorted(folders.items()):
+        print(f"{100 * run / lines:6.1f} %  {run:6} of {lines:6}  {folder}")
+    low = False
+    for house, (lines, run) in sorted(houses.items()):
+        goal = GOALS.get(house, 0)
+        low = low or 100 * run < goal * lines
+        print(f"{100 * run / lines:6.1f} %  {house}" + (f" (at least {goal} %)" if goal else ""))
+    sys.exit(1 if low else 0)
+
+
+if __name__ == "__main__":
+    main()
