@@ -28,6 +28,7 @@ class RunAs(NamedTuple):
 NOT_RUN = [
     NotRun(r"\./test", "it runs this test", ".ci/run"),
     NotRun(r"tools/lint\.sh", "takes minutes, and ./test runs it before the tests", "test"),
+    NotRun(r"tools/coverage\.py build/dev", "counts what the run it is part of went through", "test"),
     NotRun(r"tools/campaign", "takes twelve minutes", "tools/campaign", "campaign/kills.py"),
     NotRun(r"tools/package", "takes a build", "tools/bareroot"),
     NotRun(r"tools/bareroot", "needs root, package sources and half an hour", ""),
