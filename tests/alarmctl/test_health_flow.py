@@ -7,8 +7,8 @@ daemon and ringer on a bus of their own, with and without a sound server.
     test_health_flow.py BUILD-FOLDER
 """
 import json
-import re
 import pathlib
+import re
 import sys
 import tempfile
 import time
