@@ -31,7 +31,7 @@ NOT_RUN = [
     NotRun(r"tools/coverage\.py build/dev", "counts what the run it is part of went through", "test"),
     NotRun(r"tools/campaign", "takes twelve minutes", "tools/campaign", "campaign/kills.py"),
     NotRun(r"tools/package", "takes a build", "tools/bareroot"),
-    NotRun(r"tools/bareroot", "needs root, package sources and half an hour", ""),
+    NotRun(r"tools/bareroot", "needs root and package sources, and builds everything anew", ""),
     NotRun(r"sudo apt-get install .*", "installs", "packaging/trial/trial", "apt-get install -y"),
     NotRun(r"sudo apt-get purge clock", "removes", "packaging/trial/trial", "apt-get purge -y -qq clock"),
     NotRun(r"sudo setcap .*", "needs root", "packaging/debian/postinst.in", "setcap cap_wake_alarm=ep /usr/bin/timed"),
