@@ -32,9 +32,10 @@ NOT_RUN = [
     NotRun(r"tools/campaign", "takes twelve minutes", "tools/campaign", "campaign/kills.py"),
     NotRun(r"tools/package", "takes a build", "tools/bareroot"),
     NotRun(r"tools/bareroot", "needs root and package sources, and builds everything anew", ""),
-    NotRun(r"sudo apt-get install .*", "installs", "packaging/trial/trial", "apt-get install -y"),
-    NotRun(r"sudo apt-get purge clock", "removes", "packaging/trial/trial", "apt-get purge -y -qq clock"),
-    NotRun(r"sudo setcap .*", "needs root", "packaging/debian/postinst.in", "setcap cap_wake_alarm=ep /usr/bin/timed"),
+    NotRun(r"sudo apt-get install .*", "installs", "tools/packaging/trial/trial", "apt-get install -y"),
+    NotRun(r"sudo apt-get purge clock", "removes", "tools/packaging/trial/trial", "apt-get purge -y -qq clock"),
+    NotRun(r"sudo setcap .*", "needs root", "tools/packaging/debian/postinst.in",
+           "setcap cap_wake_alarm=ep /usr/bin/timed"),
     NotRun(r"bench/peers/peers\.py.*", "needs another clock, from the package gnome-clocks", ""),
     NotRun(r"kill -9", "a way to go, not something to type", "tests/timed/campaign/kills.py", "daemon.kill()"),
 ]

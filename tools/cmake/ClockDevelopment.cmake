@@ -31,7 +31,7 @@ function(clock_public name)
     clock_headers(${headers} ${arg_PRIVATE_HEADERS})
 
     list(JOIN arg_REQUIRES ", " requires)
-    configure_file(${PROJECT_SOURCE_DIR}/packaging/clock.pc.in clock-${name}.pc @ONLY)
+    configure_file(${PROJECT_SOURCE_DIR}/tools/packaging/clock.pc.in clock-${name}.pc @ONLY)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/clock-${name}.pc DESTINATION ${CLOCK_PC_DIR} COMPONENT dev)
 endfunction()
 
@@ -43,7 +43,7 @@ endfunction()
 # clock_cmake_package(): what find_package(Clock) reads; after the last clock_public().
 function(clock_cmake_package)
     install(EXPORT Clock NAMESPACE Clock:: FILE ClockTargets.cmake DESTINATION ${CLOCK_CMAKE_DIR} COMPONENT dev)
-    configure_file(${PROJECT_SOURCE_DIR}/packaging/ClockConfig.cmake.in ClockConfig.cmake COPYONLY)
+    configure_file(${PROJECT_SOURCE_DIR}/tools/packaging/ClockConfig.cmake.in ClockConfig.cmake COPYONLY)
     # No promise of compatibility before the first 1.0.
     write_basic_package_version_file(ClockConfigVersion.cmake COMPATIBILITY SameMinorVersion)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ClockConfig.cmake ${CMAKE_CURRENT_BINARY_DIR}/ClockConfigVersion.cmake
