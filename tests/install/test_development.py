@@ -35,7 +35,8 @@ class Development(StagedCase):
         include = self.stage / "include/clock"
         headers.write_text("".join(f"#include <{path.relative_to(include)}>\n" for path in sorted(include.rglob("*.h"))))
         program = self.folder / "example-pc"
-        run("c++", "-std=c++20", "-fPIC", "-include", headers, EXAMPLE / "main.cpp", "-o", program, *shlex.split(flags))
+        run("c++", "-std=c++20", "-fPIC", "-include", headers, EXAMPLE / "main.cpp", "-o", program, *shlex.split(flags),
+            *shlex.split(os.environ.get("LDFLAGS", "")))
         self.check(program)
 
 
