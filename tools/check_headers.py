@@ -32,11 +32,12 @@ def common_flags(build):
                 next(words)
             elif word == "-isystem":
                 paths[("-isystem", next(words))] = None
-            elif word.startswith("-I"):
+            elif word.startswith("-I") and not word.endswith("_autogen/include"):
+                # No header comes from moc's folders, and to look through those of all targets takes longer than the rest.
                 paths[("-isystem", word[2:])] = None
             elif word.startswith("-D"):
                 definitions.setdefault(word.split("=")[0], word)
-            else:
+            elif not word.startswith("-I"):
                 flags.append(word)
     # One library does without Qt's keywords beside GLib; the headers of the others use them.
     definitions.pop("-DQT_NO_KEYWORDS", None)

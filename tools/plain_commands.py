@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Clock authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 """plain_commands.py BUILD-FOLDER: writes BUILD-FOLDER/plain/compile_commands.json, the build's own without the
-precompiled header, for the checks that read the sources another way than the compiler of the build.
+precompiled header and the count of lines, for the checks that read the sources another way than the compiler of the
+build.
 """
 
 import json
@@ -12,7 +13,7 @@ import sys
 
 
 def plain(command):
-    """The command without launcher, precompiled header and what goes with that."""
+    """The command without launcher, precompiled header, count of lines, and what goes with them."""
     words = shlex.split(command)
     compiler = next(place for place, word in enumerate(words) if word.endswith(("/c++", "/g++")))
     kept = []
@@ -20,7 +21,7 @@ def plain(command):
     for word in rest:
         if word == "-include":
             next(rest)
-        elif word not in ("-Winvalid-pch", "-fpch-preprocess"):
+        elif word not in ("-Winvalid-pch", "-fpch-preprocess", "--coverage", "-fprofile-update=atomic"):
             kept.append(word)
     return shlex.join(kept)
 
