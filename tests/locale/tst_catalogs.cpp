@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/locale/locale.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QEvent>
 #include <QFile>
@@ -147,7 +148,7 @@ void tst_Catalogs::installingTwiceChangesNothing()
 {
     Locale::setDefault(withPlanets("de_DE"));
     LanguageChanges changes;
-    qApp->installEventFilter(&changes);
+    QCoreApplication::instance()->installEventFilter(&changes);
     QVERIFY(Locale::getDefault().installTrCatalog(u"planets"_qs));
     Locale::setDefault(withPlanets("de_DE"));
     QCoreApplication::sendPostedEvents();
