@@ -4,7 +4,6 @@
 
 #include <QAccessible>
 #include <QAction>
-#include <QApplication>
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDBusConnection>
@@ -22,7 +21,6 @@
 #include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
 #include <QGraphicsWidget>
-#include <QGuiApplication>
 #include <QHash>
 #include <QKeyEvent>
 #include <QLineEdit>
