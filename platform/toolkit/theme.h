@@ -56,7 +56,8 @@ public:
     qreal textScale() const { return m_textScale; }
     void setTextScale(qreal factor);
 
-    /** The style of a widget. An unknown style name is as if none was given, and is warned about once. */
+    /** The style of a widget; inverted, the dark variant's. An unknown style name is as if none was given, and is warned
+     * about once. */
     std::shared_ptr<const Style> style(const QString &styleName, const QString &objectName, const QMetaObject *type,
                                        bool inverted = false);
     /** Also by "#objectName" and "StyleName#objectName". */
@@ -81,7 +82,7 @@ private:
 
     std::shared_ptr<const Style> resolve(const QStringList &rules, bool inverted) const;
     void applyRule(Style &style, const QString &name, bool inverted, int depth) const;
-    bool isDark(bool inverted) const { return (m_variant == Variant::Dark) != inverted; }
+    bool isDark(bool inverted) const { return m_variant == Variant::Dark || inverted; }
     void announce();
     void warnUnknown(const QString &styleName) const;
 

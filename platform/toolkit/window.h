@@ -34,7 +34,7 @@ public:
     /** A name that ends in "Inverted" inverts the window as well. */
     void setStyleName(const QString &styleName);
 
-    /** Shows the contents in the colours of the other theme variant. */
+    /** Shows the contents in the colours of the dark variant. Who sits in the dark is never dazzled by it. */
     bool isInverted() const { return m_isInverted; }
     void setInverted(bool isInverted);
 
