@@ -20,14 +20,14 @@ QVariant column(const QModelIndex &index, int number)
 
 AlarmListItem::ItemStyle styleFor(const QString &repeatText)
 {
-    return static_cast<AlarmListItem::ItemStyle>(repeatText.isEmpty() ? 0 : 1);
+    return repeatText.isEmpty() ? AlarmListItem::OneLine : AlarmListItem::WithRepeatLine;
 }
 
 } // namespace
 
 AlarmListCreator::AlarmListCreator(AlarmsWidget *alarmsWidget)
     : m_alarmsWidget(alarmsWidget)
-    , m_pattern(std::make_unique<AlarmListItem>(styleFor(QString())))
+    , m_pattern(std::make_unique<AlarmListItem>(AlarmListItem::OneLine))
 { }
 
 AlarmListCreator::~AlarmListCreator() = default;
@@ -41,7 +41,7 @@ Touch::Widget *AlarmListCreator::createCell(const QModelIndex &index, Touch::Wid
 {
     auto *cell = dynamic_cast<AlarmListItem *>(recycler.take("AlarmListItem"));
     if (!cell) {
-        cell = new AlarmListItem(styleFor(QString()), nullptr);
+        cell = new AlarmListItem(AlarmListItem::OneLine);
         QObject::connect(cell, &AlarmListItem::clicked, m_alarmsWidget, &AlarmsWidget::alarmClicked);
         QObject::connect(cell, &AlarmListItem::alarmStateChanged, m_alarmsWidget, &AlarmsWidget::alarmStateChanged);
         addDeleteAction(cell);

@@ -6,9 +6,9 @@
 #include "alarmlist/alarmslistmodel.h"
 #include "alarmlist/emptylisthint.h"
 #include "alarmlist/notices/spacers.h"
+#include "alarmlist/rowtexts.h"
 #include "alarms/qmalarm.h"
 #include "alarms/utility.h"
-#include "editor/repeatsummary.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/gridlayoutpolicy.h"
 #include "platform/toolkit/label.h"
@@ -19,31 +19,9 @@
 #include "platform/toolkit/separator.h"
 
 #include <QDebug>
-#include <QTime>
 
 using Clock::QmAlarm;
-using Clock::QmAlarmEvent;
 using Clock::Utility;
-
-namespace {
-
-QString numberText(qint64 number)
-{
-    return QStringLiteral("%1").arg(number);
-}
-
-QStringList rowTexts(const QmAlarmEvent &alarm)
-{
-    return {numberText(alarm.cookie()),
-            alarm.alarmTime().toString("hh:mm"),
-            alarm.title(),
-            numberText(alarm.isEnabled() ? 1 : 0),
-            alarm.tone(),
-            repeatSummary(alarm.isRecurring(), alarm.repeatDays()),
-            numberText(alarm.snooze())};
-}
-
-} // namespace
 
 AlarmsWidget::AlarmsWidget(QGraphicsItem *parent, Touch::PannableViewport *viewport)
     : Touch::Widget(parent)
@@ -151,6 +129,7 @@ void AlarmsWidget::updateContent()
         else
             removeSurplusRow();
         setPannable(!m_alarms.isEmpty());
+        showHintIfEmpty();
     }
     qDebug() << signature << "exited";
 }
@@ -169,7 +148,7 @@ void AlarmsWidget::addMissingRow()
     for (int row = 0; row < m_alarms.size(); ++row) {
         if (isFirstLoad) {
             insertAlarm(row);
-        } else if (cookieText(row) != numberText(m_alarms.at(row).cookie())) {
+        } else if (!isRowOfAlarm(row)) {
             insertAlarm(row);
             break;
         }
@@ -179,7 +158,7 @@ void AlarmsWidget::addMissingRow()
 void AlarmsWidget::removeSurplusRow()
 {
     int row = 0;
-    while (row < m_alarms.size() && cookieText(row) == numberText(m_alarms.at(row).cookie()))
+    while (row < m_alarms.size() && isRowOfAlarm(row))
         ++row;
     m_model->removeRow(row);
 }
@@ -197,14 +176,19 @@ void AlarmsWidget::writeRow(int row)
         m_model->setData(m_model->index(row, column), texts.at(column), Qt::EditRole);
 }
 
-QString AlarmsWidget::cookieText(int row) const
+bool AlarmsWidget::isRowOfAlarm(int row) const
 {
-    return m_model->data(m_model->index(row, 0), Qt::DisplayRole).toString();
+    // Past the last row the text is empty, and so no alarm's.
+    return m_model->data(m_model->index(row, 0), Qt::DisplayRole).toString() == cookieText(m_alarms.at(row).cookie());
 }
 
 void AlarmsWidget::setPannable(bool isPannable)
 {
     m_viewport->setPanDirection(isPannable ? Qt::Orientations(Qt::Vertical) : Qt::Orientations());
+}
+
+void AlarmsWidget::showHintIfEmpty()
+{
     m_emptyHint->setVisible(m_alarms.isEmpty());
 }
 

@@ -63,16 +63,20 @@ private:
     void removeSurplusRow();
     void insertAlarm(int row);
     void writeRow(int row);
-    QString cookieText(int row) const;
+    /** Whether a row of the model already shows the alarm that belongs there. */
+    bool isRowOfAlarm(int row) const;
     /** Tells when the alarm just switched on rings, or switches it off again where that is not at its time. */
     void verifySwitchedAlarm();
     void showTimeLeft();
     /** The cell of the alarm just switched on; null once it stands for another alarm, or is gone. */
     AlarmListItem *switchedItem() const;
+    /** Gives the cell its alarm's new cookie, and keeps it in mind when that was switched on. */
+    void rememberSwitch(AlarmListItem *listItem, bool isOn);
     int indexOfAlarm(quint32 cookie) const;
     void setColumn(int row, const QString &name, const QString &text);
     void removeAlarm(int position);
     void setPannable(bool isPannable);
+    void showHintIfEmpty();
     void placeEmptyHint();
 
     AlarmsListModel *m_model;
@@ -86,10 +90,10 @@ private:
     bool m_switchInProgress = false;     ///< the next change is the echo of a switch made here
     QList<Clock::QmAlarmEvent> m_alarms; ///< row i of the model shows record i
     Touch::PannableViewport *m_viewport;
-    bool m_justEnabled = false;        ///< the next change is that of an alarm switched on here
-    bool m_brokenAlarmPending = false; ///< it was switched off again and waits for the editor
-    QPointer<AlarmListItem> m_switchedItem;
-    long m_switchedCookie = -1; ///< what it was of then, and has become by other switches since
+    bool m_justEnabled = false;             ///< the next change is that of an alarm switched on here
+    bool m_brokenAlarmPending = false;      ///< it was switched off again and waits for the editor
+    QPointer<AlarmListItem> m_switchedItem; ///< the cell of the alarm just switched on
+    long m_switchedCookie = -1;             ///< that alarm's cookie by now
 
     // Built once.
     Touch::Widget *m_headerPanel = nullptr;

@@ -4,6 +4,7 @@
 
 #include "alarmlist/alarmslistmodel.h"
 #include "alarmlist/notices/informationbanner.h"
+#include "alarmlist/rowtexts.h"
 #include "alarms/qmalarm.h"
 #include "alarms/utility.h"
 #include "app/settings.h"
@@ -19,11 +20,6 @@ using Clock::QmAlarmEvent;
 using Clock::Utility;
 
 namespace {
-
-QString statusText(bool isEnabled)
-{
-    return QStringLiteral("%1").arg(isEnabled ? 1 : 0);
-}
 
 SettingAlarmPage *shownEditor()
 {
@@ -116,8 +112,8 @@ void AlarmsWidget::invertAlarmState(AlarmListItem *listItem)
 {
     m_switchInProgress = true;
     const auto cookie = static_cast<quint32>(listItem->alarmCookie());
-    const QModelIndexList rows = m_model->match(m_model->index(0, 0), Qt::DisplayRole, QStringLiteral("%1").arg(cookie),
-                                                1, Qt::MatchStartsWith | Qt::MatchWrap);
+    const QModelIndexList rows = m_model->match(m_model->index(0, 0), Qt::DisplayRole, cookieText(cookie), 1,
+                                                Qt::MatchStartsWith | Qt::MatchWrap);
     const int position = indexOfAlarm(cookie);
     QmAlarmEvent record = inverted(position < 0 ? QmAlarmEvent() : m_alarms.at(position));
     const quint32 newCookie = QmAlarm().replace(record, cookie);
@@ -130,19 +126,25 @@ void AlarmsWidget::invertAlarmState(AlarmListItem *listItem)
     }
 
     record.setCookie(newCookie);
-    listItem->setAlarmCookie(static_cast<long>(newCookie));
+    rememberSwitch(listItem, record.isEnabled());
     if (position >= 0)
         m_alarms[position] = record;
-    if (record.isEnabled()) {
+    if (rows.size() == 1) {
+        setColumn(rows.first().row(), "AlarmStatus", statusText(record.isEnabled()));
+        setColumn(rows.first().row(), "AlarmCookie", cookieText(newCookie));
+    }
+}
+
+void AlarmsWidget::rememberSwitch(AlarmListItem *listItem, bool isOn)
+{
+    const bool isRemembered = listItem->alarmCookie() == m_switchedCookie;
+    listItem->setAlarmCookie(m_lastCookie);
+    if (isOn) {
         m_switchedItem = listItem;
         m_justEnabled = true;
     }
-    if (record.isEnabled() || m_switchedCookie == long(cookie))
+    if (isOn || isRemembered)
         m_switchedCookie = m_lastCookie;
-    if (rows.size() == 1) {
-        setColumn(rows.first().row(), "AlarmStatus", statusText(record.isEnabled()));
-        setColumn(rows.first().row(), "AlarmCookie", QStringLiteral("%1").arg(newCookie));
-    }
 }
 
 int AlarmsWidget::indexOfAlarm(quint32 cookie) const
@@ -188,8 +190,10 @@ void AlarmsWidget::deleteAlarm()
     if (!QmAlarmEvent(cookie).isEnabled())
         removeAlarm(indexOfAlarm(cookie));
     bool failed = false;
-    if (QmAlarm().query(failed).isEmpty() && !failed)
+    if (QmAlarm().query(failed).isEmpty() && !failed) {
         setPannable(false);
+        showHintIfEmpty();
+    }
 }
 
 void AlarmsWidget::removeAlarm(int position)
