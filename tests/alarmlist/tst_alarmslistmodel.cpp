@@ -37,6 +37,7 @@ private slots:
     void manyRowsAreInsertedWithoutAnimation();
     void everyCellOfNewRowsIsEmptyAndTellsOfItsFillingOnce();
     void insertingRunsUpToTheCountItself();
+    void removingRunsUpToTheCountItself();
     void theWholeTableIsEmptiedWithoutAnimation();
     void nothingToDoIsNotAnnounced();
     void rowOperationsLogTheirSignatures_data();
@@ -200,6 +201,17 @@ void TestAlarmsListModel::insertingRunsUpToTheCountItself()
     QVERIFY(model.insertRows(1, 2));
     // From 1 while below 2: one row, at position 2.
     QCOMPARE(firstColumn(model), (QStringList{"7", "8", ""}));
+}
+
+void TestAlarmsListModel::removingRunsUpToTheCountItself()
+{
+    AlarmsListModel model;
+    fill(model, {"7", "8", "9"});
+    const Announcements announcements(&model);
+    QVERIFY(model.removeRows(1, 2));
+    // From 1 while below 2: one row, though two are announced.
+    QCOMPARE(announcements.words, QStringList{"- 1 2 plain"});
+    QCOMPARE(firstColumn(model), (QStringList{"7", "9"}));
 }
 
 void TestAlarmsListModel::theWholeTableIsEmptiedWithoutAnimation()

@@ -65,7 +65,9 @@ void TestAlarmsWidget::theFirstNotificationFillsTheList()
 {
     // Nothing triggers, yet the first value of the empty map fills the list.
     addSwitchedOffAlarm(QTime(6, 0));
+    const Support::LogCapture log;
     m_section.openAtOnce();
+    QVERIFY2(log.lines().filter("subscribeToContextFramework").isEmpty(), "the first section follows the triggers");
     QVERIFY2(m_section.model()->rowCount() == 1, "a section made later knows the triggers and waits for nothing");
     QCOMPARE(m_section.column(3), QStringList{"0"});
 }

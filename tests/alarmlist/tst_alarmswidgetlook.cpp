@@ -3,6 +3,7 @@
 #include "alarmlist/alarmswidget.h"
 
 #include "alarmlist/alarmlistcreator.h"
+#include "alarms/qmalarm.h"
 #include "alarms/qmalarmevent.h"
 #include "editor/settingalarmpage.h"
 #include "platform/clockwidgets/alarmlistitem.h"
@@ -20,6 +21,7 @@
 
 #include <QMetaMethod>
 #include <QPointer>
+#include <QTemporaryFile>
 #include <QTest>
 
 using Clock::QmAlarmEvent;
@@ -39,6 +41,7 @@ private slots:
     void theListOnlyShowsAlarms();
     void theSlotsKeepTheirOrder();
     void aTappedRowIsLoadedIntoTheEditor();
+    void itsToneAndSnoozeAreLoadedToo();
     void theNewAlarmButtonOpensTheEditor();
     void theEditorOutlivesTheSection();
     void fiveHundredAlarmsNeedFewCells();
@@ -144,6 +147,24 @@ void TestAlarmsWidgetLook::aTappedRowIsLoadedIntoTheEditor()
     QCOMPARE(Support::itemIn<TimePicker>(editor)->hours(), 7);
     QCOMPARE(Support::itemIn<TimePicker>(editor)->minutes(), 5);
     QCOMPARE(Support::itemIn<Touch::TextEdit>(editor)->text(), "Tea");
+}
+
+void TestAlarmsWidgetLook::itsToneAndSnoozeAreLoadedToo()
+{
+    QTemporaryFile tone;
+    QVERIFY(tone.open());
+    QmAlarmEvent alarm = Support::alarmAt(QTime(7, 5));
+    alarm.setTone(tone.fileName());
+    alarm.setSnooze(25);
+    const quint32 cookie = Clock::QmAlarm().add(alarm);
+    QTRY_VERIFY(m_section.cell(0));
+    emit m_section.cell(0)->clicked();
+    SettingAlarmPage *editor = SettingAlarmPage::instance();
+    editor->saveAlarm();
+    QVERIFY(editor->getAlarmCookie() != cookie);
+    const QmAlarmEvent saved(editor->getAlarmCookie());
+    QCOMPARE(saved.tone(), tone.fileName());
+    QCOMPARE(saved.snooze(), 25);
 }
 
 void TestAlarmsWidgetLook::theNewAlarmButtonOpensTheEditor()

@@ -30,6 +30,8 @@ private slots:
     void switchingKeepsTheRowAndGivesItTheNewCookie();
     void theStatusIsWrittenBeforeTheCookie();
     void aPassedOneTimeAlarmIsSwitchedOnForItsNextTime();
+    void newsOfAnotherAlarmAreTakenForTheAnswer();
+    void anAlarmIsSwitchedOnAndOffAndOnAgain();
     void aFailedSwitchIsTakenBack();
     void aFailedSwitchChangesNothingElse();
     void anAlarmThatIsNotListedLeavesTheModelAlone();
@@ -114,6 +116,38 @@ void TestAlarmSwitching::aPassedOneTimeAlarmIsSwitchedOnForItsNextTime()
     QCOMPARE(next.time(), passed);
     QVERIFY(next > now && now.secsTo(next) <= 24 * 60 * 60);
     QTRY_VERIFY(!m_section.shownBanner().isEmpty());
+}
+
+void TestAlarmSwitching::newsOfAnotherAlarmAreTakenForTheAnswer()
+{
+    addSwitchedOffAlarm(QTime(5, 0));
+    m_section.widget()->updateContent();
+    QTRY_VERIFY(m_section.cell(0));
+    const Support::LogCapture log;
+    AlarmSection::flip(m_section.cell(0));
+    // Before the daemon has told of the alarm: there is no trigger yet whose time could be shown.
+    emit Utility::instance()->valueChanged();
+    QVERIFY(log.lines().filter("AlarmsWidget::updateContent").isEmpty());
+    // What the daemon tells then is a change like any other.
+    QTRY_COMPARE(log.lines().filter("void AlarmsWidget::updateContent() exited").size(), 1);
+    QVERIFY(log.lines().filter("timeLeftForAlarmToTrigger").isEmpty());
+    QCOMPARE(m_section.column(3), QStringList{"1"});
+}
+
+void TestAlarmSwitching::anAlarmIsSwitchedOnAndOffAndOnAgain()
+{
+    addSwitchedOffAlarm(QTime(5, 0), "Tea", {1, 2, 3});
+    m_section.widget()->updateContent();
+    QTRY_VERIFY(m_section.cell(0));
+    AlarmListItem *cell = m_section.cell(0);
+    for (const bool isOn : {true, false, true}) {
+        AlarmSection::flip(cell);
+        const QmAlarmEvent stored(m_section.column(0).first().toUInt());
+        QCOMPARE(stored.isEnabled(), isOn);
+        QCOMPARE(stored.title(), "Tea");
+        QCOMPARE(stored.repeatDays(), (QList<int>{1, 2, 3}));
+    }
+    QVERIFY(Support::waitForTrigger(quint32(cell->alarmCookie())));
 }
 
 void TestAlarmSwitching::aFailedSwitchIsTakenBack()

@@ -33,6 +33,8 @@ private slots:
     void everyNotificationDoesOneStep();
     void anAlarmBesideTheGapIsNotTouched();
     void whereItCannotBeSwitchedOffAgainTheDialogOpensAllTheSame();
+    void aCellOfAnotherAlarmByThenIsLeftAlone();
+    void withNothingSwitchedOnThereIsNothingToFix();
 
 private:
     Touch::MessageBox *dialog() const;
@@ -135,6 +137,38 @@ void TestBrokenAlarm::whereItCannotBeSwitchedOffAgainTheDialogOpensAllTheSame()
     const quint32 cookie = m_section.column(0).first().toUInt();
     QCOMPARE(SettingAlarmPage::instance()->getAlarmCookie(), cookie);
     QVERIFY(QmAlarmEvent(cookie).isEnabled());
+}
+
+void TestBrokenAlarm::aCellOfAnotherAlarmByThenIsLeftAlone()
+{
+    AlarmListItem *cell = nullptr;
+    const quint32 other = addSwitchedOffAlarm(QTime(12, 0));
+    // Heard before the section, as if the row had been panned away when the daemon answers.
+    const QObject finger;
+    connect(Utility::instance(), &Utility::valueChanged, &finger, [&cell, other] {
+        if (cell)
+            cell->setAlarmCookie(other);
+    });
+    addSwitchedOffAlarm(m_skipped);
+    m_section.openAtOnce();
+    QTRY_VERIFY(m_section.cell(0) && m_section.cell(1));
+    cell = m_section.cell(m_section.column(0).first().toUInt() == other ? 1 : 0);
+    const Support::LogCapture log;
+    AlarmSection::flip(cell);
+    QTRY_COMPARE(log.lines().filter("AlarmsWidget::onValueChanged").size(), 1);
+    cell = nullptr;
+    QCOMPARE(log.lines().filter("timeLeftForAlarmToTrigger").size(), 1);
+    QVERIFY(!QmAlarmEvent(other).isEnabled());
+    QVERIFY(Support::waitForChanges());
+    QVERIFY(!dialog());
+}
+
+void TestBrokenAlarm::withNothingSwitchedOnThereIsNothingToFix()
+{
+    const quint32 before = SettingAlarmPage::instance()->getAlarmCookie();
+    m_section.widget()->fixTheBrokenAlarm();
+    QVERIFY(!dialog());
+    QCOMPARE(SettingAlarmPage::instance()->getAlarmCookie(), before);
 }
 
 QTEST_MAIN(TestBrokenAlarm)

@@ -8,6 +8,7 @@
 #include "tests/support/look/look.h"
 
 #include <QPointer>
+#include <QSignalSpy>
 #include <QTest>
 
 class TestNotices : public QObject
@@ -19,6 +20,7 @@ private slots:
     void hidingBeforeTheFirstNoticeDoesNothing();
     void aNoticeShowsItsTextOverTheActiveWindow();
     void aSecondNoticeTakesThePlaceOfTheFirst();
+    void aNoticeComesWhereTheUserIs();
     void aHiddenNoticeIsKeptForTheNextOne();
     void spacersAreNewAndWithoutParent();
     void styleNamesAreFixed();
@@ -66,11 +68,29 @@ void TestNotices::aNoticeShowsItsTextOverTheActiveWindow()
 
 void TestNotices::aSecondNoticeTakesThePlaceOfTheFirst()
 {
-    const Touch::Banner *banner = banners().first();
+    Touch::Banner *banner = banners().first();
+    const QSignalSpy gone(banner, &Touch::Banner::disappeared);
     showInformationBanner("Second");
-    QCOMPARE(banners(), QList<Touch::Banner *>{const_cast<Touch::Banner *>(banner)});
+    QCOMPARE(gone.size(), 1);
+    QCOMPARE(banners(), QList<Touch::Banner *>{banner});
     QVERIFY(banner->isOnDisplay());
     QCOMPARE(banner->title(), "Second");
+}
+
+void TestNotices::aNoticeComesWhereTheUserIs()
+{
+    const Touch::Banner *banner = banners().first();
+    {
+        Touch::ApplicationWindow other;
+        other.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&other));
+        QTRY_COMPARE(Touch::Window::active(), &other);
+        showInformationBanner("Elsewhere");
+        QCOMPARE(banner->scene(), other.scene());
+        QVERIFY(banner->isOnDisplay());
+    }
+    showInformationBanner("Back");
+    QCOMPARE(banner->scene(), m_window.scene());
 }
 
 void TestNotices::aHiddenNoticeIsKeptForTheNextOne()
