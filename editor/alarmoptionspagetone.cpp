@@ -4,6 +4,7 @@
 
 #include "app/settings.h"
 #include "editor/alarmeditorlistitem.h"
+#include "editor/titlequery.h"
 #include "platform/clockwidgets/alerttone.h"
 #include "platform/clockwidgets/alerttonebrowsersheet.h"
 #include "platform/sparql/qsparqlquery.h"
@@ -11,17 +12,6 @@
 #include "platform/toolkit/applicationwindow.h"
 
 #include <QSignalBlocker>
-#include <QUrl>
-
-namespace {
-
-QString titleQuery(const QString &path)
-{
-    const QString address = QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
-    return "select nie:title(?u) ?u where { ?u a nmm:MusicPiece . ?u nie:url \"" + address + "\"}";
-}
-
-} // namespace
 
 void AlarmOptionsPage::askForTitle()
 {

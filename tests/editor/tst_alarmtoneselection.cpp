@@ -39,6 +39,7 @@ private slots:
     void aToneWithoutATitleIsNamedAfterItsFile();
     void theTitleIsAskedForEachTimeTheSheetAppears();
     void anAnsweredQuestionIsForgotten();
+    void aNewQuestionLeavesTheOneBeforeIt();
     void aStoreOutOfOrderLeavesTheNameOfTheFile();
     void shippedTonesAreFoundOnceTheirFolderIsRead();
     void theToneChosenIsTaken();
@@ -206,6 +207,17 @@ void TestAlarmToneSelection::anAnsweredQuestionIsForgotten()
     QCOMPARE(m_options->findChildren<QSparqlResult *>().size(), 1);
     QTRY_COMPARE(shownTone(), "Morning bell");
     QTRY_COMPARE(m_options->findChildren<QSparqlResult *>().size(), 0);
+}
+
+void TestAlarmToneSelection::aNewQuestionLeavesTheOneBeforeIt()
+{
+    m_options->load(Support::addAlarm(QTime(7, 5)), file("Morning_bell.aac"), 10);
+    m_options->appear();
+    m_options->cancel();
+    m_options->appear();
+    QCOMPARE(m_options->findChildren<QSparqlResult *>().size(), 2);
+    QTRY_COMPARE(m_options->findChildren<QSparqlResult *>().size(), 0);
+    QCOMPARE(shownTone(), "Morning bell");
 }
 
 void TestAlarmToneSelection::aStoreOutOfOrderLeavesTheNameOfTheFile()
