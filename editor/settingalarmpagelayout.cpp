@@ -75,7 +75,9 @@ void SettingAlarmPage::buildTimePicker()
     m_timePicker = new TimePicker(7, 0);
     m_timePicker->setStyleName("TimePickerStyle");
     m_timePicker->setObjectName("timePicker");
-    m_timePicker->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    m_timePicker->setSizePolicy(policy);
     connect(m_timePicker, &TimePicker::timeChanged, this, &SettingAlarmPage::timeChangedInTimePicker);
     connect(m_timePicker, &TimePicker::discPressed, this, &SettingAlarmPage::setStyle);
     connect(m_timePicker, &TimePicker::discReleased, this, &SettingAlarmPage::resetStyle);

@@ -92,6 +92,14 @@ void TimePicker::step(ClockHand hand, int steps)
         setMinutes(m_minutes + steps);
 }
 
+QSizeF TimePicker::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
+{
+    QSizeF size = Widget::sizeHint(which, constraint);
+    if (which == Qt::PreferredSize && constraint.width() >= 0)
+        size.setHeight(qBound(style().minimumSize.height(), constraint.width(), size.height()));
+    return size;
+}
+
 void TimePicker::changeHalf()
 {
     setHours(m_hours + 12);

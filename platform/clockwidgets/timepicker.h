@@ -54,6 +54,8 @@ Q_SIGNALS:
 protected:
     QString shownText() const override;
     void styleChanged() override;
+    /// A place that is narrower than the dial would be needs no more height than width.
+    QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
     void resizeEvent(QGraphicsSceneResizeEvent *event) override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;

@@ -23,6 +23,7 @@ private slots:
     void theFlagIsNotUsed();
     void cancelsAndSavesByItsHeader();
     void thePickerTakesTheWidth();
+    void aNarrowPickerIsNoHigherThanWide();
     void theTitleStandsAloneInItsRow();
     void theTimeTakesNoMoreThanItNeeds();
     void deletesByAButtonInAPanel();
@@ -111,6 +112,15 @@ void TestEditorConstruction::thePickerTakesTheWidth()
 {
     QCOMPARE(m_picker->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
     QCOMPARE(m_picker->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+}
+
+void TestEditorConstruction::aNarrowPickerIsNoHigherThanWide()
+{
+    load(QmAlarmEvent::NotStored);
+    m_window->resize(360, 640);
+    QTRY_COMPARE(m_picker->size(), QSizeF(360, 360));
+    m_window->resize(480, 854);
+    QTRY_COMPARE(m_picker->size(), QSizeF(480, 400));
 }
 
 void TestEditorConstruction::theTitleStandsAloneInItsRow()
