@@ -93,8 +93,7 @@ void AlarmOptionsPage::appear()
 void AlarmOptionsPage::resetContent()
 {
     qDebug() << "void AlarmOptionsPage::resetContent()";
-    if (m_snoozeComboBox)
-        m_snoozeComboBox->dismissPopup();
+    m_snoozeComboBox->dismissPopup();
     if (m_repeatingRules) {
         m_repeatingRules->dismiss();
         m_repeatingRules.clear();

@@ -91,9 +91,7 @@ void AlarmOptionsPage::buildContent()
     auto *column = new Touch::LinearLayoutPolicy(layout, Qt::Vertical);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    for (Touch::Widget *row :
-         {static_cast<Touch::Widget *>(header), static_cast<Touch::Widget *>(m_repeatItem),
-          static_cast<Touch::Widget *>(m_snoozeComboBox), static_cast<Touch::Widget *>(m_toneItem)})
+    for (Touch::Widget *row : QList<Touch::Widget *>{header, m_repeatItem, m_snoozeComboBox, m_toneItem})
         column->addItem(row);
     column->addStretch();
     layout->setPolicy(column);

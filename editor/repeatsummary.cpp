@@ -17,12 +17,12 @@ struct SharedTexts
 {
     Locale locale;
     Calendar calendar{locale};
-    QStringList names;
+    QStringList names = weekdayNames(locale, calendar);
 };
 
-SharedTexts &shared()
+const SharedTexts &shared()
 {
-    static SharedTexts texts;
+    static const SharedTexts texts;
     return texts;
 }
 
@@ -66,10 +66,7 @@ QStringList weekdayNames(const Locale &locale, const Calendar &calendar)
 
 const QStringList &weekdayNames()
 {
-    SharedTexts &texts = shared();
-    if (texts.names.isEmpty())
-        texts.names = weekdayNames(texts.locale, texts.calendar);
-    return texts.names;
+    return shared().names;
 }
 
 int firstDayOfWeek()

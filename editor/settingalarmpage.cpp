@@ -128,11 +128,12 @@ void SettingAlarmPage::removeAlarm()
 
 void SettingAlarmPage::refreshAfterDeletion(bool wasEnabled)
 {
-    // The daemon publishes nothing when a switched-off alarm goes, so the list is told here.
+    // The daemon publishes nothing when a switched-off alarm goes, so the list is told here, unless there is a trigger
+    // even for the cookie of no alarm, which the sheet has by now.
     time_t trigger = 0;
     Utility *utility = Utility::instance();
-    const bool isStillPublished = isNewAlarm() && utility->triggerSecondsFromContext(m_cookie, trigger);
-    if (!wasEnabled && !isStillPublished)
+    const bool isPublished = utility->triggerSecondsFromContext(m_cookie, trigger);
+    if (!wasEnabled && !isPublished)
         utility->onValueChanged();
 }
 
