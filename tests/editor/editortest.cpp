@@ -8,9 +8,7 @@
 
 void EditorTest::startStage()
 {
-    qputenv("CLOCK_REDUCED_MOTION", "1");
     qputenv("LC_ALL", "en_GB.UTF-8");
-    QVERIFY(Support::loadLook());
     QVERIFY(m_bus.isRunning());
     QVERIFY(m_daemon.start());
     Utility::instance()->subscribeToContextFramework();
@@ -18,6 +16,13 @@ void EditorTest::startStage()
     m_tone = m_folder.filePath("tone.aac");
     QFile tone(m_tone);
     QVERIFY(tone.open(QIODevice::WriteOnly));
+    openWindow();
+}
+
+void EditorTest::openWindow()
+{
+    qputenv("CLOCK_REDUCED_MOTION", "1");
+    QVERIFY(Support::loadLook());
     m_window = std::make_unique<Touch::ApplicationWindow>();
     m_mainPage = std::make_unique<Touch::ApplicationPage>();
     m_mainPage->appear(m_window.get());

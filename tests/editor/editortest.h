@@ -31,6 +31,8 @@ class EditorTest : public QObject
 protected:
     /** Fails the test function it is called from if anything does not come up. */
     void startStage();
+    /** The window alone, for a test that brings a daemon of its own; startStage() opens it as well. */
+    void openWindow();
     /** A new editor in the window, without preferences. */
     void openPage();
     /** Takes the editor away, and every alarm. */

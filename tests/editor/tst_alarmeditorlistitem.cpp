@@ -3,6 +3,7 @@
 #include "editor/alarmeditorlistitem.h"
 
 #include "platform/toolkit/applicationwindow.h"
+#include "platform/toolkit/gridlayoutpolicy.h"
 #include "platform/toolkit/imagewidget.h"
 #include "platform/toolkit/label.h"
 #include "platform/toolkit/layout.h"
@@ -33,6 +34,7 @@ private slots:
     void moreOptionsHaveATitleAndAnArrow();
     void aValueStandsBelowItsTitle();
     void itsGridHasNoMarginsAndNoSpacing();
+    void everyPartHasItsCellOfTheGrid();
     void otherStylesStayEmpty_data();
     void otherStylesStayEmpty();
     void anEmptySubtitleKeepsTheHeight();
@@ -123,6 +125,32 @@ void TestAlarmEditorListItem::itsGridHasNoMarginsAndNoSpacing()
         // Two labels, the image, and below an empty place.
         QCOMPARE(layout->policy()->items().size(), itemStyle == 2 ? 2 : 4);
     }
+}
+
+void TestAlarmEditorListItem::everyPartHasItsCellOfTheGrid()
+{
+    using Cell = Touch::GridLayoutPolicy::Cell;
+    constexpr auto leftAndCentred = Qt::AlignLeft | Qt::AlignVCenter;
+    const auto gridOf = [](const AlarmEditorListItem *item) {
+        return dynamic_cast<Touch::GridLayoutPolicy *>(static_cast<Touch::Layout *>(item->layout())->policy());
+    };
+    const auto *row = place(new AlarmEditorListItem(AlarmEditorListItem::ItemStyle(2)));
+    const auto *grid = gridOf(row);
+    QVERIFY(grid);
+    QCOMPARE(grid->cellOf(row->titleLabel()), (Cell{0, 0, 1, 1, leftAndCentred}));
+    QCOMPARE(grid->cellOf(row->imageWidget()), (Cell{0, 1, 1, 1, Qt::AlignCenter}));
+
+    row = place(new AlarmEditorListItem(AlarmEditorListItem::ItemStyle(3)));
+    grid = gridOf(row);
+    QVERIFY(grid);
+    QCOMPARE(grid->cellOf(row->titleLabel()), (Cell{0, 0, 1, 1, leftAndCentred}));
+    QCOMPARE(grid->cellOf(row->subtitleLabel()), (Cell{1, 0, 1, 1, leftAndCentred}));
+    QCOMPARE(grid->cellOf(row->imageWidget()), (Cell{0, 1, 3, 1, Qt::AlignCenter}));
+    const QList<QGraphicsLayoutItem *> labelsAndImage{row->titleLabel(), row->subtitleLabel(), row->imageWidget()};
+    QList<QGraphicsLayoutItem *> others = grid->items();
+    others.removeIf([&](QGraphicsLayoutItem *item) { return labelsAndImage.contains(item); });
+    QCOMPARE(others.size(), 1);
+    QCOMPARE(grid->cellOf(others.first()), (Cell{2, 0, 1, 1, {}}));
 }
 
 void TestAlarmEditorListItem::otherStylesStayEmpty_data()

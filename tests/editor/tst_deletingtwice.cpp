@@ -3,7 +3,6 @@
 #include "platform/context/contextpublisher.h"
 #include "tests/alarms/fakedaemon.h"
 #include "tests/editor/editortest.h"
-#include "tests/support/look/look.h"
 
 /** What the editor does where the daemon does not answer both of its deletions alike. */
 class TestDeletingTwice : public EditorTest
@@ -24,17 +23,11 @@ private:
 
 void TestDeletingTwice::initTestCase()
 {
-    qputenv("CLOCK_REDUCED_MOTION", "1");
-    QVERIFY(Support::loadLook());
     QVERIFY(m_bus.isRunning());
     QVERIFY(m_fakeDaemon.isOnTheBus());
     // It has no trigger and no state, so it is read as switched off.
     m_fakeDaemon.setAttributes(7, {{"APPLICATION", "clock"}, {"alarmtime", "07:05"}, {"enabled", "1"}});
-    m_window = std::make_unique<Touch::ApplicationWindow>();
-    m_mainPage = std::make_unique<Touch::ApplicationPage>();
-    m_mainPage->appear(m_window.get());
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    openWindow();
 }
 
 void TestDeletingTwice::onlyTheSecondAnswerCounts_data()

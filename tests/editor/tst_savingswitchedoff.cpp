@@ -3,7 +3,6 @@
 #include "tests/alarms/fakedaemon.h"
 #include "tests/editor/editortest.h"
 #include "tests/support/logcapture.h"
-#include "tests/support/look/look.h"
 
 /** What the editor does where the daemon does not schedule what it was given. */
 class TestSavingSwitchedOff : public EditorTest
@@ -24,17 +23,11 @@ private:
 
 void TestSavingSwitchedOff::initTestCase()
 {
-    qputenv("CLOCK_REDUCED_MOTION", "1");
-    QVERIFY(Support::loadLook());
     QVERIFY(m_bus.isRunning());
     QVERIFY(m_fakeDaemon.isOnTheBus());
     // It has no trigger and no state, so it is read as switched off.
     m_fakeDaemon.setAttributes(1, {{"APPLICATION", "clock"}, {"alarmtime", "07:05"}, {"enabled", "1"}});
-    m_window = std::make_unique<Touch::ApplicationWindow>();
-    m_mainPage = std::make_unique<Touch::ApplicationPage>();
-    m_mainPage->appear(m_window.get());
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    openWindow();
 }
 
 void TestSavingSwitchedOff::closesAtOnceWithoutABanner()
@@ -66,6 +59,7 @@ void TestSavingSwitchedOff::aRefusedSaveIsToldAndClosesAtOnce()
     QVERIFY(!m_page->isOnDisplay());
     QCOMPARE(m_page->getAlarmCookie(), QmAlarmEvent::NotStored);
     QCOMPARE(shownBanner(), "qtn_cloc_alarm_save_error");
+    QVERIFY2(m_fakeDaemon.calls().endsWith("query_attributes"), "what is stored is read back all the same");
 }
 
 QTEST_MAIN(TestSavingSwitchedOff)

@@ -8,9 +8,22 @@
 
 #include <QDir>
 #include <QFile>
+#include <QInputMethod>
 #include <QMap>
 #include <QMetaMethod>
 #include <QStandardPaths>
+
+namespace {
+
+int hiddenKeyboards = 0;
+
+} // namespace
+
+// In the place of Qt's own, which has no keyboard to hide here.
+void QInputMethod::hide()
+{
+    ++hiddenKeyboards;
+}
 
 class TestSettingAlarmPage : public EditorTest
 {
@@ -41,7 +54,7 @@ private slots:
     void resettingDismisses();
     void everythingStandsInItsOrder();
     void itsPartsBearTheirNamesAndStyles();
-    void returnLeavesTheTitle();
+    void returnLeavesTheTitleAndItsKeyboard();
     void aNewTimeFormatShowsAtOnce();
     void itIsNamedForThoseWhoDoNotSeeIt();
     void theSlotsKeepTheirOrder();
@@ -311,13 +324,17 @@ void TestSettingAlarmPage::itsPartsBearTheirNamesAndStyles()
     QCOMPARE(lines, (QStringList{"AlarmEditorItemDivider", "CommonItemDivider", "CommonSpacer"}));
 }
 
-void TestSettingAlarmPage::returnLeavesTheTitle()
+void TestSettingAlarmPage::returnLeavesTheTitleAndItsKeyboard()
 {
     load(QmAlarmEvent::NotStored);
     m_title->setFocus();
     QVERIFY(m_title->hasFocus());
     emit m_title->returnPressed();
     QVERIFY(!m_title->hasFocus());
+    // Qt hides the keyboard of what loses the focus as well; this time nothing does.
+    const int before = hiddenKeyboards;
+    emit m_title->returnPressed();
+    QCOMPARE(hiddenKeyboards - before, 1);
 }
 
 void TestSettingAlarmPage::aNewTimeFormatShowsAtOnce()

@@ -62,10 +62,11 @@ void TestSummerTimeQuestion::saveAnExistingAlarm()
 void TestSummerTimeQuestion::noEarlierAlarmComesBack_data()
 {
     QTest::addColumn<std::function<void(Touch::MessageBox *)>>("end");
+    QTest::addColumn<bool>("isEditorShown");
     using End = std::function<void(Touch::MessageBox *)>;
-    QTest::newRow("set manually") << End([this](Touch::MessageBox *) { answer("setAgainButton"); });
-    QTest::newRow("Escape") << End([](Touch::MessageBox *box) { QVERIFY(box->hostWindow()->stepBack()); });
-    QTest::newRow("reset") << End([this](Touch::MessageBox *) { m_page->resetContent(); });
+    QTest::newRow("set manually") << End([this](Touch::MessageBox *) { answer("setAgainButton"); }) << true;
+    QTest::newRow("Escape") << End([](Touch::MessageBox *box) { QVERIFY(box->hostWindow()->stepBack()); }) << true;
+    QTest::newRow("reset") << End([this](Touch::MessageBox *) { m_page->resetContent(); }) << false;
 }
 
 void TestSummerTimeQuestion::noEarlierAlarmComesBack()
@@ -74,10 +75,12 @@ void TestSummerTimeQuestion::noEarlierAlarmComesBack()
     saveAnExistingAlarm();
     const quint32 cookie = askAboutAnotherAlarm();
     QVERIFY(question());
+    QVERIFY(!m_page->isOnDisplay());
     const QList<quint32> stored = storedCookies();
     QCOMPARE(stored.size(), 2);
     end(question());
     QVERIFY(!question());
+    QTEST(m_page->isOnDisplay(), "isEditorShown");
     QCOMPARE(storedCookies(), stored);
     QCOMPARE(m_page->getAlarmCookie(), cookie);
 }
