@@ -19,6 +19,18 @@ constexpr auto Path = "/backupclient";
 
 } // namespace
 
+/** Answers a call otherwise, which only shows where it is called by name. */
+class OtherParticipant : public ClockBackup
+{
+    Q_OBJECT
+
+public slots:
+    uchar backupStarts() { return 1; }
+    uchar backupFinished() { return 2; }
+    uchar restoreStarts() { return 3; }
+    uchar restoreFinished() { return 4; }
+};
+
 class TestClockBackup : public QObject
 {
     Q_OBJECT
@@ -29,6 +41,7 @@ private slots:
     void everyCallAnswersZeroAndLogsItsName();
     void introspectionShowsTheFourMethods();
     void theParticipantItselfIsNotExported();
+    void everyCallIsPassedOnByName();
     void theSlotsStandInTheirOrder();
     void theParticipantDeclaresItsSignalAndNeverEmitsIt();
 
@@ -102,6 +115,16 @@ void TestClockBackup::theParticipantItselfIsNotExported()
     const QDBusMessage reply = call("org.freedesktop.DBus.Introspectable", "Introspect");
     QVERIFY(!reply.arguments().value(0).toString().contains("shouldQuit"));
     QCOMPARE(call("com.korvo.backupclient", "shouldQuit").type(), QDBusMessage::ErrorMessage);
+}
+
+void TestClockBackup::everyCallIsPassedOnByName()
+{
+    OtherParticipant participant;
+    auto *adaptor = new backupclientAdaptor(&participant);
+    QCOMPARE(adaptor->backupStarts(), uchar(1));
+    QCOMPARE(adaptor->backupFinished(), uchar(2));
+    QCOMPARE(adaptor->restoreStarts(), uchar(3));
+    QCOMPARE(adaptor->restoreFinished(), uchar(4));
 }
 
 void TestClockBackup::theSlotsStandInTheirOrder()
