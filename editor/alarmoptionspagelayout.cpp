@@ -81,7 +81,7 @@ void AlarmOptionsPage::buildContent()
     m_snoozeComboBox->setObjectName("snoozeComboBox");
     m_snoozeComboBox->setTitle(qtTrId("qtn_cloc_alarmeditor_snoozesetting"));
     for (const int minutes : SnoozeChoices)
-        m_snoozeComboBox->addItem(qtTrId("qtn_cloc_alarmeditor_snooze").arg(minutes));
+        m_snoozeComboBox->addItem(qtTrId("qtn_cloc_alarmeditor_snooze", minutes).arg(minutes));
 
     m_toneItem = valueItem("toneBasicListItem", qtTrId("qtn_cloc_alarmeditor_tone"));
     connect(m_toneItem, &AlarmEditorListItem::clicked, this, &AlarmOptionsPage::toneClicked);

@@ -81,9 +81,17 @@
         <source>Snooze</source>
         <translation>غفوة</translation>
     </message>
-    <message id="qtn_cloc_alarmeditor_snooze">
-        <source>%1 minutes</source>
-        <translation>%L1 د</translation>
+    <message id="qtn_cloc_alarmeditor_snooze" numerus="yes">
+        <source>%1 minute(s)</source>
+        <extracomment>%1 is the number that the form is picked by.</extracomment>
+        <translation>
+            <numerusform>%L1 دقيقة</numerusform>
+            <numerusform>%L1 دقيقة</numerusform>
+            <numerusform>%L1 دقيقة</numerusform>
+            <numerusform>%L1 دقائق</numerusform>
+            <numerusform>%L1 دقيقة</numerusform>
+            <numerusform>%L1 دقيقة</numerusform>
+        </translation>
     </message>
     <message id="qtn_cloc_alarmeditor_tone">
         <source>Alarm tone</source>
@@ -105,7 +113,7 @@
     <message id="qtn_cloc_dst_transition_warning">
         <source>The clocks change before this alarm, so it would not ring at the time you chose. Set it to %1 instead?</source>
         <extracomment>%1 is the time one hour earlier.</extracomment>
-        <translation>ستتغيّر الساعة قبل موعد هذا المنبّه، فلن يرن في الوقت الذي اخترته. هل تريد ضبطه على %1 بدلاً من ذلك؟</translation>
+        <translation>ستتغيّر الساعة قبل موعد هذا المنبّه، فلن يرنّ في الوقت الذي اخترته. هل تريد ضبطه على %1 بدلًا من ذلك؟</translation>
     </message>
     <message id="qtn_cloc_set_manually">
         <source>Choose another time</source>

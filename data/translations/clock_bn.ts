@@ -77,9 +77,13 @@
         <source>Snooze</source>
         <translation>স্নুজ</translation>
     </message>
-    <message id="qtn_cloc_alarmeditor_snooze">
-        <source>%1 minutes</source>
-        <translation>%L1 মিনিট</translation>
+    <message id="qtn_cloc_alarmeditor_snooze" numerus="yes">
+        <source>%1 minute(s)</source>
+        <extracomment>%1 is the number that the form is picked by.</extracomment>
+        <translation>
+            <numerusform>%L1 মিনিট</numerusform>
+            <numerusform>%L1 মিনিট</numerusform>
+        </translation>
     </message>
     <message id="qtn_cloc_alarmeditor_tone">
         <source>Alarm tone</source>

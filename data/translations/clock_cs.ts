@@ -78,9 +78,14 @@
         <source>Snooze</source>
         <translation>Odložit</translation>
     </message>
-    <message id="qtn_cloc_alarmeditor_snooze">
-        <source>%1 minutes</source>
-        <translation>%1 minut</translation>
+    <message id="qtn_cloc_alarmeditor_snooze" numerus="yes">
+        <source>%1 minute(s)</source>
+        <extracomment>%1 is the number that the form is picked by.</extracomment>
+        <translation>
+            <numerusform>%1 minuta</numerusform>
+            <numerusform>%1 minuty</numerusform>
+            <numerusform>%1 minut</numerusform>
+        </translation>
     </message>
     <message id="qtn_cloc_alarmeditor_tone">
         <source>Alarm tone</source>

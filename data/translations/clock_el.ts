@@ -77,9 +77,13 @@
         <source>Snooze</source>
         <translation>Αναβολή</translation>
     </message>
-    <message id="qtn_cloc_alarmeditor_snooze">
-        <source>%1 minutes</source>
-        <translation>%1 λεπτά</translation>
+    <message id="qtn_cloc_alarmeditor_snooze" numerus="yes">
+        <source>%1 minute(s)</source>
+        <extracomment>%1 is the number that the form is picked by.</extracomment>
+        <translation>
+            <numerusform>%1 λεπτό</numerusform>
+            <numerusform>%1 λεπτά</numerusform>
+        </translation>
     </message>
     <message id="qtn_cloc_alarmeditor_tone">
         <source>Alarm tone</source>
@@ -96,12 +100,12 @@
     <message id="qtn_cloc_reset_alarm">
         <source>Clocks go forward</source>
         <extracomment>Title of the question about an alarm at a time that summer time skips.</extracomment>
-        <translation>Η ώρα πηγαίνει μπροστά</translation>
+        <translation>Έναρξη θερινής ώρας</translation>
     </message>
     <message id="qtn_cloc_dst_transition_warning">
         <source>The clocks change before this alarm, so it would not ring at the time you chose. Set it to %1 instead?</source>
         <extracomment>%1 is the time one hour earlier.</extracomment>
-        <translation>Η ώρα αλλάζει πριν από αυτό το ξυπνητήρι, οπότε δεν θα χτυπούσε την ώρα που επιλέξατε. Να οριστεί στις %1;</translation>
+        <translation>Η ώρα αλλάζει πριν από αυτό το ξυπνητήρι, οπότε δεν θα χτυπούσε την ώρα που επιλέξατε. Να αλλάξει σε %1;</translation>
     </message>
     <message id="qtn_cloc_set_manually">
         <source>Choose another time</source>

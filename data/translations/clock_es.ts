@@ -16,7 +16,7 @@
     <message id="qtn_cloc_new_alarm">
         <source>New alarm</source>
         <extracomment>Spoken name of the button with the plus sign.</extracomment>
-        <translation>Alarma nueva</translation>
+        <translation>Nueva alarma</translation>
     </message>
     <message id="qtn_cloc_no_alarms">
         <source>No alarms yet</source>
@@ -44,8 +44,8 @@
     <message id="qtn_cloc_about_days" numerus="yes">
         <source>about %n day(s)</source>
         <translation>
-            <numerusform>alrededor de %n día</numerusform>
-            <numerusform>alrededor de %n días</numerusform>
+            <numerusform>%n día aproximadamente</numerusform>
+            <numerusform>%n días aproximadamente</numerusform>
         </translation>
     </message>
     <message id="qtn_cloc_set_repeat">
@@ -77,9 +77,13 @@
         <source>Snooze</source>
         <translation>Posponer</translation>
     </message>
-    <message id="qtn_cloc_alarmeditor_snooze">
-        <source>%1 minutes</source>
-        <translation>%1 minutos</translation>
+    <message id="qtn_cloc_alarmeditor_snooze" numerus="yes">
+        <source>%1 minute(s)</source>
+        <extracomment>%1 is the number that the form is picked by.</extracomment>
+        <translation>
+            <numerusform>%1 minuto</numerusform>
+            <numerusform>%1 minutos</numerusform>
+        </translation>
     </message>
     <message id="qtn_cloc_alarmeditor_tone">
         <source>Alarm tone</source>

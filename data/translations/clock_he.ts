@@ -44,7 +44,7 @@
     <message id="qtn_cloc_about_days" numerus="yes">
         <source>about %n day(s)</source>
         <translation>
-            <numerusform>כיום אחד</numerusform>
+            <numerusform>יום אחד בערך</numerusform>
             <numerusform>כ־%n ימים</numerusform>
         </translation>
     </message>
@@ -77,9 +77,13 @@
         <source>Snooze</source>
         <translation>נודניק</translation>
     </message>
-    <message id="qtn_cloc_alarmeditor_snooze">
-        <source>%1 minutes</source>
-        <translation>%1 דקות</translation>
+    <message id="qtn_cloc_alarmeditor_snooze" numerus="yes">
+        <source>%1 minute(s)</source>
+        <extracomment>%1 is the number that the form is picked by.</extracomment>
+        <translation>
+            <numerusform>%1 דקה</numerusform>
+            <numerusform>%1 דקות</numerusform>
+        </translation>
     </message>
     <message id="qtn_cloc_alarmeditor_tone">
         <source>Alarm tone</source>

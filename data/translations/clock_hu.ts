@@ -76,13 +76,16 @@
         <source>Snooze</source>
         <translation>Szundi</translation>
     </message>
-    <message id="qtn_cloc_alarmeditor_snooze">
-        <source>%1 minutes</source>
-        <translation>%1 perc</translation>
+    <message id="qtn_cloc_alarmeditor_snooze" numerus="yes">
+        <source>%1 minute(s)</source>
+        <extracomment>%1 is the number that the form is picked by.</extracomment>
+        <translation>
+            <numerusform>%1 perc</numerusform>
+        </translation>
     </message>
     <message id="qtn_cloc_alarmeditor_tone">
         <source>Alarm tone</source>
-        <translation>Csengőhang</translation>
+        <translation>Ébresztőhang</translation>
     </message>
     <message id="qtn_cloc_alarm_save_error">
         <source>The alarm could not be saved</source>
@@ -95,7 +98,7 @@
     <message id="qtn_cloc_reset_alarm">
         <source>Clocks go forward</source>
         <extracomment>Title of the question about an alarm at a time that summer time skips.</extracomment>
-        <translation>Óraátállítás előre</translation>
+        <translation>Nyári időszámítás</translation>
     </message>
     <message id="qtn_cloc_dst_transition_warning">
         <source>The clocks change before this alarm, so it would not ring at the time you chose. Set it to %1 instead?</source>

@@ -76,9 +76,12 @@
         <source>Snooze</source>
         <translation>スヌーズ</translation>
     </message>
-    <message id="qtn_cloc_alarmeditor_snooze">
-        <source>%1 minutes</source>
-        <translation>%1分</translation>
+    <message id="qtn_cloc_alarmeditor_snooze" numerus="yes">
+        <source>%1 minute(s)</source>
+        <extracomment>%1 is the number that the form is picked by.</extracomment>
+        <translation>
+            <numerusform>%1分</numerusform>
+        </translation>
     </message>
     <message id="qtn_cloc_alarmeditor_tone">
         <source>Alarm tone</source>
@@ -95,7 +98,7 @@
     <message id="qtn_cloc_reset_alarm">
         <source>Clocks go forward</source>
         <extracomment>Title of the question about an alarm at a time that summer time skips.</extracomment>
-        <translation>時計が進みます</translation>
+        <translation>夏時間が始まります</translation>
     </message>
     <message id="qtn_cloc_dst_transition_warning">
         <source>The clocks change before this alarm, so it would not ring at the time you chose. Set it to %1 instead?</source>

@@ -39,7 +39,7 @@
     <message id="qtn_cloc_time_left_alarm">
         <source>Alarm in %1</source>
         <extracomment>%1 is a span of time, "07:05" or "about 3 days".</extracomment>
-        <translation>Wekker gaat over %1</translation>
+        <translation>Wekker gaat af over %1</translation>
     </message>
     <message id="qtn_cloc_about_days" numerus="yes">
         <source>about %n day(s)</source>
@@ -77,9 +77,13 @@
         <source>Snooze</source>
         <translation>Sluimeren</translation>
     </message>
-    <message id="qtn_cloc_alarmeditor_snooze">
-        <source>%1 minutes</source>
-        <translation>%1 minuten</translation>
+    <message id="qtn_cloc_alarmeditor_snooze" numerus="yes">
+        <source>%1 minute(s)</source>
+        <extracomment>%1 is the number that the form is picked by.</extracomment>
+        <translation>
+            <numerusform>%1 minuut</numerusform>
+            <numerusform>%1 minuten</numerusform>
+        </translation>
     </message>
     <message id="qtn_cloc_alarmeditor_tone">
         <source>Alarm tone</source>

@@ -76,9 +76,12 @@
         <source>Snooze</source>
         <translation>Báo lại</translation>
     </message>
-    <message id="qtn_cloc_alarmeditor_snooze">
-        <source>%1 minutes</source>
-        <translation>%1 phút</translation>
+    <message id="qtn_cloc_alarmeditor_snooze" numerus="yes">
+        <source>%1 minute(s)</source>
+        <extracomment>%1 is the number that the form is picked by.</extracomment>
+        <translation>
+            <numerusform>%1 phút</numerusform>
+        </translation>
     </message>
     <message id="qtn_cloc_alarmeditor_tone">
         <source>Alarm tone</source>
@@ -95,12 +98,12 @@
     <message id="qtn_cloc_reset_alarm">
         <source>Clocks go forward</source>
         <extracomment>Title of the question about an alarm at a time that summer time skips.</extracomment>
-        <translation>Đồng hồ chạy nhanh lên</translation>
+        <translation>Chuyển sang giờ mùa hè</translation>
     </message>
     <message id="qtn_cloc_dst_transition_warning">
         <source>The clocks change before this alarm, so it would not ring at the time you chose. Set it to %1 instead?</source>
         <extracomment>%1 is the time one hour earlier.</extracomment>
-        <translation>Giờ sẽ thay đổi trước báo thức này nên nó sẽ không reo vào giờ bạn đã chọn. Đặt thành %1 nhé?</translation>
+        <translation>Giờ sẽ thay đổi trước báo thức này nên nó sẽ không reo vào giờ bạn đã chọn. Bạn có muốn đặt thành %1 không?</translation>
     </message>
     <message id="qtn_cloc_set_manually">
         <source>Choose another time</source>

@@ -2,10 +2,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/languages/catalogue.h"
 
+#include "tests/support/places.h"
+
 #include <QFile>
+#include <QHash>
 #include <QXmlStreamReader>
 
 namespace {
+
+const QHash<QString, QString> folders{
+    {"clock", "data/translations"},
+    {"sounds", "platform/clockwidgets/translations"},
+    {"ringer", "platform/ringer/texts/translations"},
+    {"timed", "platform/timed/translations"},
+};
 
 CatalogueText readMessage(QXmlStreamReader &xml)
 {
@@ -30,10 +40,20 @@ CatalogueText readMessage(QXmlStreamReader &xml)
 
 } // namespace
 
-Catalogue Catalogue::read(const QString &path)
+QStringList catalogueNames()
+{
+    return folders.keys();
+}
+
+QString catalogueFolder(const QString &name)
+{
+    return Places::source(folders[name]);
+}
+
+Catalogue Catalogue::read(const QString &name, const QString &language)
 {
     Catalogue catalogue;
-    QFile file(path);
+    QFile file(QStringLiteral("%1/%2_%3.ts").arg(catalogueFolder(name), name, language));
     if (!file.open(QIODevice::ReadOnly)) {
         catalogue.error = file.errorString();
         return catalogue;

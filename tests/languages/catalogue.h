@@ -14,11 +14,16 @@ struct CatalogueText
     bool isMarked = false; ///< as unfinished, vanished or the like
 };
 
+/** All that have files; the names of countries have none. */
+QStringList catalogueNames();
+/** Where its files are, in the sources. */
+QString catalogueFolder(const QString &name);
+
 /** What a translator wrote: the .ts file of one catalogue in one language. */
 struct Catalogue
 {
     /** Empty, with an error, if it cannot be read to its end. */
-    static Catalogue read(const QString &path);
+    static Catalogue read(const QString &name, const QString &language);
 
     QString language;
     QList<CatalogueText> texts;

@@ -75,12 +75,12 @@
     <message id="qtn_sond_file_unplayable">
         <source>“%1” cannot be played. The tone stays as it was.</source>
         <extracomment>%1 is the title of a sound file.</extracomment>
-        <translation>«%1» پخش نمی‌شود. صدای زنگ همان که بود می‌ماند.</translation>
+        <translation>«%1» پخش نمی‌شود. صدای زنگ تغییری نمی‌کند.</translation>
     </message>
     <message id="qtn_sond_file_silent">
         <source>“%1” starts with silence and would not wake you. The tone stays as it was.</source>
         <extracomment>%1 is the title of a sound file.</extracomment>
-        <translation>«%1» با سکوت آغاز می‌شود و شما را بیدار نمی‌کند. صدای زنگ همان که بود می‌ماند.</translation>
+        <translation>«%1» با سکوت آغاز می‌شود و شما را بیدار نمی‌کند. صدای زنگ تغییری نمی‌کند.</translation>
     </message>
 </context>
 </TS>

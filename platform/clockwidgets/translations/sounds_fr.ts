@@ -23,7 +23,7 @@
     <message id="qtn_sond_selected">
         <source>selected</source>
         <extracomment>Spoken after the title of the chosen tone.</extracomment>
-        <translation>sélectionné</translation>
+        <translation>sélectionnée</translation>
     </message>
     <message id="qtn_sond_done">
         <source>Done</source>

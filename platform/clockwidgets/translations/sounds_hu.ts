@@ -8,7 +8,7 @@
     <message id="qtn_sond_browser_title">
         <source>Alarm tone</source>
         <extracomment>Spoken name of the sheet in which a tone is chosen.</extracomment>
-        <translation>Csengőhang</translation>
+        <translation>Ébresztőhang</translation>
     </message>
     <message id="qtn_sond_ringtone_nosound">
         <source>No sound</source>
@@ -75,12 +75,12 @@
     <message id="qtn_sond_file_unplayable">
         <source>“%1” cannot be played. The tone stays as it was.</source>
         <extracomment>%1 is the title of a sound file.</extracomment>
-        <translation>A(z) „%1” nem játszható le. A csengőhang nem változik.</translation>
+        <translation>A(z) „%1” nem játszható le. Az ébresztőhang nem változik.</translation>
     </message>
     <message id="qtn_sond_file_silent">
         <source>“%1” starts with silence and would not wake you. The tone stays as it was.</source>
         <extracomment>%1 is the title of a sound file.</extracomment>
-        <translation>A(z) „%1” csenddel kezdődik, és nem ébresztené fel. A csengőhang nem változik.</translation>
+        <translation>A(z) „%1” csenddel kezdődik, és nem ébresztené fel. Az ébresztőhang nem változik.</translation>
     </message>
 </context>
 </TS>

@@ -23,7 +23,7 @@
     <message id="qtn_sond_selected">
         <source>selected</source>
         <extracomment>Spoken after the title of the chosen tone.</extracomment>
-        <translation>selezionato</translation>
+        <translation>selezionata</translation>
     </message>
     <message id="qtn_sond_done">
         <source>Done</source>

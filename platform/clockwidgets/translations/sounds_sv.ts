@@ -36,7 +36,7 @@
     <message id="qtn_sond_choose_file">
         <source>Choose a file…</source>
         <extracomment>The row above the tones that leads to one’s own files, and the spoken name of where it leads.</extracomment>
-        <translation>Välj en fil …</translation>
+        <translation>Välj en fil…</translation>
     </message>
     <message id="qtn_sond_places">
         <source>Places</source>

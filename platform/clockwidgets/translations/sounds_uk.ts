@@ -75,12 +75,12 @@
     <message id="qtn_sond_file_unplayable">
         <source>“%1” cannot be played. The tone stays as it was.</source>
         <extracomment>%1 is the title of a sound file.</extracomment>
-        <translation>Не вдається відтворити «%1». Мелодія залишається як була.</translation>
+        <translation>Не вдається відтворити «%1». Мелодія залишається без змін.</translation>
     </message>
     <message id="qtn_sond_file_silent">
         <source>“%1” starts with silence and would not wake you. The tone stays as it was.</source>
         <extracomment>%1 is the title of a sound file.</extracomment>
-        <translation>«%1» починається з тиші й не розбудить вас. Мелодія залишається як була.</translation>
+        <translation>«%1» починається з тиші й не розбудить вас. Мелодія залишається без змін.</translation>
     </message>
 </context>
 </TS>

@@ -89,7 +89,7 @@
     </message>
     <message id="qtn_timed_restored_why">
         <source>The file of the alarms was damaged. An earlier copy took its place: the latest changes may be missing, please look through your alarms.</source>
-        <translation>فایل زنگ‌های هشدار آسیب دیده بود. نسخه‌ای قدیمی‌تر جای آن را گرفت: شاید آخرین تغییرات در آن نباشد، لطفاً زنگ‌های هشدار خود را مرور کنید.</translation>
+        <translation>پروندهٔ زنگ‌های هشدار آسیب دیده بود. نسخه‌ای قدیمی‌تر جای آن را گرفت: شاید آخرین تغییرات در آن نباشد، لطفاً زنگ‌های هشدار خود را مرور کنید.</translation>
     </message>
 </context>
 </TS>

@@ -92,7 +92,7 @@
     </message>
     <message id="qtn_timed_restored_why">
         <source>The file of the alarms was damaged. An earlier copy took its place: the latest changes may be missing, please look through your alarms.</source>
-        <translation>Le fichier des alarmes était endommagé. Une copie antérieure l’a remplacé : il peut manquer les dernières modifications, vérifiez vos alarmes.</translation>
+        <translation>Le fichier des alarmes était endommagé. Une copie antérieure l’a remplacé : les dernières modifications peuvent manquer, vérifiez vos alarmes.</translation>
     </message>
 </context>
 </TS>

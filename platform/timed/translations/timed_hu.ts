@@ -62,7 +62,7 @@
     </message>
     <message id="qtn_timed_missed_late">
         <source>the device was not ready in time</source>
-        <translation>a készülék nem készült el időben</translation>
+        <translation>a készülék nem állt készen időben</translation>
     </message>
     <message id="qtn_timed_missed_unanswered">
         <source>it rang, but nobody answered</source>
@@ -85,7 +85,7 @@
     </message>
     <message id="qtn_timed_restored">
         <source>Alarms were restored</source>
-        <translation>Az ébresztések helyreálltak</translation>
+        <translation>Ébresztések visszaállítva</translation>
     </message>
     <message id="qtn_timed_restored_why">
         <source>The file of the alarms was damaged. An earlier copy took its place: the latest changes may be missing, please look through your alarms.</source>

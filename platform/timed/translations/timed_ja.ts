@@ -54,7 +54,7 @@
     </message>
     <message id="qtn_timed_missed_slept">
         <source>the device did not wake up in time</source>
-        <translation>デバイスが時間どおりに起動しませんでした</translation>
+        <translation>デバイスが時間までにスリープから復帰しませんでした</translation>
     </message>
     <message id="qtn_timed_missed_clock_set">
         <source>the clock was set to a later time</source>

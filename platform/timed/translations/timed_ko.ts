@@ -58,7 +58,7 @@
     </message>
     <message id="qtn_timed_missed_clock_set">
         <source>the clock was set to a later time</source>
-        <translation>시계가 앞당겨짐</translation>
+        <translation>시계가 더 늦은 시각으로 변경됨</translation>
     </message>
     <message id="qtn_timed_missed_late">
         <source>the device was not ready in time</source>

@@ -79,12 +79,12 @@
     </message>
     <message id="qtn_timed_ring_now">
         <source>Ring now</source>
-        <translation>Nu afgaan</translation>
+        <translation>Nu laten afgaan</translation>
     </message>
     <message id="qtn_timed_ring_title_now">
         <source>Ring now: %1</source>
         <extracomment>%1 is the title of an alarm</extracomment>
-        <translation>Nu afgaan: %1</translation>
+        <translation>Nu laten afgaan: %1</translation>
     </message>
     <message id="qtn_timed_restored">
         <source>Alarms were restored</source>

@@ -58,7 +58,7 @@
     </message>
     <message id="qtn_timed_missed_slept">
         <source>the device did not wake up in time</source>
-        <translation>устройство не вышло вовремя из сна</translation>
+        <translation>устройство вовремя не вышло из спящего режима</translation>
     </message>
     <message id="qtn_timed_missed_clock_set">
         <source>the clock was set to a later time</source>
@@ -70,7 +70,7 @@
     </message>
     <message id="qtn_timed_missed_unanswered">
         <source>it rang, but nobody answered</source>
-        <translation>будильник звонил, но никто не ответил</translation>
+        <translation>будильник звонил, но никто не отреагировал</translation>
     </message>
     <message id="qtn_timed_missed_more" numerus="yes">
         <source>and %n more</source>

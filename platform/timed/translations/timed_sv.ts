@@ -21,7 +21,7 @@
     <message id="qtn_timed_snoozed">
         <source>Snoozed, rings again at %1.</source>
         <extracomment>%1 is a time of day</extracomment>
-        <translation>Snoozat, ringer igen %1.</translation>
+        <translation>Snoozat, ringer igen kl. %1.</translation>
     </message>
     <message id="qtn_timed_stop">
         <source>Stop</source>

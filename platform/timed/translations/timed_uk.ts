@@ -21,7 +21,7 @@
     <message id="qtn_timed_snoozed">
         <source>Snoozed, rings again at %1.</source>
         <extracomment>%1 is a time of day</extracomment>
-        <translation>Відкладено, задзвонить знову о %1.</translation>
+        <translation>Відкладено, наступний сигнал: %1.</translation>
     </message>
     <message id="qtn_timed_stop">
         <source>Stop</source>
@@ -58,7 +58,7 @@
     </message>
     <message id="qtn_timed_missed_slept">
         <source>the device did not wake up in time</source>
-        <translation>пристрій не вийшов вчасно зі сну</translation>
+        <translation>пристрій вчасно не вийшов зі сплячого режиму</translation>
     </message>
     <message id="qtn_timed_missed_clock_set">
         <source>the clock was set to a later time</source>
@@ -70,7 +70,7 @@
     </message>
     <message id="qtn_timed_missed_unanswered">
         <source>it rang, but nobody answered</source>
-        <translation>будильник дзвонив, але ніхто не відповів</translation>
+        <translation>будильник дзвонив, але ніхто не відреагував</translation>
     </message>
     <message id="qtn_timed_missed_more" numerus="yes">
         <source>and %n more</source>

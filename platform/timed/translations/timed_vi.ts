@@ -58,7 +58,7 @@
     </message>
     <message id="qtn_timed_missed_clock_set">
         <source>the clock was set to a later time</source>
-        <translation>đồng hồ đã được chỉnh nhanh lên</translation>
+        <translation>đồng hồ đã được chỉnh sang giờ muộn hơn</translation>
     </message>
     <message id="qtn_timed_missed_late">
         <source>the device was not ready in time</source>
@@ -66,7 +66,7 @@
     </message>
     <message id="qtn_timed_missed_unanswered">
         <source>it rang, but nobody answered</source>
-        <translation>đã reo nhưng không ai trả lời</translation>
+        <translation>đã reo nhưng không ai phản hồi</translation>
     </message>
     <message id="qtn_timed_missed_more" numerus="yes">
         <source>and %n more</source>

@@ -32,12 +32,12 @@
     <message id="qtn_ring_snooze" numerus="yes">
         <source>Snooze · %n min</source>
         <translation>
-            <numerusform>غفوة · %Ln د</numerusform>
-            <numerusform>غفوة · %Ln د</numerusform>
-            <numerusform>غفوة · %Ln د</numerusform>
-            <numerusform>غفوة · %Ln د</numerusform>
-            <numerusform>غفوة · %Ln د</numerusform>
-            <numerusform>غفوة · %Ln د</numerusform>
+            <numerusform>غفوة · %Ln دقيقة</numerusform>
+            <numerusform>غفوة · دقيقة</numerusform>
+            <numerusform>غفوة · دقيقتان</numerusform>
+            <numerusform>غفوة · %Ln دقائق</numerusform>
+            <numerusform>غفوة · %Ln دقيقة</numerusform>
+            <numerusform>غفوة · %Ln دقيقة</numerusform>
         </translation>
     </message>
     <message id="qtn_ring_more" numerus="yes">

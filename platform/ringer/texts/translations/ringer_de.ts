@@ -23,7 +23,7 @@
     </message>
     <message id="qtn_ring_hold_to_stop">
         <source>Hold to stop</source>
-        <translation>Zum Stoppen halten</translation>
+        <translation>Zum Stoppen gedrückt halten</translation>
     </message>
     <message id="qtn_ring_untitled">
         <source>Alarm</source>

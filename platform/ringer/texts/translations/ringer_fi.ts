@@ -23,7 +23,7 @@
     </message>
     <message id="qtn_ring_hold_to_stop">
         <source>Hold to stop</source>
-        <translation>Pysäytä pitämällä</translation>
+        <translation>Pysäytä pitämällä pohjassa</translation>
     </message>
     <message id="qtn_ring_untitled">
         <source>Alarm</source>

@@ -19,11 +19,11 @@
     </message>
     <message id="qtn_ring_slide_to_stop">
         <source>Slide to stop</source>
-        <translation>Scorri per fermare</translation>
+        <translation>Scorri per interrompere</translation>
     </message>
     <message id="qtn_ring_hold_to_stop">
         <source>Hold to stop</source>
-        <translation>Tieni premuto per fermare</translation>
+        <translation>Tieni premuto per interrompere</translation>
     </message>
     <message id="qtn_ring_untitled">
         <source>Alarm</source>
