@@ -12,17 +12,24 @@
 #include "mainview/mashuppage.h"
 #include "platform/clockwidgets/alarmlistitem.h"
 #include "platform/clockwidgets/alerttonebrowsersheet.h"
+#include "platform/clockwidgets/tonefileitem_p.h"
 #include "platform/clockwidgets/tonefilesheet_p.h"
+#include "platform/ringer/plainscreen.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/combobox.h"
+#include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/pannableviewport.h"
 #include "platform/toolkit/textedit.h"
+#include "platform/toolkit/theme.h"
 #include "tests/ringer/ringscreen.h"
 #include "tests/support/alarms.h"
 #include "tests/support/look/items.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QFontMetricsF>
+#include <QLabel>
+#include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTest>
@@ -63,6 +70,19 @@ bool isBigTime(const QGraphicsObject *object)
 bool isSeen(const QGraphicsObject *object, const QGraphicsView *window)
 {
     return (object->property("showsWholeText").toBool() || isBigTime(object)) && canBeReached(object, window);
+}
+
+bool showsWholeText(const QLabel *label)
+{
+    const QRect room = label->contentsRect();
+    const QRect endless(0, 0, room.width(), QWIDGETSIZE_MAX);
+    const QSize needed = label->fontMetrics().boundingRect(endless, Qt::TextWordWrap, label->text()).size();
+    return needed.width() <= room.width() && needed.height() <= room.height();
+}
+
+bool showsWholeText(const QPushButton *button)
+{
+    return button->size().expandedTo(button->sizeHint()) == button->size();
 }
 
 } // namespace
@@ -109,7 +129,13 @@ void LanguageTour::look(const QString &what, QGraphicsView *window)
             && QFontMetricsF(field->style().font()).horizontalAdvance(field->prompt()) > field->paddedRect().width())
             m_findings << what + ": " + field->prompt();
     }
-    const QString file = QStringLiteral("language-%1-%2.png").arg(m_language, what);
+    keepPicture(what, window);
+}
+
+void LanguageTour::keepPicture(const QString &what, QWidget *window)
+{
+    const QString large = Touch::Theme::instance().textScale() > 1 ? "-large" : "";
+    const QString file = QStringLiteral("language-%1-%2%3.png").arg(m_language, what, large);
     expect(window->grab().save(m_pictures.filePath(file)), "picture " + file);
 }
 
@@ -128,6 +154,10 @@ void LanguageTour::visitMainPage()
     expect(QTest::qWaitFor([this] { return Support::countIn<AlarmListItem>(m_mainPage.get()) == 3; }, Patience),
            "alarms");
     look("main");
+    Touch::ObjectMenu::open(Support::itemIn<AlarmListItem>(m_mainPage.get()));
+    expect(onTopOf<Touch::ObjectMenu>(m_window.get()), "menu of an alarm");
+    look("menu");
+    m_window->stepBack();
 }
 
 void LanguageTour::visitEditor()
@@ -195,16 +225,31 @@ void LanguageTour::visitSnoozeTimes()
 
 void LanguageTour::visitTones()
 {
+    for (const auto place : {QStandardPaths::MusicLocation, QStandardPaths::DownloadLocation})
+        QDir().mkpath(QStandardPaths::writableLocation(place));
     Touch::Window *window = Touch::Window::active();
     onTopOf<AlarmOptionsPage>(window)->toneClicked();
     auto *tones = onTopOf<AlertToneBrowserSheet>(window);
     expect(tones, "tones");
     look("tones");
     emit Support::itemIn<Touch::BasicListItem>(tones, "chooseFileItem")->clicked();
-    expect(onTopOf<ToneFileSheet>(window), "files");
-    look("files");
-    window->stepBack();
+    visitFolders();
     expect(onTopOf<AlertToneBrowserSheet>(window), "tones again");
+    window->stepBack();
+}
+
+void LanguageTour::visitFolders()
+{
+    Touch::Window *window = Touch::Window::active();
+    auto *files = onTopOf<ToneFileSheet>(window);
+    expect(files, "files");
+    look("files");
+    auto *music = Support::itemIn<ToneFileItem>(files);
+    expect(music, "folder of music");
+    emit music->clicked();
+    expect(!files->folder().isEmpty(), "way into a folder");
+    look("folder");
+    window->stepBack();
     window->stepBack();
 }
 
@@ -215,6 +260,7 @@ void LanguageTour::visitRingScreens()
         window->hide();
     for (const char *gesture : {"hold", "slide"})
         visitRingScreen(gesture);
+    visitPlainRingScreen();
 }
 
 void LanguageTour::visitRingScreen(const QString &stopGesture)
@@ -240,4 +286,25 @@ void LanguageTour::visitRingScreen(const QString &stopGesture)
     for (quint32 cookie = 1; cookie <= 3; ++cookie)
         plugin->hide(cookie);
     expect(QTest::qWaitFor([] { return RingScreen::window() == nullptr; }, Patience), "end of the ring screen");
+}
+
+void LanguageTour::visitPlainRingScreen()
+{
+    RingScreen::RecordingAnswers answers;
+    Ringer::PlainScreen screen;
+    screen.setAnswers(&answers);
+    screen.show({1, {}, QDateTime::currentDateTimeUtc(), {}, 1800});
+    screen.setWindowState(Qt::WindowNoState);
+    screen.resize(Narrow);
+    expect(QTest::qWaitForWindowExposed(&screen, Patience) && screen.size() == Narrow, "plain ring screen");
+    const auto note = [this](const auto *part) {
+        if (part->isVisible() && !showsWholeText(part))
+            m_findings << "ring-plain: " + part->text();
+    };
+    const auto labels = screen.findChildren<QLabel *>();
+    const auto buttons = screen.findChildren<QPushButton *>();
+    expect(labels.size() == 2 && buttons.size() == 2, "moment, title and answers of the plain ring screen");
+    std::for_each(labels.begin(), labels.end(), note);
+    std::for_each(buttons.begin(), buttons.end(), note);
+    keepPicture("ring-plain", &screen);
 }

@@ -10,6 +10,7 @@
 class MashupPage;
 class QGraphicsItem;
 class QGraphicsView;
+class QWidget;
 class SettingAlarmPage;
 
 namespace Touch {
@@ -30,7 +31,7 @@ public:
     void visitEditor();
     void visitQuestions();
     void visitOptions();
-    /** With either way of stopping the alarm. */
+    /** With either way of stopping the alarm, and the one that shows up where the others fail. */
     void visitRingScreens();
 
     /** What went wrong: "editor: Speicher…", or that something did not appear. */
@@ -40,10 +41,14 @@ private:
     void visitRepeatDays();
     void visitSnoozeTimes();
     void visitTones();
+    void visitFolders();
     void visitRingScreen(const QString &stopGesture);
+    /** What rings where no plug-in does. */
+    void visitPlainRingScreen();
     /** In the window that is in front. */
     void look(const QString &what);
     void look(const QString &what, QGraphicsView *window);
+    void keepPicture(const QString &what, QWidget *window);
     void expect(bool isThere, const QString &what);
 
     QString m_language;
