@@ -4,7 +4,6 @@
 
 #include "platform/locale/locale.h"
 #include "platform/toolkit/applicationservice.h"
-#include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/desktoplook.h"
 #include "platform/toolkit/theme.h"
 
@@ -57,11 +56,6 @@ void Application::loadTheme()
     QString error;
     if (QFile::exists(file) && !Theme::instance().load(file, &error))
         qCCritical(lcApplication).noquote() << "Cannot use the theme:" << error;
-}
-
-ApplicationWindow *Application::activeApplicationWindow()
-{
-    return qobject_cast<ApplicationWindow *>(Window::active());
 }
 
 bool Application::event(QEvent *event)

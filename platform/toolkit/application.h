@@ -8,7 +8,6 @@
 namespace Touch {
 
 class ApplicationService;
-class ApplicationWindow;
 
 /**
  * The application: owns the service, and loads what bears its identifier, the theme ":/theme/<identifier>.json", the
@@ -27,9 +26,6 @@ public:
 
     /** It closes its windows in order to end. */
     bool isQuitting() const { return m_isQuitting; }
-
-    /** The window the user works in, or null. */
-    static ApplicationWindow *activeApplicationWindow();
 
 protected:
     bool event(QEvent *event) override;

@@ -46,7 +46,7 @@ void ApplicationPage::setComponentsDisplayMode(int componentMask, DisplayMode mo
 
 void ApplicationPage::updateChrome()
 {
-    if (isOnDisplay() && !m_chrome && componentDisplayMode(NavigationBar) != Hide)
+    if (targetWindow() && !m_chrome && componentDisplayMode(NavigationBar) != Hide)
         makeChrome();
     if (!m_chrome)
         return;
@@ -79,8 +79,6 @@ void ApplicationPage::aboutToAppear()
         m_isContentCreated = true;
         createContent();
     }
-    if (!m_chrome && componentDisplayMode(NavigationBar) != Hide)
-        makeChrome();
     updateChrome();
 }
 

@@ -45,11 +45,6 @@ void ComboBox::addItem(const QString &text)
     m_items.append(text);
 }
 
-void ComboBox::addItems(const QStringList &texts)
-{
-    m_items.append(texts);
-}
-
 void ComboBox::clear()
 {
     dismissPopup();

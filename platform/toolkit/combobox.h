@@ -23,7 +23,6 @@ public:
 
     int count() const { return int(m_items.size()); }
     void addItem(const QString &text);
-    void addItems(const QStringList &texts);
     /** Empty for an index that there is not. */
     QString itemText(int index) const { return m_items.value(index); }
     /** Nothing is chosen afterwards. */

@@ -4,6 +4,8 @@
 
 #include "platform/toolkit/scenewindow.h"
 
+#include <QHash>
+
 namespace Touch {
 
 class Button;

@@ -50,6 +50,7 @@ public:
     /** Whether the groups of an AbstractItemModel that has some get their titles. */
     bool showGroups() const { return m_showsGroups; }
     void setShowGroups(bool showsGroups);
+    /** A wish for how the cells are made, such as "fast". All of them are made so: it changes nothing. */
     QString viewType() const { return m_viewType; }
     void setViewType(const QString &viewType);
 

@@ -34,8 +34,6 @@ public:
     QRectF place(const QRectF &area);
     void follow(Window *window);
 
-    NavigationBar *bar() const { return m_bar; }
-    bool isRevealed() const { return m_isRevealed; }
     void reveal();
     void hideAgain();
 

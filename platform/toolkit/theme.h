@@ -15,18 +15,9 @@ namespace Touch {
 class ThemeFile;
 
 /**
- * The look of everything: styles resolved from JSON files, and icons. One object for the process, made on
- * first use with the toolkit's own theme (theme/base.json, the example to read) loaded. GUI thread only.
- *
- * A theme file is one object with up to three sections, each may be left out; a file wins over those of the
- * layers below and over an earlier one of its own layer: "palettes": { "dark": { "accent": "#FFB454" }, "light": { … } }   named colours of both
- * variants "classes":  { "Button": { "radius": 12, "color": "text" } }       defaults, a derived class after
- * its base "styles":   { "StyleName": { … }, "#objectName": { … }, "StyleName#objectName": { … } } A rule
- * holds the properties of Style by their names. Colours are "#RRGGBB", "#AARRGGBB" or palette names, "text
- * 12%" is weaker, "none" is nothing; margins are [left, top, right, bottom], mirrored for right-to-left;
- * sizes are [width, height], -1 leaves one to the widget; alignment is words ("left vcenter"); "extends":
- * "Other" starts from another style. A property comes from the most specific rule that gives it: style name
- * with object name, style name, object name, class.
+ * The look of everything: icons, and styles resolved from theme files, which docs/toolkit.md describes. One object for
+ * the process, made on first use with the toolkit's own file (theme/base.json) loaded. A file wins over those of the
+ * layers below and over an earlier one of its own layer. GUI thread only.
  */
 class Theme : public QObject
 {

@@ -154,8 +154,10 @@ void TestChainedWindow::leavesItsSheetOnEscapeAndClose()
 
 void TestChainedWindow::hasAnOrientationOfItsOwn()
 {
+    const QSignalSpy turned(m_first.get(), &Window::orientationChanged);
     m_first->resize(800, 480);
     QTRY_COMPARE(m_first->orientation(), Qt::Horizontal);
+    QCOMPARE(turned.count(), 1);
     const auto chained = makeChained();
     chained->setOrientation(Qt::Vertical);
     chained->setOrientationLocked(true);
