@@ -3,11 +3,9 @@
 #include "platform/toolkit/button.h"
 
 #include "platform/toolkit/text_p.h"
-#include "platform/toolkit/theme.h"
 
 #include <QPainter>
 #include <QPointer>
-#include <QWidget>
 
 namespace Touch {
 
@@ -182,24 +180,20 @@ QColor Button::backgroundColor() const
     return m_isChecked && look.checkedBackground.isValid() ? look.checkedBackground : look.background;
 }
 
-void Button::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *widget)
+void Button::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     // A border is for what stands out from the page by nothing else.
     paintBackground(painter, backgroundColor(), !m_isChecked);
     QRectF area = paddedRect();
     const QColor color = foregroundColor();
     if (!m_iconId.isEmpty()) {
-        const QSizeF icon = style().iconSize;
-        const qreal ratio = widget ? widget->devicePixelRatioF() : 1;
         const bool isMirrored = layoutDirection() == Qt::RightToLeft;
-        const QString id = isMirrored ? Theme::mirroredIcon(m_iconId) : m_iconId;
-        const QPixmap pixmap = Theme::instance().icon(id, icon.toSize(), color, ratio);
+        const qreal width = style().iconSize.width();
         const qreal used = qMin(contentSize().width(), area.width());
-        const qreal start = area.left() + (area.width() - used) / 2;
-        const qreal x = isMirrored ? area.left() + area.right() - start - icon.width() : start;
-        painter->drawPixmap(QPointF(qRound(x), qRound(area.center().y() - icon.height() / 2)), pixmap);
-        const qreal gap = icon.width() + style().spacing;
-        area = QRectF(start, area.top(), used, area.height());
+        area = QRectF(area.center().x() - used / 2, area.top(), used, area.height());
+        const qreal left = isMirrored ? area.right() - width : area.left();
+        paintIcon(painter, QRectF(left, area.top(), width, area.height()), m_iconId, color);
+        const qreal gap = width + style().spacing;
         area.adjust(isMirrored ? 0 : gap, 0, isMirrored ? -gap : 0, 0);
     }
     if (showsText())

@@ -3,10 +3,6 @@
 #include "platform/toolkit/choicerow_p.h"
 
 #include "platform/toolkit/text_p.h"
-#include "platform/toolkit/theme.h"
-
-#include <QPainter>
-#include <QWidget>
 
 namespace Touch {
 
@@ -45,21 +41,17 @@ QSizeF ChoiceRow::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
     return size;
 }
 
-void ChoiceRow::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *widget)
+void ChoiceRow::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     paintBackground(painter, backgroundColor(), false);
     QRectF area = paddedRect();
     const bool isMirrored = layoutDirection() == Qt::RightToLeft;
     if (isCheckable()) {
-        const QSizeF icon = style().iconSize;
-        const qreal x = isMirrored ? area.left() : area.right() - icon.width();
-        const qreal ratio = widget ? widget->devicePixelRatioF() : 1;
-        if (isChecked()) {
-            painter->drawPixmap(
-                QPointF(qRound(x), qRound(area.center().y() - icon.height() / 2)),
-                Theme::instance().icon(QStringLiteral("icon-m-common-done"), icon.toSize(), foregroundColor(), ratio));
-        }
-        const qreal taken = icon.width() + style().spacing;
+        const qreal width = style().iconSize.width();
+        const QRectF mark(isMirrored ? area.left() : area.right() - width, area.top(), width, area.height());
+        if (isChecked())
+            paintIcon(painter, mark, QStringLiteral("icon-m-common-done"), foregroundColor());
+        const qreal taken = width + style().spacing;
         area.adjust(isMirrored ? taken : 0, 0, isMirrored ? 0 : -taken, 0);
     }
     prepared().draw(painter, area, (isMirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter, foregroundColor());

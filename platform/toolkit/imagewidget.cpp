@@ -2,11 +2,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/imagewidget.h"
 
-#include "platform/toolkit/theme.h"
-
-#include <QPainter>
-#include <QWidget>
-
 namespace Touch {
 
 ImageWidget::ImageWidget(const QString &iconId, QGraphicsItem *parent)
@@ -38,14 +33,8 @@ QSizeF ImageWidget::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
 void ImageWidget::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)
 {
     Widget::paint(painter, option, widget);
-    if (m_iconId.isEmpty())
-        return;
-    const QSizeF size = style().iconSize;
-    const qreal ratio = widget ? widget->devicePixelRatioF() : 1;
-    const QString id = layoutDirection() == Qt::RightToLeft ? Theme::instance().mirroredIcon(m_iconId) : m_iconId;
-    const QPixmap pixmap = Theme::instance().icon(id, size.toSize(), style().color, ratio);
-    const QPointF corner = paddedRect().center() - QPointF(size.width() / 2, size.height() / 2);
-    painter->drawPixmap(QPointF(qRound(corner.x()), qRound(corner.y())), pixmap);
+    if (!m_iconId.isEmpty())
+        paintIcon(painter, paddedRect(), m_iconId, style().color);
 }
 
 } // namespace Touch

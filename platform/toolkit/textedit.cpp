@@ -5,10 +5,9 @@
 #include "platform/toolkit/inputmethodstate.h"
 #include "platform/toolkit/lineedit_p.h"
 #include "platform/toolkit/lineeditproxy_p.h"
-#include "platform/toolkit/theme.h"
+#include "platform/toolkit/style.h"
 
 #include <QGraphicsSceneMouseEvent>
-#include <QPainter>
 
 namespace Touch {
 
@@ -196,14 +195,9 @@ QSizeF TextEdit::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
 void TextEdit::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     paintBackground(painter, style().background);
-    if (!m_proxy->hasFocus())
-        return;
-    const QRectF ring = rect().adjusted(1, 1, -1, -1);
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(style().focusColor, 2));
-    painter->drawRoundedRect(ring, style().radius, style().radius);
-    painter->restore();
+    // Shown for a finger as well: it tells where one types.
+    if (m_proxy->hasFocus())
+        paintRing(painter);
 }
 
 } // namespace Touch

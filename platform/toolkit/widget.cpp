@@ -283,9 +283,15 @@ void Widget::paintBackground(QPainter *painter, const QColor &fill, bool hasBord
 
 void Widget::paintFocusRing(QPainter *painter) const
 {
-    const QColor color = style().focusColor;
     const Window *window = hostWindow();
-    if (!hasFocus() || !window || !window->isFocusShown() || !color.isValid())
+    if (hasFocus() && window && window->isFocusShown())
+        paintRing(painter);
+}
+
+void Widget::paintRing(QPainter *painter) const
+{
+    const QColor color = style().focusColor;
+    if (!color.isValid())
         return;
     constexpr qreal width = 2;
     const QRectF ring = rect().adjusted(width / 2, width / 2, -width / 2, -width / 2);
@@ -296,6 +302,16 @@ void Widget::paintFocusRing(QPainter *painter) const
     painter->setBrush(Qt::NoBrush);
     painter->drawRoundedRect(ring, radius, radius);
     painter->restore();
+}
+
+void Widget::paintIcon(QPainter *painter, const QRectF &place, const QString &iconId, const QColor &color) const
+{
+    const QSizeF size = style().iconSize;
+    const QString id = layoutDirection() == Qt::RightToLeft ? Theme::mirroredIcon(iconId) : iconId;
+    const qreal ratio = painter->device()->devicePixelRatioF();
+    const QPointF corner = place.center() - QPointF(size.width() / 2, size.height() / 2);
+    painter->drawPixmap(QPointF(qRound(corner.x()), qRound(corner.y())),
+                        Theme::instance().icon(id, size.toSize(), color, ratio));
 }
 
 } // namespace Touch

@@ -84,6 +84,10 @@ protected:
     void paintBackground(QPainter *painter, const QColor &fill, bool hasBorder = true) const;
     /** Draws the ring if it has the focus and the window is worked by keyboard. */
     void paintFocusRing(QPainter *painter) const;
+    /** Draws the ring that what has the focus bears. */
+    void paintRing(QPainter *painter) const;
+    /** An icon of the theme in the middle of a place, in the style's icon size and in its mirrored form if need be. */
+    void paintIcon(QPainter *painter, const QRectF &place, const QString &iconId, const QColor &color) const;
 
 private:
     void announceVisibility();
@@ -93,8 +97,8 @@ private:
     bool m_isOnDisplay = false;
     bool m_isInverted = false;
     mutable std::shared_ptr<const Style> m_style;
-    mutable bool m_isStyleEarly = false;
-    mutable const QMetaObject *m_styledClass = nullptr; ///< the style is first asked for while a base is constructed
+    mutable const QMetaObject *m_styledClass = nullptr; ///< the class that the style is for
+    mutable bool m_isStyleEarly = false;                ///< it was first asked for while a base was constructed
 };
 
 } // namespace Touch
