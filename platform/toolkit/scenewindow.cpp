@@ -88,6 +88,8 @@ void SceneWindow::startTransition(State state)
 {
     m_state = state;
     const bool appears = state == State::Appearing;
+    const qreal from = appears ? 0 : m_held;
+    m_held = 1;
     setVisible(true);
     if (appears)
         m_window->updateCovered();
@@ -105,7 +107,7 @@ void SceneWindow::startTransition(State state)
         connect(m_animation, &QVariantAnimation::finished, this, &SceneWindow::transitionDone);
     }
     m_animation->setEasingCurve(appears ? QEasingCurve::OutCubic : QEasingCurve::InCubic);
-    m_animation->setStartValue(appears ? 0.0 : 1.0);
+    m_animation->setStartValue(from);
     m_animation->setEndValue(appears ? 1.0 : 0.0);
     m_animation->start();
 }
@@ -205,6 +207,17 @@ Window *SceneWindow::targetWindow() const
 void SceneWindow::setTransition(qreal progress)
 {
     setOpacity(progress);
+}
+
+void SceneWindow::holdTransition(qreal progress)
+{
+    if (!isOnDisplay())
+        return;
+    const bool couldCover = coversNow();
+    m_held = progress;
+    setTransition(progress);
+    if (couldCover != coversNow())
+        m_window->updateCovered();
 }
 
 // A press or a wheel beside the controls must not reach what lies beneath.

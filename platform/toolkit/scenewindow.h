@@ -66,6 +66,8 @@ protected:
     Window *targetWindow() const;
     /** Paints one moment of the transition: 0 is gone, 1 is in its place. */
     virtual void setTransition(qreal progress);
+    /** Stays at one moment of the transition, as long as a finger holds it there; when it leaves, it goes on from it. */
+    void holdTransition(qreal progress);
 
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void wheelEvent(QGraphicsSceneWheelEvent *event) override;
@@ -76,6 +78,7 @@ private:
     friend class Window;
     enum class State { Hidden, Appearing, Shown, Disappearing };
 
+    bool coversNow() const { return coversWindow() && !isInTransition() && m_held == 1; }
     void leave(bool isDismissed);
     void startTransition(State state);
     void finishTransition();
@@ -89,6 +92,7 @@ private:
     State m_state = State::Hidden;
     DeletionPolicy m_policy = KeepWhenDone;
     bool m_isDismissed = false;
+    qreal m_held = 1; ///< where in its transition
     QPointer<Window> m_window;
     QPointer<QGraphicsObject> m_focusItem; ///< what had the focus before something came above
     QVariantAnimation *m_animation = nullptr;

@@ -4,9 +4,12 @@
 
 #include "platform/toolkit/basicsheetheader.h"
 #include "platform/toolkit/pannableviewport.h"
+#include "platform/toolkit/sheetswipe_p.h"
 
 #include <QAction>
+#include <QGraphicsSceneMouseEvent>
 #include <QGraphicsSceneResizeEvent>
+#include <QPointer>
 
 namespace Touch {
 
@@ -14,9 +17,14 @@ Sheet::Sheet(QGraphicsItem *parent)
     : SceneWindow(parent)
     , m_viewport(new PannableViewport(this))
     , m_centralWidget(new Widget)
+    , m_swipe(new SheetSwipe(this))
 {
     m_viewport->setFitsWidget(true);
     m_viewport->setWidget(m_centralWidget);
+    setFiltersChildEvents(true);
+    connect(m_swipe, &SheetSwipe::moved, this,
+            [this](qreal distance) { holdTransition(1 - distance / size().height()); });
+    connect(m_swipe, &SheetSwipe::swipedAway, this, &Sheet::leaveBySwipe);
 }
 
 Sheet::~Sheet() = default;
@@ -44,11 +52,73 @@ bool Sheet::eventFilter(QObject *watched, QEvent *event)
 
 void Sheet::stepBack()
 {
+    cancel();
+}
+
+void Sheet::cancel()
+{
     const auto *header = qobject_cast<BasicSheetHeader *>(m_headerWidget);
     if (header && header->negativeAction())
         header->negativeAction()->trigger();
     else
-        SceneWindow::stepBack();
+        dismiss();
+}
+
+void Sheet::leaveBySwipe()
+{
+    const QPointer<Sheet> guard(this);
+    cancel();
+    // Whether it closes is for the action.
+    if (guard && isOnDisplay())
+        m_swipe->slideBack();
+}
+
+void Sheet::aboutToLeave()
+{
+    m_swipe->forget();
+    SceneWindow::aboutToLeave();
+}
+
+// By its header, from whatever control the finger comes down on there.
+bool Sheet::sceneEventFilter(QGraphicsItem *watched, QEvent *event)
+{
+    if (!m_headerWidget || (watched != m_headerWidget && !m_headerWidget->isAncestorOf(watched)))
+        return SceneWindow::sceneEventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::GraphicsSceneMousePress:
+    case QEvent::GraphicsSceneMouseDoubleClick:
+        m_swipe->press(static_cast<QGraphicsSceneMouseEvent *>(event)->scenePos());
+        break;
+    case QEvent::GraphicsSceneMouseMove:
+        if (!m_swipe->moveTo(static_cast<QGraphicsSceneMouseEvent *>(event)->scenePos()))
+            break;
+        // Takes the mouse from the control that was pressed, which cancels its press.
+        grabMouse();
+        return true;
+    case QEvent::GraphicsSceneMouseRelease:
+        m_swipe->release(size().height());
+        break;
+    default:
+        break;
+    }
+    return SceneWindow::sceneEventFilter(watched, event);
+}
+
+void Sheet::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
+{
+    m_swipe->moveTo(event->scenePos());
+}
+
+void Sheet::mouseReleaseEvent(QGraphicsSceneMouseEvent *)
+{
+    if (scene()->mouseGrabberItem() == this)
+        ungrabMouse();
+}
+
+void Sheet::ungrabMouseEvent(QEvent *event)
+{
+    m_swipe->release(size().height());
+    SceneWindow::ungrabMouseEvent(event);
 }
 
 void Sheet::setTransition(qreal progress)

@@ -7,6 +7,7 @@
 namespace Touch {
 
 class PannableViewport;
+class SheetSwipe;
 
 /**
  * A modal window that slides up over the whole window: a header on top, the central widget below it, panned where it
@@ -30,19 +31,27 @@ public:
 
 protected:
     int layer() const override { return 1; }
+    void aboutToLeave() override;
     /** As its header's negative action, if there is one. */
     void stepBack() override;
     void setTransition(qreal progress) override;
     bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    bool sceneEventFilter(QGraphicsItem *watched, QEvent *event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    void ungrabMouseEvent(QEvent *event) override;
     void resizeEvent(QGraphicsSceneResizeEvent *event) override;
 
 private:
     void arrange();
+    void cancel();
+    void leaveBySwipe();
 
     QGraphicsWidget *m_headerWidget = nullptr;
     PannableViewport *m_viewport;
     Widget *m_centralWidget;
+    SheetSwipe *m_swipe;
 };
 
 } // namespace Touch

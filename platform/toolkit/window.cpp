@@ -219,7 +219,7 @@ void Window::updateCovered()
     bool isCovered = false;
     for (auto it = m_stack.crbegin(); it != m_stack.crend(); ++it) {
         (*it)->setVisible(!isCovered);
-        isCovered = isCovered || ((*it)->coversWindow() && !(*it)->isInTransition());
+        isCovered = isCovered || (*it)->coversNow();
     }
 }
 
