@@ -4,6 +4,7 @@
 
 #include "platform/toolkit/contentlayout_p.h"
 #include "platform/toolkit/moveclock_p.h"
+#include "platform/toolkit/positionmark_p.h"
 
 #include <cmath>
 #include <QFocusEvent>
@@ -139,10 +140,21 @@ void PannableViewport::moveWidget()
     // Whole pixels keep the text sharp.
     const qreal x = std::round(m_x.position());
     m_widget->setPos(isMirrored() ? size().width() - m_widget->size().width() + x : -x, -std::round(m_y.position()));
-    if (m_reported == position())
-        return;
-    m_reported = position();
-    emit positionChanged(m_reported);
+    if (std::exchange(m_shownPosition, position()) != position() && isMoving())
+        showPosition();
+}
+
+void PannableViewport::showPosition()
+{
+    const auto follow = [this](PositionMark *&mark, Qt::Orientation direction) {
+        if (!pans(direction))
+            return;
+        if (!mark)
+            mark = new PositionMark(this, direction);
+        mark->follow();
+    };
+    follow(m_xMark, Qt::Horizontal);
+    follow(m_yMark, Qt::Vertical);
 }
 
 QPointF PannableViewport::fingerOf(const QGraphicsSceneMouseEvent *event) const
@@ -312,6 +324,10 @@ void PannableViewport::exitDisplay()
     m_x.jumpTo(m_x.position());
     m_y.jumpTo(m_y.position());
     moveWidget();
+    for (PositionMark *mark : {m_xMark, m_yMark}) {
+        if (mark)
+            mark->leave();
+    }
     Widget::exitDisplay();
 }
 

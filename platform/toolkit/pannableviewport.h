@@ -12,12 +12,13 @@
 namespace Touch {
 
 class ContentLayout;
+class PositionMark;
 
 /**
  * Shows a part of a widget that may be larger than itself and lets the user pan it: by dragging, with a flick that runs
  * on, by wheel or by moving the focus. A press that turns into panning is taken from the control beneath. Past an
- * end the widget gives way by half of the finger's way and springs back: that is its edge effect. Owns its widget.
- * Nothing ticks once it rests.
+ * end the widget gives way by half of the finger's way and springs back: that is its edge effect. While it moves, a bar
+ * says where one is. Owns its widget. Nothing ticks once it rests.
  */
 class PannableViewport : public Widget
 {
@@ -55,9 +56,6 @@ public:
     /** Moves as little as needed to show a rectangle of the widget. */
     void ensureVisible(const QRectF &rect);
 
-signals:
-    void positionChanged(const QPointF &position);
-
 protected:
     bool sceneEventFilter(QGraphicsItem *watched, QEvent *event) override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
@@ -83,6 +81,7 @@ private:
     void arrange();
     QSizeF wantedSize() const;
     void moveWidget();
+    void showPosition();
     bool pans(Qt::Orientation direction) const { return m_directions.testFlag(direction); }
 
     ContentLayout *m_layout; ///< owned by the base
@@ -91,7 +90,9 @@ private:
     bool m_fitsWidget = false;
     Kinetics m_x;
     Kinetics m_y;
-    QPointF m_reported;
+    QPointF m_shownPosition;
+    PositionMark *m_xMark = nullptr; ///< made when it is first moved, as is the other
+    PositionMark *m_yMark = nullptr;
 
     // While a finger is down
     bool m_isPressed = false;

@@ -5,6 +5,8 @@
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/moveclock_p.h"
 #include "platform/toolkit/pannableviewport.h"
+#include "platform/toolkit/positionmark_p.h"
+#include "tests/support/look/items.h"
 #include "touch.h"
 
 #include <QScopeGuard>
@@ -38,9 +40,13 @@ private slots:
     void movesByTheWheel();
     void growsWithItsWidget();
     void showsWhatGetsTheFocus();
+    void saysWhereOneIsWhileItMoves();
+    void saysNothingWhereAllIsSeen();
     void isGoneFromWhenItsWidgetIsDeleted();
 
 private:
+    PositionMark *mark() const { return Support::itemIn<PositionMark>(m_viewport); }
+
     ApplicationWindow *m_window = nullptr;
     ApplicationPage *m_page = nullptr;
     PannableViewport *m_viewport = nullptr;
@@ -209,6 +215,43 @@ void TestPannableViewport::showsWhatGetsTheFocus()
     below->setGeometry(QRectF(0, 2000, 200, 60));
     below->setFocus(Qt::TabFocusReason);
     QCOMPARE(m_viewport->position().y(), 2060.0 - 800.0);
+}
+
+void TestPannableViewport::saysWhereOneIsWhileItMoves()
+{
+    m_viewport->setPosition({0, 100});
+    QVERIFY2(!mark(), "only a finger is told");
+    m_viewport->setPosition({0, 0});
+    Finger::press(*m_window, m_viewport, {200, 600});
+    Finger::moveTo(*m_window, m_viewport, {200, 580});
+    Finger::moveTo(*m_window, m_viewport, {200, 500});
+    QVERIFY(mark() && mark()->isVisible());
+    const QRectF atStart = mark()->boundingRect();
+    QVERIFY(atStart.left() > 470 && atStart.right() <= 480);
+    QVERIFY2(qAbs(atStart.height() - 800 * 800 / 4000) < 5, "as much of the edge as is seen of the widget");
+    Finger::moveTo(*m_window, m_viewport, {200, 300});
+    QVERIFY(mark()->boundingRect().top() > atStart.top());
+    m_viewport->setLayoutDirection(Qt::RightToLeft);
+    Finger::moveTo(*m_window, m_viewport, {200, 280});
+    QVERIFY(mark()->boundingRect().right() < 10);
+    Finger::release(*m_window, m_viewport, {200, 280});
+    QTRY_VERIFY(!m_viewport->isMoving());
+    QTRY_VERIFY(!mark()->isVisible());
+    // It is in nobody's way.
+    QCOMPARE(mark()->shape(), QPainterPath());
+}
+
+void TestPannableViewport::saysNothingWhereAllIsSeen()
+{
+    m_content->setPreferredSize(480, 500);
+    m_button->setGeometry(QRectF(0, 0, 480, 500));
+    QTRY_COMPARE(m_viewport->range().y(), 0.0);
+    Finger::press(*m_window, m_viewport, {200, 300});
+    Finger::moveTo(*m_window, m_viewport, {200, 320});
+    Finger::moveTo(*m_window, m_viewport, {200, 420});
+    QCOMPARE(m_viewport->position().y(), -50.0);
+    QVERIFY(!mark()->isVisible());
+    Finger::release(*m_window, m_viewport, {200, 420});
 }
 
 void TestPannableViewport::isGoneFromWhenItsWidgetIsDeleted()
