@@ -3,8 +3,6 @@
 #pragma once
 
 #include <QEvent>
-#include <QGraphicsItem>
-#include <QGraphicsObject>
 #include <QPointF>
 
 namespace Touch {
@@ -25,18 +23,3 @@ void send(Touch::Window &window, QEvent::Type type, const QPoint &place, quint64
 void drag(Touch::Window &window, const Touch::Widget *widget, const QPointF &from, const QPointF &to);
 
 } // namespace Finger
-
-/** The item of a class and an object name under another item; null if there is none. */
-template <typename Item>
-Item *findItem(const QGraphicsItem *parent, const QString &objectName)
-{
-    const QList<QGraphicsItem *> children = parent->childItems();
-    for (QGraphicsItem *child : children) {
-        auto *found = qobject_cast<Item *>(child->toGraphicsObject());
-        if (found && found->objectName() == objectName)
-            return found;
-        if (Item *deeper = findItem<Item>(child, objectName))
-            return deeper;
-    }
-    return nullptr;
-}

@@ -8,6 +8,7 @@
 #include "platform/toolkit/label.h"
 #include "platform/toolkit/layout.h"
 #include "platform/toolkit/linearlayoutpolicy.h"
+#include "tests/support/look/items.h"
 #include "touch.h"
 
 #include <memory>
@@ -154,7 +155,7 @@ void TestBasicListItem::letsAnOverrideBuildTheLayoutOnce()
     QCOMPARE(item->created, 0);
     m_column->addItem(item);
     QTRY_COMPARE(item->created, 1);
-    QVERIFY(findItem<Label>(item, QStringLiteral("OwnTitle")));
+    QVERIFY(Support::itemIn<Label>(item, QStringLiteral("OwnTitle")));
     QTRY_COMPARE(item->titleLabel()->geometry().left(), item->style().padding.left());
     QVERIFY(!item->subtitleLabel()->isVisible());
     QVERIFY(!item->imageWidget()->isVisible());

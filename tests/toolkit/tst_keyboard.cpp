@@ -86,7 +86,7 @@ private slots:
 
 private:
     QString focusedName() const;
-    Button *button(const QString &name) const { return findItem<Button>(m_page.get(), name); }
+    Button *button(const QString &name) const { return Support::itemIn<Button>(m_page.get(), name); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(m_window.get(), key, modifiers); }
     QImage pictureOf(const Widget *widget) const;
 

@@ -6,10 +6,13 @@
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/label.h"
+#include "platform/toolkit/theme.h"
 #include "platform/toolkit/topedge_p.h"
+#include "tests/support/look/items.h"
 #include "touch.h"
 
 #include <memory>
+#include <QScopeGuard>
 #include <QTest>
 
 using namespace Touch;
@@ -33,9 +36,10 @@ private slots:
     void leavesAgainByItself();
     void comesToTheKeyboard();
     void isMirrored();
+    void itsButtonsGrowWithTheText();
 
 private:
-    NavigationBar *barOf(const ApplicationPage &page) const;
+    NavigationBar *barOf(ApplicationPage &page) const;
 
     std::unique_ptr<ApplicationWindow> m_window;
     std::unique_ptr<ApplicationPage> m_page;
@@ -63,9 +67,9 @@ void TestNavigationBar::cleanup()
     m_window.reset();
 }
 
-NavigationBar *TestNavigationBar::barOf(const ApplicationPage &page) const
+NavigationBar *TestNavigationBar::barOf(ApplicationPage &page) const
 {
-    return findItem<NavigationBar>(&page, QStringLiteral("navigationBar"));
+    return Support::itemIn<NavigationBar>(&page, QStringLiteral("navigationBar"));
 }
 
 void TestNavigationBar::isAboveTheContentWhereItIsShown()
@@ -191,6 +195,18 @@ void TestNavigationBar::isMirrored()
     QTRY_VERIFY(home->sceneBoundingRect().center().x() > 400);
     m_page->setLayoutDirection(Qt::RightToLeft);
     QTRY_VERIFY(home->sceneBoundingRect().center().x() < 80);
+}
+
+void TestNavigationBar::itsButtonsGrowWithTheText()
+{
+    m_page->appear(m_window.get());
+    const Button *home = barOf(*m_page)->homeButton();
+    QTRY_COMPARE(home->size(), QSizeF(48, 48));
+    QCOMPARE(home->style().iconSize, QSizeF(24, 24));
+    Theme::instance().setTextScale(2);
+    const auto restore = qScopeGuard([] { Theme::instance().setTextScale(1); });
+    QTRY_COMPARE(home->size(), QSizeF(60, 60));
+    QCOMPARE(home->style().iconSize, QSizeF(36, 36));
 }
 
 QTEST_MAIN(TestNavigationBar)
