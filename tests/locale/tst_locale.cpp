@@ -23,6 +23,7 @@ private Q_SLOTS:
     void tellsWhenTheTimeFormatIsSet();
     void copiesAreIndependent();
     void tellsWhenTheDefaultIsReplaced();
+    void hasTheValuesThatCallersCountOn();
 };
 
 void tst_Locale::knowsScriptsAndDirection_data()
@@ -154,6 +155,12 @@ void tst_Locale::tellsWhenTheDefaultIsReplaced()
     QCOMPARE(spy.count(), 1);
     Locale::setDefault(Locale::getDefault());
     QCOMPARE(spy.count(), 1);
+}
+
+void tst_Locale::hasTheValuesThatCallersCountOn()
+{
+    QCOMPARE(int(Locale::TimeCategory), 1);
+    QCOMPARE(int(Locale::TimeMedium), 2);
 }
 
 QTEST_GUILESS_MAIN(tst_Locale)

@@ -32,6 +32,8 @@ public:
     void launch(const QStringList &arguments) override
     {
         say(arguments.join(QLatin1Char(' ')).toUtf8());
+        if (arguments.contains(QLatin1String("again")))
+            launchAnotherWithQProcess();
         if (arguments.contains(QLatin1String("quit")))
             QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     }

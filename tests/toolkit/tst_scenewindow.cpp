@@ -2,16 +2,21 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/applicationpage.h"
 #include "platform/toolkit/applicationwindow.h"
+#include "platform/toolkit/banner.h"
 #include "platform/toolkit/basicsheetheader.h"
 #include "platform/toolkit/button.h"
+#include "platform/toolkit/messagebox.h"
 #include "platform/toolkit/sheet.h"
+#include "tests/support/look/items.h"
 #include "touch.h"
 
+#include <memory>
 #include <QAction>
 #include <QGraphicsScene>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
+#include <QVariantAnimation>
 
 using namespace Touch;
 
@@ -74,6 +79,8 @@ private slots:
     void remembersTheDisplayModesOfComponents();
     void showsTheActionsOfItsHeader();
     void canAppearAgainWhileItGoes();
+    void movesForAFifthToAQuarterOfASecond_data();
+    void movesForAFifthToAQuarterOfASecond();
     void pansItsPageOnlyIfItMay();
 
 private:
@@ -238,6 +245,12 @@ void TestSceneWindow::stopsWhatTicksWhileItIsCovered()
 
 void TestSceneWindow::remembersTheDisplayModesOfComponents()
 {
+    QCOMPARE(int(ApplicationPage::HomeButton), 1);
+    QCOMPARE(int(ApplicationPage::EscapeButton), 2);
+    QCOMPARE(int(ApplicationPage::NavigationBar), 4);
+    QCOMPARE(int(ApplicationPage::Show), 0);
+    QCOMPARE(int(ApplicationPage::AutoHide), 1);
+    QCOMPARE(int(ApplicationPage::Hide), 2);
     QCOMPARE(m_page->componentDisplayMode(ApplicationPage::HomeButton), ApplicationPage::Show);
     QCOMPARE(m_page->componentDisplayMode(ApplicationPage::NavigationBar), ApplicationPage::Hide);
     m_page->setComponentsDisplayMode(ApplicationPage::AllComponents, ApplicationPage::Hide);
@@ -258,8 +271,8 @@ void TestSceneWindow::showsTheActionsOfItsHeader()
     sheet.setHeaderWidget(header);
     sheet.appear(m_window);
     QTRY_VERIFY(!sheet.isInTransition());
-    auto *left = findItem<Button>(header, QStringLiteral("negativeButton"));
-    auto *right = findItem<Button>(header, QStringLiteral("positiveButton"));
+    auto *left = Support::itemIn<Button>(header, QStringLiteral("negativeButton"));
+    auto *right = Support::itemIn<Button>(header, QStringLiteral("positiveButton"));
     QCOMPARE(left->text(), QStringLiteral("Cancel"));
     QVERIFY(left->geometry().right() < right->geometry().left());
     QVERIFY(right->size().height() >= 48);
@@ -288,6 +301,30 @@ void TestSceneWindow::canAppearAgainWhileItGoes()
                  (QStringList{QStringLiteral("appeared"), QStringLiteral("disappeared"), QStringLiteral("appeared")}));
     QVERIFY(sheet.isVisible());
     QCOMPARE(sheet.y(), 0.0);
+}
+
+void TestSceneWindow::movesForAFifthToAQuarterOfASecond_data()
+{
+    QTest::addColumn<SceneWindow *>("sceneWindow");
+    QTest::newRow("page") << static_cast<SceneWindow *>(new ApplicationPage);
+    QTest::newRow("sheet") << static_cast<SceneWindow *>(new Sheet);
+    QTest::newRow("dialog") << static_cast<SceneWindow *>(new MessageBox(QStringLiteral("Title")));
+    QTest::newRow("banner") << static_cast<SceneWindow *>(new Banner);
+}
+
+void TestSceneWindow::movesForAFifthToAQuarterOfASecond()
+{
+    QFETCH(SceneWindow *, sceneWindow);
+    const std::unique_ptr<SceneWindow> owner(sceneWindow);
+    const auto duration = [sceneWindow] {
+        const auto *animation = sceneWindow->findChild<QVariantAnimation *>({}, Qt::FindDirectChildrenOnly);
+        return animation && animation->state() == QAbstractAnimation::Running ? animation->duration() : 0;
+    };
+    sceneWindow->appear(m_window);
+    QVERIFY(duration() >= 200 && duration() <= 250);
+    QTRY_VERIFY(!sceneWindow->isInTransition());
+    sceneWindow->dismiss();
+    QVERIFY(duration() >= 200 && duration() <= 250);
 }
 
 void TestSceneWindow::pansItsPageOnlyIfItMay()
