@@ -29,9 +29,6 @@ void TonePreview::stop()
 {
     if (!m_pipeline)
         return;
-    m_pipeline->disconnect(this);
-    m_pipeline->halt();
-    // Not deleted at once: it may be the one that just called.
-    m_pipeline.release()->deleteLater();
+    Sound::TonePipeline::end(m_pipeline, this);
     Q_EMIT stopped();
 }

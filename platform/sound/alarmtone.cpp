@@ -14,16 +14,6 @@ std::unique_ptr<TonePipeline> create(const QString &path, const OutputChoice &ou
     return path.isEmpty() ? TonePipeline::ofBeeps(reason, output) : TonePipeline::ofFile(path, reason, output);
 }
 
-void end(std::unique_ptr<TonePipeline> &pipeline, QObject *follower)
-{
-    if (!pipeline)
-        return;
-    pipeline->disconnect(follower);
-    pipeline->halt();
-    // Not deleted at once: it may be the one that just called.
-    pipeline.release()->deleteLater();
-}
-
 } // namespace
 
 AlarmTone::AlarmTone(QObject *parent)
@@ -53,8 +43,8 @@ bool AlarmTone::start(const QString &path, int way, double amplitude, QString *r
 
 void AlarmTone::stop()
 {
-    end(m_usual, this);
-    end(m_speaker, this);
+    TonePipeline::end(m_usual, this);
+    TonePipeline::end(m_speaker, this);
     m_outputs.letGo();
 }
 
@@ -70,7 +60,7 @@ void AlarmTone::setVolume(double amplitude)
 // The usual output is watched; what becomes of this one beside it is no reason to give up the tone.
 void AlarmTone::playThrough(const QString &speaker)
 {
-    end(m_speaker, this);
+    TonePipeline::end(m_speaker, this);
     if (speaker.isEmpty())
         return;
     QString reason;
@@ -81,7 +71,7 @@ void AlarmTone::playThrough(const QString &speaker)
     }
     connect(m_speaker.get(), &TonePipeline::failed, this, [this](const QString &why) {
         qCWarning(lcSound, "The loudspeaker, ignoring: %ls", qUtf16Printable(why));
-        end(m_speaker, this);
+        TonePipeline::end(m_speaker, this);
     });
     m_speaker->setVolume(m_amplitude);
     m_speaker->start();

@@ -117,6 +117,16 @@ TonePipeline::~TonePipeline()
     gst_object_unref(m_pipeline);
 }
 
+void TonePipeline::end(std::unique_ptr<TonePipeline> &pipeline, const QObject *follower)
+{
+    if (!pipeline)
+        return;
+    pipeline->disconnect(follower);
+    pipeline->halt();
+    // Not deleted at once: it may be the one that just called.
+    pipeline.release()->deleteLater();
+}
+
 void TonePipeline::start()
 {
     gst_element_set_state(m_pipeline, GST_STATE_PLAYING);

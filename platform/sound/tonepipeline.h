@@ -29,6 +29,8 @@ public:
     /** Plays two beeps a second, which need no file and no decoder; fails as ofFile() does. */
     [[nodiscard]] static std::unique_ptr<TonePipeline> ofBeeps(QString *reason, const OutputChoice &output = {});
     ~TonePipeline() override;
+    /** Halts one, if there is one, and gives it up; its follower hears no more of it. Also from within its signals. */
+    static void end(std::unique_ptr<TonePipeline> &pipeline, const QObject *follower);
 
     void start();
     void halt(); ///< silent when it returns
