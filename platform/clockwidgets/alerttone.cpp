@@ -23,6 +23,5 @@ void AlertTone::setTone(const QString &fileName, const QString &niceName)
 
 QString AlertTone::niceNameOf(const QString &fileName)
 {
-    const QString name = Tones::nameFromFile(fileName);
-    return name == QLatin1String("No sound") ? qtTrId("qtn_sond_ringtone_nosound") : name;
+    return Tones::isNoSound(fileName) ? qtTrId("qtn_sond_ringtone_nosound") : Tones::nameFromFile(fileName);
 }

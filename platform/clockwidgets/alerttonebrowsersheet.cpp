@@ -204,7 +204,7 @@ void AlertToneBrowserSheet::hear(const QString &path, Sound::Probe::Verdict verd
 void AlertToneBrowserSheet::select(const QString &path)
 {
     m_model->setSelected(path);
-    if (Tones::nameFromFile(path) == QLatin1String("No sound"))
+    if (Tones::isNoSound(path))
         return;
     m_model->setPlaying(path);
     m_preview->play(path);

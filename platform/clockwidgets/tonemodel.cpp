@@ -90,8 +90,7 @@ void ToneModel::arrange()
 
     QList<Tone> tones;
     for (const QString &path : std::as_const(m_shipped)) {
-        const bool isSilence = Tones::nameFromFile(path) == QLatin1String("No sound");
-        tones += {path, bestTitle(path), isSilence ? Tone::Silence : Tone::Shipped};
+        tones += {path, bestTitle(path), Tones::isNoSound(path) ? Tone::Silence : Tone::Shipped};
     }
     for (const QString &path : std::as_const(own))
         tones += {path, bestTitle(path), Tone::Own};

@@ -64,4 +64,9 @@ QString nameFromFile(const QString &path)
     return name.replace(QLatin1Char('_'), QLatin1Char(' '));
 }
 
+bool isNoSound(const QString &path)
+{
+    return nameFromFile(path) == QLatin1String("No sound");
+}
+
 } // namespace Tones

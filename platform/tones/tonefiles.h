@@ -36,4 +36,7 @@ struct FileScan
 /** A name for a tone without a title, from its file: "Morning bell" for "…/Morning_bell.aac". */
 [[nodiscard]] QString nameFromFile(const QString &path);
 
+/** The tone for those who want none: its file is called "No sound", and is silent. */
+[[nodiscard]] bool isNoSound(const QString &path);
+
 } // namespace Tones

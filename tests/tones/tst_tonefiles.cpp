@@ -100,6 +100,7 @@ void TestToneFiles::aNameIsMadeFromTheFile_data()
     QTest::newRow("/a/Morning_bell.aac") << "Morning bell";
     QTest::newRow("/a/No. 5.live.mp3") << "No. 5.live";
     QTest::newRow("/a.b/whole") << "whole";
+    QTest::newRow("/a/No_sound.aac") << "No sound";
     QTest::newRow("/a/.aac") << "";
 }
 
@@ -107,6 +108,7 @@ void TestToneFiles::aNameIsMadeFromTheFile()
 {
     QFETCH(QString, name);
     QCOMPARE(Tones::nameFromFile(QTest::currentDataTag()), name);
+    QCOMPARE(Tones::isNoSound(QTest::currentDataTag()), name == "No sound");
 }
 
 QTEST_GUILESS_MAIN(TestToneFiles)
