@@ -2,19 +2,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/clockwidgets/alerttone.h"
 #include "platform/clockwidgets/alerttonebrowsersheet.h"
-#include "platform/locale/locale.h"
 #include "platform/tones/tonefiles.h"
-#include "platform/tones/tonefiller.h"
 #include "platform/toolkit/applicationwindow.h"
-#include "platform/toolkit/basicsheetheader.h"
 #include "platform/toolkit/list.h"
-#include "platform/toolkit/theme.h"
-#include "tests/ringer/soundserver.h"
+#include "tests/clockwidgets/tonescene.h"
 #include "tests/support/look/items.h"
-#include "tests/support/places.h"
 #include "tests/tones/tonefile.h"
 
-#include <memory>
 #include <QAbstractItemModel>
 #include <QAction>
 #include <QApplication>
@@ -22,20 +16,6 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-
-using Touch::Locale;
-using Touch::Theme;
-
-namespace {
-
-constexpr auto Patience = 30'000;
-
-QString shipped(const QString &name)
-{
-    return Places::sharedData("sounds/ring-tones/" + name + ".aac");
-}
-
-} // namespace
 
 class tst_AlertToneBrowserSheet : public QObject
 {
@@ -67,81 +47,32 @@ private Q_SLOTS:
     void looks();
 
 private:
-    [[nodiscard]] Touch::List *list() const { return Support::itemIn<Touch::List>(m_sheet.get()); }
-    [[nodiscard]] QAbstractItemModel *model() const { return list()->itemModel(); }
-    [[nodiscard]] QStringList titles() const;
-    [[nodiscard]] int rowOf(const QString &title) const { return int(titles().indexOf(title)); }
-    void tap(const QString &title);
-    void fillStore();
-    [[nodiscard]] QAction *action(bool completes) const;
+    [[nodiscard]] Touch::List *list() const { return m_scene.tones(); }
+    [[nodiscard]] int rowOf(const QString &title) const { return int(m_scene.titles().indexOf(title)); }
+    void tap(const QString &title) { m_scene.tap(list()->cellAt(rowOf(title))); }
 
-    Support::SoundServer m_server;
     QString m_music;
-    std::unique_ptr<Touch::ApplicationWindow> m_window;
-    std::unique_ptr<AlertTone> m_tone;
-    std::unique_ptr<AlertToneBrowserSheet> m_sheet;
+    ToneScene m_scene;
 };
 
 void tst_AlertToneBrowserSheet::initTestCase()
 {
-    qputenv("CLOCK_REDUCED_MOTION", "1");
-    Locale locale("en_GB");
-    QVERIFY(locale.installTrCatalog("sounds"));
-    Locale::setDefault(locale);
-    QVERIFY(m_server.start());
+    QVERIFY(m_scene.prepare());
     m_music = Tones::musicFolder();
     QVERIFY(Support::writeTone(m_music + "/Band/02.mp3", "Zebra crossing"));
     QVERIFY(Support::writeTone(m_music + "/an_untitled_song.mp3", ""));
-    fillStore();
-}
-
-void tst_AlertToneBrowserSheet::fillStore()
-{
-    Tones::ToneFiller filler;
-    QSignalSpy filled(&filler, &Tones::ToneFiller::filled);
-    filler.start();
-    QVERIFY(filled.wait(Patience));
+    QVERIFY(m_scene.fillStore());
 }
 
 void tst_AlertToneBrowserSheet::init()
 {
-    m_window = std::make_unique<Touch::ApplicationWindow>();
-    m_window->resize(480, 854);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    m_tone = std::make_unique<AlertTone>(shipped("Clock alert 1"));
-    m_sheet = std::make_unique<AlertToneBrowserSheet>(m_tone.get());
-    m_sheet->appear(m_window.get());
-    QTRY_VERIFY_WITH_TIMEOUT(rowOf("Zebra crossing") >= 0, Patience);
-    QTRY_VERIFY(list()->cellAt(0));
+    QVERIFY(m_scene.open());
 }
 
 void tst_AlertToneBrowserSheet::cleanup()
 {
-    m_sheet.reset();
-    m_window.reset();
-}
-
-QStringList tst_AlertToneBrowserSheet::titles() const
-{
-    QStringList titles;
-    for (int row = 0; row < model()->rowCount(); ++row)
-        titles += model()->index(row, 0).data().toString();
-    return titles;
-}
-
-void tst_AlertToneBrowserSheet::tap(const QString &title)
-{
-    const auto *cell = list()->cellAt(rowOf(title));
-    QVERIFY(cell);
-    QTest::mouseClick(m_window->viewport(), Qt::LeftButton, {},
-                      m_window->mapFromScene(cell->sceneBoundingRect().center()));
-}
-
-QAction *tst_AlertToneBrowserSheet::action(bool completes) const
-{
-    const auto *header = qobject_cast<Touch::BasicSheetHeader *>(m_sheet->headerWidget());
-    return completes ? header->positiveAction() : header->negativeAction();
+    m_scene.close();
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 void tst_AlertToneBrowserSheet::aToneIsCalledByItsFile_data()
@@ -181,7 +112,7 @@ void tst_AlertToneBrowserSheet::aToneSpeaksOfChangesOnly()
 
 void tst_AlertToneBrowserSheet::noSoundComesFirstThenTonesThenMusic()
 {
-    QCOMPARE(titles(),
+    QCOMPARE(m_scene.titles(),
              QStringList({"No sound", "Clock alert 1", "Courier", "Dewdrops", "First Light", "Glass Garden", "Harbour",
                           "Marimba Steps", "Morning Birds", "Music Box", "Pulse", "Reveille", "Thumb Piano",
                           "Village Bells", "an untitled song", "Zebra crossing"}));
@@ -189,8 +120,8 @@ void tst_AlertToneBrowserSheet::noSoundComesFirstThenTonesThenMusic()
 
 void tst_AlertToneBrowserSheet::theTonesAreThereBeforeTheStoreAnswers()
 {
-    AlertToneBrowserSheet sheet(m_tone.get());
-    sheet.appear(m_window.get());
+    AlertToneBrowserSheet sheet(m_scene.tone.get());
+    sheet.appear(m_scene.window.get());
     const auto *tones = Support::itemIn<Touch::List>(&sheet)->itemModel();
     QCOMPARE(tones->rowCount(), 14);
     QCOMPARE(tones->index(0, 0).data().toString(), "No sound");
@@ -203,7 +134,7 @@ void tst_AlertToneBrowserSheet::aFileOfAnotherFolderIsListedWhileItIsChosen()
     QVERIFY(Support::writeTone(path, ""));
     AlertTone elsewhere(path);
     AlertToneBrowserSheet sheet(&elsewhere);
-    sheet.appear(m_window.get());
+    sheet.appear(m_scene.window.get());
     const auto *tones = Support::itemIn<Touch::List>(&sheet)->itemModel();
     QCOMPARE(tones->rowCount(), 15);
     QCOMPARE(tones->index(14, 0).data().toString(), "My own");
@@ -221,7 +152,7 @@ void tst_AlertToneBrowserSheet::aToneOfAnotherDataFolderIsTheListedOne()
     QVERIFY(QFile::copy(shipped("Courier"), path));
     AlertTone again(path);
     AlertToneBrowserSheet sheet(&again);
-    sheet.appear(m_window.get());
+    sheet.appear(m_scene.window.get());
     const auto *cells = Support::itemIn<Touch::List>(&sheet);
     QCOMPARE(cells->itemModel()->rowCount(), 14);
     QTRY_VERIFY(cells->cellAt(2));
@@ -234,7 +165,7 @@ void tst_AlertToneBrowserSheet::aFileThatIsGoneIsNotListed()
 {
     AlertTone gone("/elsewhere/Gone.ogg");
     AlertToneBrowserSheet sheet(&gone);
-    sheet.appear(m_window.get());
+    sheet.appear(m_scene.window.get());
     QCOMPARE(Support::itemIn<Touch::List>(&sheet)->itemModel()->rowCount(), 14);
     QCOMPARE(sheet.selectedFile(), "/elsewhere/Gone.ogg");
 }
@@ -243,51 +174,51 @@ void tst_AlertToneBrowserSheet::theChosenToneIsInSight()
 {
     AlertTone last(shipped("Village Bells"));
     AlertToneBrowserSheet sheet(&last);
-    sheet.appear(m_window.get());
+    sheet.appear(m_scene.window.get());
     auto *tones = Support::itemIn<Touch::List>(&sheet);
     QTRY_VERIFY(tones->cellAt(13));
-    QTRY_VERIFY(m_window->sceneRect().contains(tones->cellAt(13)->sceneBoundingRect()));
+    QTRY_VERIFY(m_scene.window->sceneRect().contains(tones->cellAt(13)->sceneBoundingRect()));
 }
 
 void tst_AlertToneBrowserSheet::aTapChoosesAndPlays()
 {
-    QCOMPARE(m_sheet->selectedFile(), shipped("Clock alert 1"));
-    QCOMPARE(m_sheet->playedFile(), QString());
+    QCOMPARE(m_scene.sheet->selectedFile(), shipped("Clock alert 1"));
+    QCOMPARE(m_scene.sheet->playedFile(), QString());
     tap("Courier");
-    QCOMPARE(m_sheet->selectedFile(), shipped("Courier"));
-    QCOMPARE(m_sheet->playedFile(), shipped("Courier"));
+    QCOMPARE(m_scene.sheet->selectedFile(), shipped("Courier"));
+    QCOMPARE(m_scene.sheet->playedFile(), shipped("Courier"));
     // At once as loud as an alarm becomes after half a minute.
-    QTRY_VERIFY_WITH_TIMEOUT(m_server.peak(1000) > 0.4f, Patience);
-    QCOMPARE(m_tone->fileName(), shipped("Clock alert 1"));
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.server.peak(1000) > 0.4f, Patience);
+    QCOMPARE(m_scene.tone->fileName(), shipped("Clock alert 1"));
 }
 
 void tst_AlertToneBrowserSheet::anotherTapPlaysAnotherToneAlone()
 {
     tap("Courier");
-    QTRY_VERIFY_WITH_TIMEOUT(m_server.peak(300) > 0.1f, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.server.peak(300) > 0.1f, Patience);
     tap("Harbour");
-    QCOMPARE(m_sheet->playedFile(), shipped("Harbour"));
+    QCOMPARE(m_scene.sheet->playedFile(), shipped("Harbour"));
     // Full scale could not hold two.
-    QTRY_VERIFY_WITH_TIMEOUT(m_server.peak(300) > 0.1f, Patience);
-    QVERIFY(m_server.peak(300) < 0.95f);
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.server.peak(300) > 0.1f, Patience);
+    QVERIFY(m_scene.server.peak(300) < 0.95f);
 }
 
 void tst_AlertToneBrowserSheet::aSecondTapOnAToneEndsItsSound()
 {
     tap("Courier");
     tap("Courier");
-    QCOMPARE(m_sheet->playedFile(), QString());
-    QCOMPARE(m_sheet->selectedFile(), shipped("Courier"));
-    QTRY_COMPARE_WITH_TIMEOUT(m_server.peak(300), 0.0f, Patience);
+    QCOMPARE(m_scene.sheet->playedFile(), QString());
+    QCOMPARE(m_scene.sheet->selectedFile(), shipped("Courier"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.server.peak(300), 0.0f, Patience);
 }
 
 void tst_AlertToneBrowserSheet::noSoundIsSilent()
 {
     tap("Courier");
     tap("No sound");
-    QCOMPARE(m_sheet->playedFile(), QString());
-    QCOMPARE(m_sheet->selectedFile(), shipped("No sound"));
-    QTRY_COMPARE_WITH_TIMEOUT(m_server.peak(300), 0.0f, Patience);
+    QCOMPARE(m_scene.sheet->playedFile(), QString());
+    QCOMPARE(m_scene.sheet->selectedFile(), shipped("No sound"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.server.peak(300), 0.0f, Patience);
 }
 
 void tst_AlertToneBrowserSheet::theSoundEndsWithTheSheet_data()
@@ -301,79 +232,66 @@ void tst_AlertToneBrowserSheet::theSoundEndsWithTheSheet()
 {
     QFETCH(QString, way);
     tap("Courier");
-    QTRY_VERIFY_WITH_TIMEOUT(m_server.peak(300) > 0.1f, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.server.peak(300) > 0.1f, Patience);
     if (way == "window hidden")
-        m_window->hide();
+        m_scene.window->hide();
     else if (way == "disappear")
-        m_sheet->disappear();
+        m_scene.sheet->disappear();
     else
-        action(way == "done")->trigger();
-    QCOMPARE(m_sheet->playedFile(), QString());
-    QTRY_COMPARE_WITH_TIMEOUT(m_server.peak(300), 0.0f, Patience);
+        (way == "done" ? m_scene.done() : m_scene.cancel())->trigger();
+    QCOMPARE(m_scene.sheet->playedFile(), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.server.peak(300), 0.0f, Patience);
 }
 
 void tst_AlertToneBrowserSheet::doneTakesTheTone()
 {
-    QSignalSpy changed(m_tone.get(), &AlertTone::changed);
+    QSignalSpy changed(m_scene.tone.get(), &AlertTone::changed);
     tap("Harbour");
-    action(true)->trigger();
+    m_scene.done()->trigger();
     QCOMPARE(changed.size(), 1);
-    QCOMPARE(m_tone->fileName(), shipped("Harbour"));
-    QCOMPARE(m_tone->niceName(), "Harbour");
-    QVERIFY(!m_sheet->isOnDisplay());
+    QCOMPARE(m_scene.tone->fileName(), shipped("Harbour"));
+    QCOMPARE(m_scene.tone->niceName(), "Harbour");
+    QVERIFY(!m_scene.sheet->isOnDisplay());
 }
 
 void tst_AlertToneBrowserSheet::cancelKeepsTheTone()
 {
-    QSignalSpy changed(m_tone.get(), &AlertTone::changed);
+    QSignalSpy changed(m_scene.tone.get(), &AlertTone::changed);
     tap("Harbour");
-    action(false)->trigger();
+    m_scene.cancel()->trigger();
     QCOMPARE(changed.size(), 0);
-    QCOMPARE(m_tone->fileName(), shipped("Clock alert 1"));
-    QVERIFY(!m_sheet->isOnDisplay());
+    QCOMPARE(m_scene.tone->fileName(), shipped("Clock alert 1"));
+    QVERIFY(!m_scene.sheet->isOnDisplay());
     // The next time it begins with the tone that is.
-    m_sheet->appear(m_window.get());
-    QCOMPARE(m_sheet->selectedFile(), shipped("Clock alert 1"));
+    m_scene.sheet->appear(m_scene.window.get());
+    QCOMPARE(m_scene.sheet->selectedFile(), shipped("Clock alert 1"));
 }
 
 void tst_AlertToneBrowserSheet::keysReachEveryTone()
 {
     list()->cellAt(0)->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(m_window.get(), Qt::Key_Down);
-    QTest::keyClick(m_window.get(), Qt::Key_Down);
-    QTest::keyClick(m_window.get(), Qt::Key_Space);
-    QCOMPARE(m_sheet->selectedFile(), shipped("Courier"));
+    QTest::keyClick(m_scene.window.get(), Qt::Key_Down);
+    QTest::keyClick(m_scene.window.get(), Qt::Key_Down);
+    QTest::keyClick(m_scene.window.get(), Qt::Key_Space);
+    QCOMPARE(m_scene.sheet->selectedFile(), shipped("Courier"));
     QVERIFY(list()->cellAt(2)->accessibleName().contains("Courier"));
     QTRY_VERIFY(list()->cellAt(2)->accessibleName().contains("selected"));
 }
 
 void tst_AlertToneBrowserSheet::looks_data()
 {
-    QTest::addColumn<Theme::Variant>("variant");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::newRow("light") << Theme::Variant::Light << Qt::LeftToRight;
-    QTest::newRow("dark") << Theme::Variant::Dark << Qt::LeftToRight;
-    QTest::newRow("rtl") << Theme::Variant::Dark << Qt::RightToLeft;
+    addLooks();
 }
 
 void tst_AlertToneBrowserSheet::looks()
 {
-    QFETCH(Theme::Variant, variant);
-    QFETCH(Qt::LayoutDirection, direction);
-    Theme::instance().setVariant(variant);
-    cleanup();
-    QApplication::setLayoutDirection(direction);
-    init();
-    const QImage before = m_window->grab().toImage();
+    QVERIFY(m_scene.openInLook());
+    const QImage before = m_scene.window->grab().toImage();
     tap("Dewdrops");
     QImage image;
-    QTRY_VERIFY((image = m_window->grab().toImage()) != before);
+    QTRY_VERIFY((image = m_scene.window->grab().toImage()) != before);
     QTRY_VERIFY(list()->cellAt(3)->accessibleName().contains("selected"));
-    image = m_window->grab().toImage();
-    const QDir folder(QCoreApplication::applicationDirPath() + "/../screenshots");
-    QVERIFY(QDir().mkpath(folder.path()));
-    QVERIFY(image.save(folder.filePath(QStringLiteral("tonebrowser-%1.png").arg(QTest::currentDataTag()))));
-    QApplication::setLayoutDirection(Qt::LeftToRight);
+    QVERIFY(m_scene.keepPicture("tonebrowser"));
 }
 
 QTEST_MAIN(tst_AlertToneBrowserSheet)

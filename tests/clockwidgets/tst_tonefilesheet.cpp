@@ -4,40 +4,20 @@
 
 #include "platform/clockwidgets/alerttone.h"
 #include "platform/clockwidgets/alerttonebrowsersheet.h"
-#include "platform/locale/locale.h"
 #include "platform/tones/tonefiles.h"
-#include "platform/tones/tonefiller.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/banner.h"
 #include "platform/toolkit/basiclistitem.h"
 #include "platform/toolkit/basicsheetheader.h"
 #include "platform/toolkit/list.h"
-#include "platform/toolkit/theme.h"
-#include "tests/ringer/soundserver.h"
+#include "tests/clockwidgets/tonescene.h"
 #include "tests/support/look/items.h"
-#include "tests/support/places.h"
 #include "tests/tones/tonefile.h"
 
-#include <memory>
 #include <QAction>
 #include <QApplication>
 #include <QDir>
-#include <QSignalSpy>
 #include <QTest>
-
-using Touch::Locale;
-using Touch::Theme;
-
-namespace {
-
-constexpr auto Patience = 30'000;
-
-QString shipped(const QString &name)
-{
-    return Places::sharedData("sounds/ring-tones/" + name + ".aac");
-}
-
-} // namespace
 
 /// A file of one's own as a tone, as the user finds it from the tone browser.
 class tst_ToneFileSheet : public QObject
@@ -68,64 +48,45 @@ private:
     [[nodiscard]] ToneFileSheet *files() const;
     [[nodiscard]] Touch::List *list() const { return Support::itemIn<Touch::List>(files(), "toneFileList"); }
     [[nodiscard]] QString notice() const;
-    [[nodiscard]] QStringList tones() const;
     void openFiles();
     /// Taps the rows of these names, one after the other.
     void follow(const QStringList &names);
-    void keepPicture(const QString &name);
 
-    Support::SoundServer m_server;
     const QString m_folder = QDir::home().filePath("Downloads/Ringtones");
-    std::unique_ptr<Touch::ApplicationWindow> m_window;
-    std::unique_ptr<AlertTone> m_tone;
-    std::unique_ptr<AlertToneBrowserSheet> m_sheet;
+    ToneScene m_scene;
 };
 
 void tst_ToneFileSheet::initTestCase()
 {
-    qputenv("CLOCK_REDUCED_MOTION", "1");
-    Locale locale("en_GB");
-    QVERIFY(locale.installTrCatalog("sounds"));
-    Locale::setDefault(locale);
-    QVERIFY(m_server.start());
+    QVERIFY(m_scene.prepare());
     QVERIFY(QDir().mkpath(m_folder));
     QVERIFY(QDir::home().mkpath("Downloads/empty"));
     QVERIFY(QFile::copy(shipped("Courier"), m_folder + "/Bell_2.aac"));
     QVERIFY(Support::writeTone(m_folder + "/broken.mp3", "Broken"));
     QVERIFY(Support::writeSine(m_folder + "/silent.wav", 0, 5000));
     QVERIFY(Support::writeTone(Tones::musicFolder() + "/Zebra.mp3", "Zebra crossing"));
-    Tones::ToneFiller filler;
-    QSignalSpy filled(&filler, &Tones::ToneFiller::filled);
-    filler.start();
-    QVERIFY(filled.wait(Patience));
+    QVERIFY(m_scene.fillStore());
 }
 
 void tst_ToneFileSheet::init()
 {
-    m_window = std::make_unique<Touch::ApplicationWindow>();
-    m_window->resize(480, 854);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    m_tone = std::make_unique<AlertTone>(shipped("Clock alert 1"));
-    m_sheet = std::make_unique<AlertToneBrowserSheet>(m_tone.get());
-    m_sheet->appear(m_window.get());
-    QTRY_VERIFY_WITH_TIMEOUT(tones().contains("Zebra crossing"), Patience);
+    QVERIFY(m_scene.open());
 }
 
 void tst_ToneFileSheet::cleanup()
 {
-    m_sheet.reset();
-    m_window.reset();
+    m_scene.close();
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 ToneFileSheet *tst_ToneFileSheet::files() const
 {
-    return qobject_cast<ToneFileSheet *>(m_window->topSceneWindow());
+    return qobject_cast<ToneFileSheet *>(m_scene.window->topSceneWindow());
 }
 
 QString tst_ToneFileSheet::notice() const
 {
-    const auto sceneWindows = m_window->sceneWindows();
+    const auto sceneWindows = m_scene.window->sceneWindows();
     for (Touch::SceneWindow *sceneWindow : sceneWindows) {
         if (auto *banner = qobject_cast<Touch::Banner *>(sceneWindow); banner && banner->isOnDisplay())
             return banner->title();
@@ -133,22 +94,12 @@ QString tst_ToneFileSheet::notice() const
     return {};
 }
 
-QStringList tst_ToneFileSheet::tones() const
-{
-    const auto *model = Support::itemIn<Touch::List>(m_sheet.get())->itemModel();
-    QStringList titles;
-    for (int row = 0; row < model->rowCount(); ++row)
-        titles += model->index(row, 0).data().toString();
-    return titles;
-}
-
 void tst_ToneFileSheet::openFiles()
 {
-    auto *row = Support::itemIn<Touch::BasicListItem>(m_sheet.get(), "chooseFileItem");
+    auto *row = Support::itemIn<Touch::BasicListItem>(m_scene.sheet.get(), "chooseFileItem");
     QVERIFY(row);
     QCOMPARE(row->title(), "Choose a file…");
-    QTest::mouseClick(m_window->viewport(), Qt::LeftButton, {},
-                      m_window->mapFromScene(row->sceneBoundingRect().center()));
+    m_scene.tap(row);
     QVERIFY(files());
 }
 
@@ -160,8 +111,7 @@ void tst_ToneFileSheet::follow(const QStringList &names)
         while (row < model->rowCount() && model->index(row, 0).data().toString() != name)
             ++row;
         QTRY_VERIFY2(list()->cellAt(row), qPrintable(name));
-        QTest::mouseClick(m_window->viewport(), Qt::LeftButton, {},
-                          m_window->mapFromScene(list()->cellAt(row)->sceneBoundingRect().center()));
+        m_scene.tap(list()->cellAt(row));
     }
 }
 
@@ -170,15 +120,15 @@ void tst_ToneFileSheet::aFileThatIsFoundIsHeardAndChosen()
     openFiles();
     follow({"Downloads", "Ringtones", "Bell_2.aac"});
     QTRY_VERIFY_WITH_TIMEOUT(!files(), Patience);
-    QVERIFY(m_sheet->isOnDisplay());
-    QCOMPARE(m_sheet->selectedFile(), m_folder + "/Bell_2.aac");
-    QCOMPARE(m_sheet->playedFile(), m_folder + "/Bell_2.aac");
-    QVERIFY(tones().contains("Bell 2"));
+    QVERIFY(m_scene.sheet->isOnDisplay());
+    QCOMPARE(m_scene.sheet->selectedFile(), m_folder + "/Bell_2.aac");
+    QCOMPARE(m_scene.sheet->playedFile(), m_folder + "/Bell_2.aac");
+    QVERIFY(m_scene.titles().contains("Bell 2"));
     QCOMPARE(notice(), QString());
-    QTRY_VERIFY_WITH_TIMEOUT(m_server.peak(300) > 0.1f, Patience);
-    const auto *cells = Support::itemIn<Touch::List>(m_sheet.get());
-    const int row = int(tones().indexOf("Bell 2"));
-    QTRY_VERIFY(cells->cellAt(row) && m_window->sceneRect().contains(cells->cellAt(row)->sceneBoundingRect()));
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.server.peak(300) > 0.1f, Patience);
+    const auto *cells = m_scene.tones();
+    const int row = int(m_scene.titles().indexOf("Bell 2"));
+    QTRY_VERIFY(cells->cellAt(row) && m_scene.window->sceneRect().contains(cells->cellAt(row)->sceneBoundingRect()));
 }
 
 void tst_ToneFileSheet::doneTakesTheFile()
@@ -186,9 +136,9 @@ void tst_ToneFileSheet::doneTakesTheFile()
     openFiles();
     follow({"Downloads", "Ringtones", "Bell_2.aac"});
     QTRY_VERIFY_WITH_TIMEOUT(!files(), Patience);
-    qobject_cast<Touch::BasicSheetHeader *>(m_sheet->headerWidget())->positiveAction()->trigger();
-    QCOMPARE(m_tone->fileName(), m_folder + "/Bell_2.aac");
-    QCOMPARE(m_tone->niceName(), "Bell 2");
+    m_scene.done()->trigger();
+    QCOMPARE(m_scene.tone->fileName(), m_folder + "/Bell_2.aac");
+    QCOMPARE(m_scene.tone->niceName(), "Bell 2");
 }
 
 void tst_ToneFileSheet::aFileThatWouldNotBeHeardIsRefused_data()
@@ -209,35 +159,35 @@ void tst_ToneFileSheet::aFileThatWouldNotBeHeardIsRefused()
     QTRY_VERIFY_WITH_TIMEOUT(!notice().isEmpty(), Patience);
     QTEST(notice(), "text");
     QVERIFY2(files(), "another one can be chosen");
-    QCOMPARE(m_sheet->selectedFile(), shipped("Clock alert 1"));
-    QCOMPARE(m_sheet->playedFile(), QString());
-    qobject_cast<Touch::BasicSheetHeader *>(m_sheet->headerWidget())->positiveAction()->trigger();
-    QCOMPARE(m_tone->fileName(), shipped("Clock alert 1"));
+    QCOMPARE(m_scene.sheet->selectedFile(), shipped("Clock alert 1"));
+    QCOMPARE(m_scene.sheet->playedFile(), QString());
+    m_scene.done()->trigger();
+    QCOMPARE(m_scene.tone->fileName(), shipped("Clock alert 1"));
 }
 
 void tst_ToneFileSheet::musicThatCannotBePlayedIsRefusedToo()
 {
-    const auto *cells = Support::itemIn<Touch::List>(m_sheet.get());
+    const auto *cells = m_scene.tones();
     QTRY_VERIFY(cells->cellAt(0));
     QVERIFY(
         QMetaObject::invokeMethod(cells->cellAt(0), "clicked", Q_ARG(QString, Tones::musicFolder() + "/Zebra.mp3")));
     QTRY_COMPARE_WITH_TIMEOUT(notice(), "“Zebra crossing” cannot be played. The tone stays as it was.", Patience);
-    QCOMPARE(m_sheet->selectedFile(), shipped("Clock alert 1"));
-    QCOMPARE(m_sheet->playedFile(), QString());
+    QCOMPARE(m_scene.sheet->selectedFile(), shipped("Clock alert 1"));
+    QCOMPARE(m_scene.sheet->playedFile(), QString());
 }
 
 void tst_ToneFileSheet::whatIsJudgedTooLateIsNotChosen()
 {
     openFiles();
     follow({"Downloads", "Ringtones", "Bell_2.aac"});
-    m_sheet->dismiss();
+    m_scene.sheet->dismiss();
     QVERIFY(!files());
     // What is judged later is told later.
-    m_sheet->appear(m_window.get());
+    m_scene.sheet->appear(m_scene.window.get());
     openFiles();
     follow({"broken.mp3"});
     QTRY_VERIFY_WITH_TIMEOUT(!notice().isEmpty(), Patience);
-    QCOMPARE(m_sheet->selectedFile(), shipped("Clock alert 1"));
+    QCOMPARE(m_scene.sheet->selectedFile(), shipped("Clock alert 1"));
 }
 
 void tst_ToneFileSheet::cancelLeadsBackToTheTones()
@@ -249,8 +199,8 @@ void tst_ToneFileSheet::cancelLeadsBackToTheTones()
     QVERIFY(!header->positiveAction());
     header->negativeAction()->trigger();
     QVERIFY(!files());
-    QVERIFY(m_sheet->isOnDisplay());
-    QCOMPARE(m_sheet->selectedFile(), shipped("Clock alert 1"));
+    QVERIFY(m_scene.sheet->isOnDisplay());
+    QCOMPARE(m_scene.sheet->selectedFile(), shipped("Clock alert 1"));
 }
 
 void tst_ToneFileSheet::escapeLeadsUpAndThenOut()
@@ -258,13 +208,13 @@ void tst_ToneFileSheet::escapeLeadsUpAndThenOut()
     openFiles();
     follow({"Downloads", "Ringtones"});
     QCOMPARE(files()->folder(), m_folder);
-    m_window->stepBack();
+    m_scene.window->stepBack();
     QCOMPARE(files()->folder(), QFileInfo(m_folder).path());
-    m_window->stepBack();
+    m_scene.window->stepBack();
     QCOMPARE(files()->folder(), QString());
-    m_window->stepBack();
+    m_scene.window->stepBack();
     QVERIFY(!files());
-    QVERIFY(m_sheet->isOnDisplay());
+    QVERIFY(m_scene.sheet->isOnDisplay());
 }
 
 void tst_ToneFileSheet::theNextTimeItStartsWhereItWasLeft()
@@ -281,7 +231,7 @@ void tst_ToneFileSheet::theNextTimeItStartsWhereItWasLeft()
 void tst_ToneFileSheet::itGoesWithTheTones()
 {
     openFiles();
-    m_sheet->dismiss();
+    m_scene.sheet->dismiss();
     QVERIFY(!files());
 }
 
@@ -310,61 +260,40 @@ void tst_ToneFileSheet::everyRowIsTold()
 
 void tst_ToneFileSheet::theSoundEndsWhileOneLooks()
 {
-    const auto *cells = Support::itemIn<Touch::List>(m_sheet.get());
+    const auto *cells = m_scene.tones();
     QTRY_VERIFY(cells->cellAt(2));
-    QTest::mouseClick(m_window->viewport(), Qt::LeftButton, {},
-                      m_window->mapFromScene(cells->cellAt(2)->sceneBoundingRect().center()));
-    QCOMPARE(m_sheet->playedFile(), shipped("Courier"));
+    m_scene.tap(cells->cellAt(2));
+    QCOMPARE(m_scene.sheet->playedFile(), shipped("Courier"));
     openFiles();
-    QCOMPARE(m_sheet->playedFile(), QString());
-    QCOMPARE(m_sheet->selectedFile(), shipped("Courier"));
-}
-
-void tst_ToneFileSheet::keepPicture(const QString &name)
-{
-    const QDir folder(QCoreApplication::applicationDirPath() + "/../screenshots");
-    QVERIFY(QDir().mkpath(folder.path()));
-    // What the last event has changed is laid out by the next.
-    QCoreApplication::processEvents();
-    QVERIFY(m_window->grab().toImage().save(
-        folder.filePath(QStringLiteral("tonefiles-%1-%2.png").arg(QTest::currentDataTag(), name))));
+    QCOMPARE(m_scene.sheet->playedFile(), QString());
+    QCOMPARE(m_scene.sheet->selectedFile(), shipped("Courier"));
 }
 
 void tst_ToneFileSheet::looks_data()
 {
-    QTest::addColumn<Theme::Variant>("variant");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::newRow("light") << Theme::Variant::Light << Qt::LeftToRight;
-    QTest::newRow("dark") << Theme::Variant::Dark << Qt::LeftToRight;
-    QTest::newRow("rtl") << Theme::Variant::Dark << Qt::RightToLeft;
+    addLooks();
 }
 
 void tst_ToneFileSheet::looks()
 {
-    QFETCH(Theme::Variant, variant);
-    QFETCH(Qt::LayoutDirection, direction);
-    Theme::instance().setVariant(variant);
-    cleanup();
-    QApplication::setLayoutDirection(direction);
-    init();
+    QVERIFY(m_scene.openInLook());
     openFiles();
     QTRY_VERIFY(list()->cellAt(0));
-    keepPicture("places");
+    QVERIFY(m_scene.keepPicture("tonefiles", "places"));
     follow({"Downloads"});
     QTRY_VERIFY(list()->cellAt(2));
-    keepPicture("folders");
+    QVERIFY(m_scene.keepPicture("tonefiles", "folders"));
     follow({"empty"});
     QTRY_COMPARE(list()->itemModel()->rowCount(), 2);
     QTRY_VERIFY(list()->cellAt(1));
-    keepPicture("empty");
+    QVERIFY(m_scene.keepPicture("tonefiles", "empty"));
     follow({"Up to Downloads", "Ringtones", "silent.wav"});
     QTRY_VERIFY_WITH_TIMEOUT(!notice().isEmpty(), Patience);
-    keepPicture("refused");
+    QVERIFY(m_scene.keepPicture("tonefiles", "refused"));
     follow({"Bell_2.aac"});
-    QTRY_COMPARE_WITH_TIMEOUT(m_sheet->selectedFile(), m_folder + "/Bell_2.aac", Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.sheet->selectedFile(), m_folder + "/Bell_2.aac", Patience);
     QCOMPARE(notice(), QString());
-    keepPicture("chosen");
-    QApplication::setLayoutDirection(Qt::LeftToRight);
+    QVERIFY(m_scene.keepPicture("tonefiles", "chosen"));
 }
 
 QTEST_MAIN(tst_ToneFileSheet)
