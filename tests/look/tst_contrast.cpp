@@ -196,7 +196,7 @@ void TestContrast::everyPartOfATimePickerCanBeRead()
     QFETCH(bool, isInverted);
     Theme::instance().setVariant(variant);
     const QColor text = Theme::instance().style(name, {}, &Touch::Widget::staticMetaObject, isInverted)->color;
-    for (const char *ground : {"ring", "ringInner", "dialFace"})
+    for (const char *ground : {"ring", "ringInner", "ringFill", "dialFace"})
         check(QLatin1String(ground), text, Theme::instance().color(QLatin1String(ground), isInverted));
 }
 

@@ -12,6 +12,7 @@
 #include "tests/support/alarms.h"
 #include "tests/support/look/items.h"
 #include "tests/support/look/look.h"
+#include "tests/support/look/touchtargets.h"
 #include "tests/support/privatebus.h"
 
 #include <QDir>
@@ -28,11 +29,15 @@ class TestTextScale : public QObject
 private slots:
     void initTestCase();
     void cleanup();
+    void theMainPageShowsAllOfItsTexts_data() { addLooks(); }
     void theMainPageShowsAllOfItsTexts();
+    void theEditorShowsAllOfItsTexts_data() { addLooks(); }
     void theEditorShowsAllOfItsTexts();
     void anAlarmRowGrows();
 
 private:
+    static void addLooks();
+    static void takeLook();
     void settle(qreal textScale);
     bool save(const char *what);
     QStringList cutOff() const;
@@ -69,6 +74,25 @@ void TestTextScale::initTestCase()
 void TestTextScale::cleanup()
 {
     Theme::instance().setTextScale(1);
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+void TestTextScale::addLooks()
+{
+    QTest::addColumn<Theme::Variant>("variant");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("light") << Theme::Variant::Light << Qt::LeftToRight;
+    QTest::newRow("light-mirrored") << Theme::Variant::Light << Qt::RightToLeft;
+    QTest::newRow("dark") << Theme::Variant::Dark << Qt::LeftToRight;
+    QTest::newRow("dark-mirrored") << Theme::Variant::Dark << Qt::RightToLeft;
+}
+
+void TestTextScale::takeLook()
+{
+    QFETCH(const Theme::Variant, variant);
+    QFETCH(const Qt::LayoutDirection, direction);
+    Theme::instance().setVariant(variant);
+    QGuiApplication::setLayoutDirection(direction);
 }
 
 void TestTextScale::settle(qreal textScale)
@@ -84,8 +108,8 @@ bool TestTextScale::save(const char *what)
     const QDir folder(QCoreApplication::applicationDirPath() + "/../screenshots");
     QDir().mkpath(folder.path());
     const int percent = qRound(Theme::instance().textScale() * 100);
-    return m_window->grab().save(
-        folder.filePath(QStringLiteral("text-%1-%2.png").arg(QLatin1String(what)).arg(percent)));
+    return m_window->grab().save(folder.filePath(
+        QStringLiteral("text-%1-%2-%3.png").arg(QLatin1String(what), QTest::currentDataTag()).arg(percent)));
 }
 
 /** In the window, or in what can be panned there. */
@@ -117,16 +141,19 @@ QStringList TestTextScale::cutOff() const
 
 void TestTextScale::theMainPageShowsAllOfItsTexts()
 {
+    takeLook();
     QTRY_COMPARE(Support::countIn<AlarmListItem>(m_mainPage.get()), 2);
     for (const qreal textScale : {1.0, 1.5, 2.0}) {
         settle(textScale);
         QVERIFY(save("main"));
         QCOMPARE(cutOff(), QStringList());
+        QCOMPARE(Support::tooSmallToTouch(m_window->scene()), QStringList());
     }
 }
 
 void TestTextScale::theEditorShowsAllOfItsTexts()
 {
+    takeLook();
     SettingAlarmPage editor;
     editor.loadAlarm(Support::addAlarm(QTime(22, 40), "Tea"), QTime(22, 40), "Tea", {}, true, 10);
     editor.appear(m_window.get());
@@ -134,6 +161,7 @@ void TestTextScale::theEditorShowsAllOfItsTexts()
         settle(textScale);
         QVERIFY(save("editor"));
         QCOMPARE(cutOff(), QStringList());
+        QCOMPARE(Support::tooSmallToTouch(m_window->scene()), QStringList());
     }
 }
 

@@ -8,6 +8,7 @@
 #include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/textedit.h"
 #include "platform/toolkit/theme.h"
+#include "tests/support/look/touchtargets.h"
 #include "tools/gallery/gallery.h"
 
 #include <QDir>
@@ -18,7 +19,7 @@
 
 using namespace Touch;
 
-/** Takes the pictures of every control, to be looked at, and holds that no text is cut off in them. */
+/** Takes the pictures of every control, to be looked at: no text is cut off in them, nothing is too small to touch. */
 class TestGallery : public QObject
 {
     Q_OBJECT
@@ -60,6 +61,7 @@ void TestGallery::checkPicture(Window &window, const char *scene)
     QCoreApplication::processEvents();
     QVERIFY(save(window, QString::fromLatin1(scene)));
     QCOMPARE(cutOff(window).join(QLatin1Char('|')), QString());
+    QCOMPARE(Support::tooSmallToTouch(window.scene()).join(QLatin1Char('|')), QString());
 }
 
 QStringList TestGallery::cutOff(const Window &window)
