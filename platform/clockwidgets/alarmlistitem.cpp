@@ -15,11 +15,11 @@ using Touch::Locale;
 
 namespace {
 
-constexpr qreal lineGap = 2;
+constexpr qreal LineGap = 2;
 /** How small, as a share of its size, the repeat text gets to fit. */
-constexpr qreal smallestShare = 0.75;
+constexpr qreal SmallestShare = 0.75;
 /** With larger text than that, what the alarm is called stands below its time. */
-constexpr qreal largestScaleInLine = 1.25;
+constexpr qreal LargestScaleInLine = 1.25;
 
 /** Says which alarm it switches. */
 class RowSwitch : public Touch::Switch
@@ -141,14 +141,7 @@ void AlarmListItem::placeSwitch()
     const QMarginsF padding = style().padding;
     const QRectF place(size().width() - padding.right() - toggle.width(), (size().height() - toggle.height()) / 2,
                        toggle.width(), toggle.height());
-    m_switch->setGeometry(mirrored(place));
-}
-
-QRectF AlarmListItem::mirrored(const QRectF &rect) const
-{
-    if (layoutDirection() != Qt::RightToLeft)
-        return rect;
-    return {size().width() - rect.right(), rect.top(), rect.width(), rect.height()};
+    m_switch->setGeometry(mirroredIn(*this, place));
 }
 
 QString AlarmListItem::partName(const char *part) const
@@ -156,20 +149,21 @@ QString AlarmListItem::partName(const char *part) const
     return QStringLiteral("AlarmItem%1%2").arg(QLatin1String(part), QLatin1String(enabled() ? "" : "Off"));
 }
 
-// The same in all rows, so that the titles stand below each other.
-qreal AlarmListItem::timeWidth() const
+TimeLook AlarmListItem::timeLook() const
 {
-    const TimeText widest = timeText(Locale::getDefault(), QTime(22, 28));
-    const auto digits = partStyle(*this, partName("Time"));
-    const auto marker = partStyle(*this, partName("Marker"));
-    const qreal markerWidth = widest.marker.isEmpty() ? 0 : marker->spacing + textWidth(*marker, widest.marker);
-    return textWidth(*digits, widest.digits) + markerWidth + 1;
+    return {partStyle(*this, partName("Time")), partStyle(*this, partName("Marker"))};
+}
+
+// The same in all rows, so that the titles stand below each other.
+qreal AlarmListItem::widestTime() const
+{
+    return timeWidth(timeLook(), timeText(Locale::getDefault(), QTime(22, 28)));
 }
 
 // Large texts have no room beside the time.
 bool AlarmListItem::isStacked() const
 {
-    return Touch::Theme::instance().textScale() > largestScaleInLine;
+    return Touch::Theme::instance().textScale() > LargestScaleInLine;
 }
 
 qreal AlarmListItem::lineHeight(const char *part) const
@@ -183,7 +177,7 @@ QSizeF AlarmListItem::sizeHint(Qt::SizeHint which, const QSizeF &constraint) con
     QSizeF size = Pressable::sizeHint(which, constraint);
     if (which == Qt::MaximumSize || !isStacked())
         return size;
-    const qreal texts = lineHeight("Title") + lineGap + lineHeight("Repeat");
+    const qreal texts = lineHeight("Title") + LineGap + lineHeight("Repeat");
     const QMarginsF padding = style().padding;
     size.setHeight(qMax(size.height(), lineHeight("Time") + texts + padding.top() + padding.bottom()));
     return size;
@@ -198,14 +192,14 @@ QRectF AlarmListItem::textsRect() const
     if (isStacked())
         texts.setTop(texts.top() + lineHeight("Time"));
     else
-        texts.setLeft(texts.left() + timeWidth() + spacing);
+        texts.setLeft(texts.left() + widestTime() + spacing);
     return texts;
 }
 
 QSizeF AlarmListItem::repeatRoom() const
 {
     const QRectF texts = textsRect();
-    const qreal above = m_subTitle.isEmpty() ? 0 : lineHeight("Title") + lineGap;
+    const qreal above = m_subTitle.isEmpty() ? 0 : lineHeight("Title") + LineGap;
     return {texts.width(), texts.height() - above};
 }
 
@@ -214,7 +208,7 @@ Touch::Style AlarmListItem::repeatStyle() const
 {
     Touch::Style style = *partStyle(*this, QStringLiteral("AlarmItemRepeat"));
     const QSizeF room = repeatRoom();
-    const int smallest = qRound(smallestShare * style.pixelSize);
+    const int smallest = qRound(SmallestShare * style.pixelSize);
     while (style.pixelSize > smallest && wrappedHeight(style, m_subText, room.width()) > room.height())
         --style.pixelSize;
     return style;
@@ -233,39 +227,24 @@ void AlarmListItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, Q
     painter->save();
     painter->setLayoutDirection(layoutDirection());
     const QRectF content = rect().marginsRemoved(look.padding);
-    QRectF time(content.left(), content.top(), timeWidth(), content.height());
+    QRectF time(content.left(), content.top(), widestTime(), content.height());
     if (isStacked())
         time.setHeight(lineHeight("Time"));
-    paintTime(*painter, mirrored(time));
-    paintTexts(*painter, mirrored(textsRect()));
+    paintTime(*painter, mirroredIn(*this, time));
+    paintTexts(*painter, mirroredIn(*this, textsRect()));
     painter->restore();
     paintFocusRing(painter);
 }
 
+// It begins where the row does; the widest of them fills the place.
 void AlarmListItem::paintTime(QPainter &painter, const QRectF &rect) const
 {
     const TimeText text = timeText(Locale::getDefault(), m_title);
-    const auto digits = partStyle(*this, partName("Time"));
-    const auto marker = partStyle(*this, partName("Marker"));
-    const qreal digitsWidth = textWidth(*digits, text.digits) + 1;
-    const qreal markerWidth = text.marker.isEmpty() ? 0 : textWidth(*marker, text.marker) + 1;
-    const qreal gap = text.marker.isEmpty() ? 0 : marker->spacing;
-    const qreal start = text.markerFirst ? markerWidth + gap : 0;
-    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
-    const auto part = [&](qreal offset, qreal width) {
-        return QRectF(isMirrored ? rect.right() - offset - width : rect.left() + offset, rect.top(), width,
-                      rect.height());
-    };
-    drawPart(painter, part(start, digitsWidth), Qt::AlignCenter, *digits, text.digits);
-    if (text.marker.isEmpty())
-        return;
-    const QFontMetricsF digitMetrics(digits->font());
-    const QFontMetricsF markerMetrics(marker->font());
-    QRectF markerRect = part(text.markerFirst ? 0 : digitsWidth + gap, markerWidth);
-    const qreal baseline = rect.center().y() + (digitMetrics.ascent() - digitMetrics.descent()) / 2;
-    markerRect.setTop(baseline - markerMetrics.ascent());
-    markerRect.setHeight(markerMetrics.height());
-    drawPart(painter, markerRect, Qt::AlignCenter, *marker, text.marker);
+    QRectF place = rect;
+    place.setWidth(timeWidth(timeLook(), text));
+    if (layoutDirection() == Qt::RightToLeft)
+        place.moveRight(rect.right());
+    drawTime(painter, place, timeLook(), text);
 }
 
 void AlarmListItem::paintTexts(QPainter &painter, const QRectF &rect) const
@@ -284,10 +263,10 @@ void AlarmListItem::paintTexts(QPainter &painter, const QRectF &rect) const
     // Without a title nothing hangs below an empty line.
     if (!m_subTitle.isEmpty()) {
         const qreal titleHeight = QFontMetricsF(title->font()).height();
-        place.setTop(rect.center().y() - (titleHeight + lineGap + repeatHeight) / 2);
+        place.setTop(rect.center().y() - (titleHeight + LineGap + repeatHeight) / 2);
         place.setHeight(titleHeight);
         drawPart(painter, place, Qt::AlignLeft | Qt::AlignVCenter, *title, m_subTitle);
-        place.moveTop(place.bottom() + lineGap);
+        place.moveTop(place.bottom() + LineGap);
         place.setHeight(repeatHeight);
     }
     const auto draw = isWhole ? drawWrapped : drawPart;

@@ -10,6 +10,8 @@ namespace Touch {
 class Switch;
 }
 
+struct TimeLook;
+
 /// One alarm in a list: its time, its title, how it repeats, and a switch. Its enabled state is that of the switch;
 /// the item itself always takes input. Works as a recycled cell: every property may be set at any time.
 class AlarmListItem : public Touch::Pressable
@@ -70,8 +72,8 @@ private:
     bool isStacked() const;
     qreal lineHeight(const char *part) const;
     void placeSwitch();
-    QRectF mirrored(const QRectF &rect) const;
-    qreal timeWidth() const;
+    TimeLook timeLook() const;
+    qreal widestTime() const;
     QRectF textsRect() const;
     QSizeF repeatRoom() const;
     Touch::Style repeatStyle() const;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/clockwidgets/clockface_p.h"
 
+#include "platform/clockwidgets/circle_p.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <QtMath>
@@ -11,13 +13,7 @@ namespace {
 // Room around the face for its shadow, as a part of the radius.
 constexpr qreal ShadowRoom = 0.08;
 // The size of a numeral, as a part of the radius, at which it still stands clear of the hands' middle.
-constexpr qreal largestNumeral = 0.23;
-
-QPointF onCircle(qreal degrees, qreal radius)
-{
-    const qreal radians = qDegreesToRadians(degrees);
-    return {radius * qSin(radians), -radius * qCos(radians)};
-}
+constexpr qreal LargestNumeral = 0.23;
 
 void paintShadow(QPainter &painter, qreal radius)
 {
@@ -116,7 +112,7 @@ void ClockFace::paintTicks(QPainter &painter, qreal radius) const
 void ClockFace::paintNumerals(QPainter &painter, qreal radius) const
 {
     QFont font = m_look.numerals;
-    font.setPixelSize(qMin(font.pixelSize(), qRound(radius * largestNumeral)));
+    font.setPixelSize(qMin(font.pixelSize(), qRound(radius * LargestNumeral)));
     painter.setFont(font);
     painter.setPen(m_look.numeralColor);
     const QSizeF box(radius * 0.4, radius * 0.3);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/clockwidgets/parts_p.h"
 
+#include "platform/clockwidgets/timetext_p.h"
 #include "platform/locale/locale.h"
 #include "platform/toolkit/theme.h"
 #include "platform/toolkit/widget.h"
@@ -68,6 +69,13 @@ std::shared_ptr<const Style> partStyle(const Touch::Widget &widget, const QStrin
                                           window && window->isInverted());
 }
 
+QRectF mirroredIn(const Touch::Widget &widget, const QRectF &place)
+{
+    if (widget.layoutDirection() != Qt::RightToLeft)
+        return place;
+    return {widget.size().width() - place.right(), place.top(), place.width(), place.height()};
+}
+
 qreal textWidth(const Style &style, const QString &text)
 {
     const QFontMetricsF metrics(style.font());
@@ -94,6 +102,32 @@ void drawPart(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, co
         painter.drawText(cell, Qt::AlignCenter | Qt::TextDontClip, QString(c));
         cell.moveLeft(cell.right());
     }
+}
+
+qreal timeWidth(const TimeLook &look, const TimeText &text)
+{
+    const qreal marker = text.marker.isEmpty() ? 0 : look.marker->spacing + textWidth(*look.marker, text.marker) + 1;
+    return textWidth(*look.digits, text.digits) + 1 + marker;
+}
+
+void drawTime(QPainter &painter, const QRectF &place, const TimeLook &look, const TimeText &text)
+{
+    QRectF digits = place;
+    digits.setWidth(textWidth(*look.digits, text.digits) + 1);
+    const bool isMarkerLeft = text.markerFirst != (painter.layoutDirection() == Qt::RightToLeft);
+    if (isMarkerLeft)
+        digits.moveRight(place.right());
+    drawPart(painter, digits, Qt::AlignCenter, *look.digits, text.digits);
+    if (text.marker.isEmpty())
+        return;
+    const QFontMetricsF digitMetrics(look.digits->font());
+    const QFontMetricsF markerMetrics(look.marker->font());
+    const qreal baseline = place.center().y() + (digitMetrics.ascent() - digitMetrics.descent()) / 2;
+    QRectF marker(place.left(), baseline - markerMetrics.ascent(), textWidth(*look.marker, text.marker) + 1,
+                  markerMetrics.height());
+    if (!isMarkerLeft)
+        marker.moveRight(place.right());
+    drawPart(painter, marker, Qt::AlignCenter, *look.marker, text.marker);
 }
 
 qreal wrappedHeight(const Style &style, const QString &text, qreal width)

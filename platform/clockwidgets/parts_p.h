@@ -7,6 +7,7 @@
 
 class QPainter;
 class QString;
+struct TimeText;
 
 namespace Touch {
 struct Style;
@@ -15,10 +16,22 @@ class Widget;
 
 // The clock widgets paint several texts each; every one has a style of its own in the theme.
 
+/// The looks of a time of day: of its digits, and of the half of the day beside them.
+struct TimeLook
+{
+    std::shared_ptr<const Touch::Style> digits;
+    std::shared_ptr<const Touch::Style> marker;
+};
+
 /// Adds the looks of the clock widgets to the theme; called by each of them before it asks for a style.
 void loadClockTheme();
 std::shared_ptr<const Touch::Style> partStyle(const Touch::Widget &widget, const QString &styleName);
+/// Where a place of a widget lies in the widget's direction.
+QRectF mirroredIn(const Touch::Widget &widget, const QRectF &place);
 qreal textWidth(const Touch::Style &style, const QString &text);
+qreal timeWidth(const TimeLook &look, const TimeText &text);
+/// In a place as wide as timeWidth(), with the half of the day on the digits' baseline.
+void drawTime(QPainter &painter, const QRectF &place, const TimeLook &look, const TimeText &text);
 /// One line in a place that does not grow with the user's size of text: no larger than a share of its height.
 void drawBounded(QPainter &painter, const QRectF &rect, const Touch::Style &style, const QString &text,
                  qreal largestShare);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/clockwidgets/pickerdial_p.h"
 
+#include "platform/clockwidgets/circle_p.h"
 #include "platform/clockwidgets/parts_p.h"
 #include "platform/toolkit/widget.h"
 
@@ -16,13 +17,7 @@ constexpr qreal TouchRadius = 30;
 // Around a handle in use, as a part of its radius; it stays within the widget.
 constexpr qreal HaloSize = 1.15;
 // The size of a text, as a part of the height of its place.
-constexpr qreal largestShare = 0.5;
-
-QPointF onCircle(qreal degrees, qreal radius)
-{
-    const qreal radians = qDegreesToRadians(degrees);
-    return {radius * qSin(radians), -radius * qCos(radians)};
-}
+constexpr qreal LargestShare = 0.5;
 
 QRectF around(const QPointF &centre, qreal radius)
 {
@@ -148,7 +143,7 @@ void PickerDial::paintNumbers(QPainter &painter, ClockHand hand) const
     const QStringList &texts = isMinute ? m_texts.minutes : m_texts.hours;
     for (int i = 0; i < texts.size(); ++i) {
         const QRectF box = around(onCircle(i * 30, ringRadius(hand)), ringWidth() / 2);
-        drawBounded(painter, box, isMinute ? *m_minuteLook : *m_hourLook, texts[i], largestShare);
+        drawBounded(painter, box, isMinute ? *m_minuteLook : *m_hourLook, texts[i], LargestShare);
     }
 }
 
@@ -163,7 +158,7 @@ void PickerDial::paintHalves(QPainter &painter) const
             painter.setBrush(m_look->pressedBackground);
             painter.drawRoundedRect(box, size.height() / 2, size.height() / 2);
         }
-        drawBounded(painter, box, half == m_half ? *m_halfNowLook : *m_halfLook, m_texts.halves[half], largestShare);
+        drawBounded(painter, box, half == m_half ? *m_halfNowLook : *m_halfLook, m_texts.halves[half], LargestShare);
     }
 }
 
@@ -192,5 +187,5 @@ void PickerDial::paintHandle(QPainter &painter, ClockHand hand, const Handle &ha
     painter.drawEllipse(place + QPointF(0, 1.5), radius - 0.5, radius - 0.5);
     painter.setBrush(m_look->accentColor);
     painter.drawEllipse(place, radius - 1, radius - 1);
-    drawBounded(painter, around(place, radius), *m_handleLook, handle.text, largestShare);
+    drawBounded(painter, around(place, radius), *m_handleLook, handle.text, LargestShare);
 }

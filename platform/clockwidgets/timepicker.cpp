@@ -36,6 +36,14 @@ qreal turn(qreal from, qreal to)
     return std::remainder(to - from, 360.0);
 }
 
+// The half of the day with 24 hours. Digits and dash have no direction of their own to be read in.
+QString hoursFrom(const Locale &locale, int start)
+{
+    constexpr QChar rightToLeftMark(0x200F);
+    const QString range = localeDigits(locale, start, 2) + u'–' + localeDigits(locale, start + 11, 2);
+    return locale.textDirection() == Qt::RightToLeft ? rightToLeftMark + range : range;
+}
+
 } // namespace
 
 TimePicker::TimePicker(int hours, int minutes, QGraphicsItem *parent)
@@ -142,12 +150,8 @@ void TimePicker::updateTexts()
         texts.hours << localeDigits(locale, hour, isTwelveHour ? 1 : 2);
         texts.minutes << localeDigits(locale, i * 5, 2);
     }
-    for (const int start : {0, 12}) {
-        const QTime time(start, 0);
-        texts.halves << (isTwelveHour ? timeText(locale, time).marker
-                                      : QStringLiteral("%1–%2").arg(localeDigits(locale, start, 2),
-                                                                    localeDigits(locale, start + 11, 2)));
-    }
+    for (const int start : {0, 12})
+        texts.halves << (isTwelveHour ? timeText(locale, QTime(start, 0)).marker : hoursFrom(locale, start));
     m_dial->setTexts(texts);
     m_dial->setHalf(m_hours / 12);
     update();

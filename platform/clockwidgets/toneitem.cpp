@@ -48,13 +48,6 @@ QString ToneItem::shownText() const
     return texts.join(QLatin1String(", "));
 }
 
-QRectF ToneItem::mirrored(const QRectF &rect) const
-{
-    if (layoutDirection() != Qt::RightToLeft)
-        return rect;
-    return {size().width() - rect.right(), rect.top(), rect.width(), rect.height()};
-}
-
 void ToneItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     const Touch::Style &look = style();
@@ -66,11 +59,11 @@ void ToneItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidge
     const QRectF mark(content.left(), content.center().y() - MarkSize / 2, MarkSize, MarkSize);
     const QRectF bars(content.right() - MarkSize, mark.top(), MarkSize, MarkSize);
     const qreal textsLeft = mark.right() + look.spacing;
-    paintMark(*painter, mirrored(mark));
+    paintMark(*painter, mirroredIn(*this, mark));
     paintTexts(*painter,
-               mirrored({textsLeft, content.top(), bars.left() - look.spacing - textsLeft, content.height()}));
+               mirroredIn(*this, {textsLeft, content.top(), bars.left() - look.spacing - textsLeft, content.height()}));
     if (m_isPlaying)
-        paintBars(*painter, mirrored(bars));
+        paintBars(*painter, mirroredIn(*this, bars));
     painter->restore();
     paintFocusRing(painter);
 }

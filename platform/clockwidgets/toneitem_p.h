@@ -31,7 +31,6 @@ protected:
     void tapped() override { Q_EMIT clicked(m_path); }
 
 private:
-    QRectF mirrored(const QRectF &rect) const;
     void paintMark(QPainter &painter, const QRectF &rect) const;
     void paintTexts(QPainter &painter, const QRectF &rect) const;
     void paintBars(QPainter &painter, const QRectF &rect) const;

@@ -8,8 +8,6 @@
 #include "platform/clockwidgets/wallclockticker_p.h"
 #include "platform/locale/locale.h"
 
-#include <QGraphicsSceneMouseEvent>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QSettings>
 
@@ -51,14 +49,13 @@ WorldClock::WorldClock(QGraphicsItem *parent)
 { }
 
 WorldClock::WorldClock(std::unique_ptr<ClockTicker> ticker, QGraphicsItem *parent)
-    : StylableWidget(parent)
+    : Pressable(parent)
     , m_ticker(std::move(ticker))
     , m_clockFace(std::make_unique<ClockFace>())
     , m_face(rememberedFace())
     , m_now(m_ticker->now())
 {
     loadClockTheme();
-    setFocusPolicy(Qt::TabFocus);
     connect(m_ticker.get(), &ClockTicker::ticked, this, &WorldClock::tick);
     connect(&Locale::getDefault(), &Locale::settingsChanged, this, &WorldClock::localeChanged);
     applyStyle();
@@ -78,7 +75,7 @@ void WorldClock::setFace(Face face)
     Q_EMIT faceChanged(face);
 }
 
-void WorldClock::showOtherFace()
+void WorldClock::tapped()
 {
     setFace(m_face == Face::Analogue ? Face::Digital : Face::Analogue);
     settings().setValue(FaceKey, faceName(m_face));
@@ -116,7 +113,7 @@ void WorldClock::localeChanged()
 
 void WorldClock::styleChanged()
 {
-    StylableWidget::styleChanged();
+    Pressable::styleChanged();
     applyStyle();
 }
 
@@ -130,7 +127,10 @@ void WorldClock::applyStyle()
 
 void WorldClock::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
+    if (isDown())
+        paintBackground(painter, style().pressedBackground, false);
     painter->save();
+    painter->setLayoutDirection(layoutDirection());
     QRectF area = paddedRect();
     const QString dateStyle = QStringLiteral("ClockDate");
     const QString zoneStyle = QStringLiteral("ClockZone");
@@ -151,25 +151,13 @@ void WorldClock::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWid
 
 void WorldClock::paintDigits(QPainter &painter, const QRectF &rect) const
 {
+    const TimeLook look{partStyle(*this, QStringLiteral("ClockDigits")),
+                        partStyle(*this, QStringLiteral("ClockMarker"))};
     const TimeText text = timeText(Locale::getDefault(), m_now.time());
-    const auto digits = partStyle(*this, QStringLiteral("ClockDigits"));
-    const auto marker = partStyle(*this, QStringLiteral("ClockMarker"));
-    const qreal digitsWidth = textWidth(*digits, text.digits);
-    const qreal markerWidth = text.marker.isEmpty() ? 0 : textWidth(*marker, text.marker);
-    const qreal gap = text.marker.isEmpty() ? 0 : marker->spacing;
-    const qreal left = rect.center().x() - (digitsWidth + gap + markerWidth) / 2;
-    const bool markerLeft = text.markerFirst != (layoutDirection() == Qt::RightToLeft);
-    const QRectF digitsRect(markerLeft ? left + markerWidth + gap : left, rect.top(), digitsWidth + 1, rect.height());
-    drawPart(painter, digitsRect, Qt::AlignCenter, *digits, text.digits);
-    if (text.marker.isEmpty())
-        return;
-    // On the baseline of the digits.
-    const QFontMetricsF digitMetrics(digits->font());
-    const QFontMetricsF markerMetrics(marker->font());
-    const qreal baseline = rect.center().y() + (digitMetrics.ascent() - digitMetrics.descent()) / 2;
-    const QRectF markerRect(markerLeft ? left : left + digitsWidth + gap, baseline - markerMetrics.ascent(),
-                            markerWidth + 1, markerMetrics.height());
-    drawPart(painter, markerRect, Qt::AlignCenter, *marker, text.marker);
+    QRectF place = rect;
+    place.setWidth(timeWidth(look, text));
+    place.moveCenter(rect.center());
+    drawTime(painter, place, look, text);
 }
 
 void WorldClock::paintLine(QPainter &painter, const QRectF &rect, const QString &styleName, const QString &text) const
@@ -195,33 +183,4 @@ QString WorldClock::shownText() const
 {
     const QString time = timeText(Locale::getDefault(), m_now.time()).whole();
     return QStringList{time, dateText(), zoneText()}.join(QLatin1String(", "));
-}
-
-QStringList WorldClock::accessibleActions() const
-{
-    return {QAccessibleActionInterface::pressAction()};
-}
-
-void WorldClock::doAccessibleAction(const QString &)
-{
-    showOtherFace();
-}
-
-void WorldClock::mousePressEvent(QGraphicsSceneMouseEvent *event)
-{
-    event->setAccepted(event->button() == Qt::LeftButton);
-}
-
-void WorldClock::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
-{
-    if (rect().contains(event->pos()))
-        showOtherFace();
-}
-
-void WorldClock::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        showOtherFace();
-    else
-        StylableWidget::keyPressEvent(event);
 }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/clockwidgets/clockticker.h"
-#include "platform/toolkit/stylablewidget.h"
+#include "platform/toolkit/pressable.h"
 
 #include <memory>
 
@@ -12,7 +12,7 @@ class ClockFace;
 /// The time of day, analogue or digital, with the date and the zone's name under it, in the user's locale. A tap shows
 /// the other face, with which every clock then starts: it is kept in the settings of the clock widgets.
 /// It ticks only while it can be seen: every second with the seconds hand, every minute without.
-class WorldClock : public Touch::StylableWidget
+class WorldClock : public Touch::Pressable
 {
     Q_OBJECT
     Q_PROPERTY(Face face READ face WRITE setFace NOTIFY faceChanged)
@@ -32,8 +32,6 @@ public:
     QDateTime shownTime() const { return m_now; }
 
     QAccessible::Role accessibleRole() const override { return QAccessible::Button; }
-    QStringList accessibleActions() const override;
-    void doAccessibleAction(const QString &name) override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget = nullptr) override;
 
 Q_SIGNALS:
@@ -44,16 +42,13 @@ protected:
     void styleChanged() override;
     void enterDisplay() override;
     void exitDisplay() override;
-    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
+    void tapped() override;
 
 private:
     void tick();
     void startTicking();
     void applyStyle();
     void localeChanged();
-    void showOtherFace();
     QString dateText() const;
     QString zoneText() const;
     void paintDigits(QPainter &painter, const QRectF &rect) const;

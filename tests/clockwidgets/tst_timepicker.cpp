@@ -24,6 +24,8 @@ private Q_SLOTS:
     void turnsWithTheWheel();
     void obeysKeys();
     void followsTheTimeFormat();
+    void readsHoursInTheDirectionOfTheLanguage();
+    void goesClockwiseInEveryLanguage();
     void paintsNothingOutsideItself();
 };
 
@@ -138,6 +140,43 @@ void tst_TimePicker::followsTheTimeFormat()
     Locale::getDefault().setTimeFormat24h(Locale::TwelveHour);
     QVERIFY(scene.stage.window.grab().toImage() != twentyFour);
     QCOMPARE(scene.time(), QTime(19, 20));
+}
+
+// Both write the same digits.
+void tst_TimePicker::readsHoursInTheDirectionOfTheLanguage()
+{
+    const auto pictureIn = [](const QString &locale) {
+        Locale::setDefault(Locale(locale));
+        PickerScene scene(9, 30);
+        return scene.stage.show() ? scene.stage.window.grab().toImage() : QImage();
+    };
+    QImage english = pictureIn("en_GB");
+    QImage hebrew = pictureIn("he_IL");
+    const QRect halves(200, 200, 80, 80);
+    QVERIFY2(english.copy(halves) != hebrew.copy(halves), "00–11 begins on the right");
+    for (QImage *picture : {&english, &hebrew}) {
+        QPainter painter(picture);
+        painter.fillRect(halves, Qt::black);
+    }
+    QVERIFY(english == hebrew);
+}
+
+void tst_TimePicker::goesClockwiseInEveryLanguage()
+{
+    Locale::setDefault(Locale(u"ar_EG"_qs));
+    PickerScene scene(0, 0);
+    scene.picker->setLayoutDirection(Qt::RightToLeft);
+    QVERIFY(scene.stage.show());
+    scene.stage.tap(scene.onHours(90));
+    QCOMPARE(scene.time(), QTime(3, 0));
+    scene.stage.tap(scene.onMinutes(90));
+    QCOMPARE(scene.time(), QTime(3, 15));
+    scene.stage.key(Qt::Key_Left);
+    scene.stage.key(Qt::Key_Up);
+    QCOMPARE(scene.time(), QTime(4, 15));
+    scene.stage.key(Qt::Key_Right);
+    scene.stage.key(Qt::Key_Up);
+    QCOMPARE(scene.time(), QTime(4, 16));
 }
 
 void tst_TimePicker::paintsNothingOutsideItself()

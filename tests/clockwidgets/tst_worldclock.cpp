@@ -71,6 +71,7 @@ private Q_SLOTS:
     void ticksEverySecondOnlyWithTheSecondsHand();
     void aTapShowsTheOtherFace();
     void eachOfTwoQuickTapsCounts();
+    void isSeenToBePressed();
     void keysShowTheOtherFace();
     void theFaceChosenIsRemembered();
     void whatWasNeverChosenIsAnalogue();
@@ -172,6 +173,18 @@ void tst_WorldClock::eachOfTwoQuickTapsCounts()
     QSignalSpy spy(scene.clock, &WorldClock::faceChanged);
     scene.stage.doubleTap({240, 150});
     QCOMPARE(spy.count(), 2);
+}
+
+void tst_WorldClock::isSeenToBePressed()
+{
+    Scene scene;
+    QVERIFY(scene.stage.show());
+    const QImage before = scene.stage.window.grab().toImage();
+    scene.stage.press({240, 150});
+    QVERIFY(scene.stage.window.grab().toImage() != before);
+    scene.stage.move({240, 400});
+    QCOMPARE(scene.stage.window.grab().toImage(), before);
+    scene.stage.release({240, 400});
 }
 
 void tst_WorldClock::keysShowTheOtherFace()
