@@ -45,12 +45,14 @@ void SettingsPortal::set(const QString &group, const QString &key, const QVarian
 
 QDBusVariant SettingsPortal::Read(const QString &group, const QString &key)
 {
+    ++m_asked[group + key];
     if (!m_values.contains(group + key)) {
         sendErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotFound"),
                        QStringLiteral("Requested setting not found"));
         return {};
     }
-    return QDBusVariant(QVariant::fromValue(QDBusVariant(m_values[group + key])));
+    const QDBusVariant value(m_values[group + key]);
+    return m_wrapsTwice ? QDBusVariant(QVariant::fromValue(value)) : value;
 }
 
 } // namespace Support

@@ -24,6 +24,10 @@ public:
     void setColorScheme(uint scheme); ///< 0 none, 1 dark, 2 light
     void setTextScaling(double factor);
     void set(const QString &group, const QString &key, const QVariant &value);
+    /** Portals answer with a variant in a variant, or in one alone. */
+    void setWrapsTwice(bool wrapsTwice) { m_wrapsTwice = wrapsTwice; }
+    /** How often it was asked for this setting. */
+    [[nodiscard]] int timesAsked(const QString &group, const QString &key) const { return m_asked.value(group + key); }
 
 public slots:
     QDBusVariant Read(const QString &group, const QString &key);
@@ -33,7 +37,9 @@ signals:
 
 private:
     QDBusConnection m_bus;
+    bool m_wrapsTwice = true;
     QHash<QString, QVariant> m_values;
+    QHash<QString, int> m_asked;
 };
 
 } // namespace Support
