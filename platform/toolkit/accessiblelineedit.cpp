@@ -3,14 +3,15 @@
 #include "platform/toolkit/accessiblelineedit_p.h"
 
 #include "platform/toolkit/accessiblewidget_p.h"
+#include "platform/toolkit/lineedit_p.h"
 #include "platform/toolkit/widget.h"
 
-#include <QLineEdit>
+#include <QTextLayout>
 #include <QWindow>
 
 namespace Touch {
 
-AccessibleLineEdit::AccessibleLineEdit(QLineEdit *edit, Widget *field)
+AccessibleLineEdit::AccessibleLineEdit(LineEdit *edit, Widget *field)
     : QAccessibleWidget(edit, QAccessible::EditableText)
     , m_field(field)
 {
@@ -21,9 +22,9 @@ AccessibleLineEdit::AccessibleLineEdit(QLineEdit *edit, Widget *field)
 
 AccessibleLineEdit::~AccessibleLineEdit() = default;
 
-QLineEdit *AccessibleLineEdit::edit() const
+LineEdit *AccessibleLineEdit::edit() const
 {
-    return static_cast<QLineEdit *>(object());
+    return static_cast<LineEdit *>(object());
 }
 
 QAccessible::State AccessibleLineEdit::state() const
@@ -137,11 +138,19 @@ QRect AccessibleLineEdit::characterRect(int offset) const
 {
     if (offset < 0 || offset >= characterCount())
         return {};
-    const QFontMetrics metrics(edit()->font());
-    const QString before = edit()->text().left(offset);
+    QTextLayout layout(edit()->text(), edit()->font());
+    QTextOption option;
+    option.setTextDirection(edit()->layoutDirection());
+    layout.setTextOption(option);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    // The cursor tells how far the text is scrolled, and where it starts.
+    const qreal start = edit()->cursorPlace().center().x() - line.cursorToX(edit()->cursorPosition());
+    const qreal from = line.cursorToX(offset);
+    const qreal to = line.cursorToX(offset + 1);
     const QRect whole = rect();
-    return {whole.left() + metrics.horizontalAdvance(before), whole.top(),
-            metrics.horizontalAdvance(edit()->text().at(offset)), whole.height()};
+    return {whole.left() + qRound(start + qMin(from, to)), whole.top(), qRound(qAbs(to - from)), whole.height()};
 }
 
 int AccessibleLineEdit::offsetAtPoint(const QPoint &point) const

@@ -4,10 +4,9 @@
 
 #include <QAccessibleWidget>
 
-class QLineEdit;
-
 namespace Touch {
 
+class LineEdit;
 class Widget;
 
 /**
@@ -19,7 +18,7 @@ class AccessibleLineEdit : public QAccessibleWidget,
                            public QAccessibleEditableTextInterface
 {
 public:
-    AccessibleLineEdit(QLineEdit *edit, Widget *field);
+    AccessibleLineEdit(LineEdit *edit, Widget *field);
     ~AccessibleLineEdit() override;
 
     QAccessible::State state() const override;
@@ -49,7 +48,7 @@ public:
     void replaceText(int start, int end, const QString &text) override;
 
 private:
-    QLineEdit *edit() const;
+    LineEdit *edit() const;
 
     Widget *m_field; ///< owns the line edit
 };

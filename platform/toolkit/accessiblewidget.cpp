@@ -5,6 +5,7 @@
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/combobox.h"
 #include "platform/toolkit/dialog.h"
+#include "platform/toolkit/lineedit_p.h"
 #include "platform/toolkit/list.h"
 #include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/sheet.h"
@@ -16,7 +17,6 @@
 #include <QGraphicsProxyWidget>
 #include <QGraphicsScene>
 #include <QGraphicsSceneContextMenuEvent>
-#include <QLineEdit>
 
 namespace Touch {
 
@@ -35,21 +35,21 @@ QList<Widget *> accessibleChildren(const QGraphicsItem *item)
     return found;
 }
 
-QLineEdit *lineEditOf(const Widget *widget)
+LineEdit *lineEditOf(const Widget *widget)
 {
     if (!qobject_cast<const TextEdit *>(widget))
         return nullptr;
     const QList<QGraphicsItem *> children = widget->childItems();
     for (QGraphicsItem *child : children) {
         if (auto *proxy = qobject_cast<QGraphicsProxyWidget *>(child->toGraphicsObject()))
-            return qobject_cast<QLineEdit *>(proxy->widget());
+            return qobject_cast<LineEdit *>(proxy->widget());
     }
     return nullptr;
 }
 
 QAccessibleInterface *accessibleOf(Widget *widget)
 {
-    if (QLineEdit *edit = lineEditOf(widget))
+    if (LineEdit *edit = lineEditOf(widget))
         return QAccessible::queryAccessibleInterface(edit);
     return QAccessible::queryAccessibleInterface(widget);
 }
@@ -57,7 +57,7 @@ QAccessibleInterface *accessibleOf(Widget *widget)
 Widget *accessibleWidgetOf(const QAccessibleInterface *interface)
 {
     QObject *object = interface->object();
-    const auto *edit = qobject_cast<const QLineEdit *>(object);
+    const auto *edit = qobject_cast<const LineEdit *>(object);
     const QGraphicsProxyWidget *proxy = edit ? edit->graphicsProxyWidget() : nullptr;
     return qobject_cast<Widget *>(proxy && proxy->parentItem() ? proxy->parentItem()->toGraphicsObject() : object);
 }

@@ -5,10 +5,10 @@
 #include <QAccessibleObject>
 
 class QGraphicsItem;
-class QLineEdit;
 
 namespace Touch {
 
+class LineEdit;
 class List;
 class Widget;
 
@@ -22,7 +22,7 @@ Widget *accessibleWidgetOf(const QAccessibleInterface *interface);
 /** The widget or window above a widget. */
 QAccessibleInterface *accessibleParentOf(const Widget *widget);
 /** The line edit within a text field; null for other widgets. */
-QLineEdit *lineEditOf(const Widget *widget);
+LineEdit *lineEditOf(const Widget *widget);
 
 /** What assistive technology is told of a widget, and may do with it. In a list it is a cell of one column. */
 class AccessibleWidget : public QAccessibleObject,

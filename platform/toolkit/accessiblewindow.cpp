@@ -5,13 +5,13 @@
 #include "platform/toolkit/accessiblelineedit_p.h"
 #include "platform/toolkit/accessiblelist_p.h"
 #include "platform/toolkit/accessiblewidget_p.h"
+#include "platform/toolkit/lineedit_p.h"
 #include "platform/toolkit/list.h"
 #include "platform/toolkit/scenewindow.h"
 #include "platform/toolkit/window.h"
 
 #include <QGraphicsProxyWidget>
 #include <QGraphicsScene>
-#include <QLineEdit>
 
 namespace Touch {
 
@@ -34,11 +34,11 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
     if (auto *list = qobject_cast<List *>(object))
         return new AccessibleList(list);
     if (auto *widget = qobject_cast<Widget *>(object)) {
-        QLineEdit *edit = lineEditOf(widget);
+        LineEdit *edit = lineEditOf(widget);
         return edit ? static_cast<QAccessibleInterface *>(new AccessibleLineEdit(edit, widget))
                     : new AccessibleWidget(widget);
     }
-    auto *edit = qobject_cast<QLineEdit *>(object);
+    auto *edit = qobject_cast<LineEdit *>(object);
     QGraphicsProxyWidget *proxy = edit ? edit->graphicsProxyWidget() : nullptr;
     Widget *field = proxy ? widgetOf(proxy) : nullptr;
     return field && lineEditOf(field) == edit ? new AccessibleLineEdit(edit, field) : nullptr;

@@ -20,6 +20,9 @@ public:
     /** Makes what an input method is still composing a part of the text. */
     void commit();
 
+    /** Where the cursor is, in its own coordinates. */
+    QRect cursorPlace() const { return cursorRect(); }
+
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 protected:

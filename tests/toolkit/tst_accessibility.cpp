@@ -30,6 +30,8 @@ private slots:
     void seesTheListAsATableOfAllRows();
     void readsAField();
     void typesIntoAField();
+    void knowsWhereEachCharacterIs_data();
+    void knowsWhereEachCharacterIs();
     void tellsOfTypingWhereTheFieldIs();
     void opensTheMenuOfWhatHasActions();
     void takesTheNameItIsGiven();
@@ -183,9 +185,44 @@ void TestAccessibility::typesIntoAField()
     QCOMPARE(text->selectionCount(), 1);
     QCOMPARE(start, 0);
     QCOMPARE(end, 7);
-    QVERIFY(field->rect().contains(text->characterRect(2).center()));
+    text->removeSelection(0);
+    QCOMPARE(text->selectionCount(), 0);
+    QCOMPARE(editor.field->selectedText(), QString());
     field->setText(QAccessible::Value, QStringLiteral("Nap"));
     QCOMPARE(editor.field->text(), QStringLiteral("Nap"));
+}
+
+void TestAccessibility::knowsWhereEachCharacterIs_data()
+{
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("short") << "Morning run" << Qt::LeftToRight;
+    QTest::newRow("mirrored") << "Morning run" << Qt::RightToLeft;
+    QTest::newRow("from the right") << QString::fromUtf8("ריצת בוקר") << Qt::RightToLeft;
+    QTest::newRow("longer than the field") << QStringLiteral("Morning run ").repeated(20) << Qt::LeftToRight;
+}
+
+void TestAccessibility::knowsWhereEachCharacterIs()
+{
+    QFETCH(QString, content);
+    QFETCH(Qt::LayoutDirection, direction);
+    Gallery::Editor editor;
+    editor.setLayoutDirection(direction);
+    editor.appear(m_window);
+    editor.field->setText(content);
+    const QAccessibleInterface *field = find(root(), QAccessible::EditableText, editor.field->accessibleName());
+    QVERIFY(field);
+    QAccessibleTextInterface *text = QAccessible::queryAccessibleInterface(editor.field)->textInterface();
+    const int last = int(content.size()) - 1;
+    for (const int offset : {last - 4, last - 2, last}) {
+        text->setCursorPosition(last + 1);
+        const QRect place = text->characterRect(offset);
+        QVERIFY(field->rect().contains(place.center()));
+        // Either of its two edges may be the nearer one.
+        const int found = text->offsetAtPoint(place.center());
+        QVERIFY2(found == offset || found == offset + 1, qPrintable(QString::number(found)));
+    }
+    QCOMPARE(text->characterRect(last + 1), QRect());
 }
 
 void TestAccessibility::tellsOfTypingWhereTheFieldIs()
