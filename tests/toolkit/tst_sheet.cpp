@@ -173,7 +173,9 @@ void TestSheet::slidesBackWhereItIsNotLeft()
     QCOMPARE(cancelled.count(), 0);
     QTRY_COMPARE(m_sheet->y(), 0.0);
     Finger::press(*m_window, m_page.get(), {240, 30});
+    moveTo({240, 60}, 50);
     moveTo({240, 500}, 500);
+    QCOMPARE(m_sheet->y(), 440.0);
     moveTo({240, 460}, 50);
     Finger::release(*m_window, m_page.get(), {240, 460});
     QVERIFY2(cancelled.count() == 0, "a finger on its way back has changed its mind");
