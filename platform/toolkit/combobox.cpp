@@ -34,9 +34,11 @@ QGraphicsLayout *ComboBox::createLayout()
     subtitleLabel()->setStyleName(QStringLiteral("CommonTitleBottom"));
     imageWidget()->setStyleName(QStringLiteral("CommonComboBoxIcon"));
     grid->addItem(titleLabel(), 0, 0, 1, 1, Qt::AlignLeft | Qt::AlignVCenter);
-    grid->addItem(subtitleLabel(), 1, 0, 1, 1, Qt::AlignLeft | Qt::AlignVCenter);
+    grid->addItem(subtitleLabel(), 1, 0, 1, 1, Qt::AlignLeft | Qt::AlignTop);
     grid->addItem(imageWidget(), 0, 1, 2, 1, Qt::AlignCenter);
     grid->setColumnStretchFactor(0, 1);
+    // The icon is in the middle of the row, however high that is.
+    grid->setRowStretchFactor(1, 1);
     return layout;
 }
 

@@ -41,6 +41,7 @@ private slots:
     void clearsItsItems();
     void takesItsListWithIt();
     void goesWithItsWindowWhileItIsOpen();
+    void hasItsArrowInTheMiddle();
 
 private:
     Dialog *popup() const { return qobject_cast<Dialog *>(m_window->topSceneWindow()); }
@@ -230,6 +231,16 @@ void TestComboBox::goesWithItsWindowWhileItIsOpen()
     window.reset();
     QVERIFY(!box);
     QVERIFY(!list);
+}
+
+void TestComboBox::hasItsArrowInTheMiddle()
+{
+    const ImageWidget *arrow = m_box->imageWidget();
+    for (const qreal height : {64.0, 100.0}) {
+        m_box->setPreferredHeight(height);
+        QTRY_COMPARE(m_box->size().height(), height);
+        QCOMPARE(arrow->sceneBoundingRect().center().y(), m_box->sceneBoundingRect().center().y());
+    }
 }
 
 QTEST_MAIN(TestComboBox)
