@@ -189,10 +189,16 @@ QRectF AlarmListItem::textsRect() const
     const qreal spacing = style().spacing;
     QRectF texts = rect().marginsRemoved(style().padding);
     texts.setRight(texts.right() - m_switch->size().width() - spacing);
-    if (isStacked())
-        texts.setTop(texts.top() + lineHeight("Time"));
-    else
+    if (!isStacked()) {
         texts.setLeft(texts.left() + widestTime() + spacing);
+        return texts;
+    }
+    // One line and the time above it stand together, in the middle.
+    if (m_itemStyle == OneLine) {
+        const qreal free = texts.height() - lineHeight("Time") - (m_subTitle.isEmpty() ? 0 : lineHeight("Title"));
+        texts.adjust(0, free / 2, 0, -free / 2);
+    }
+    texts.setTop(texts.top() + lineHeight("Time"));
     return texts;
 }
 
@@ -227,11 +233,12 @@ void AlarmListItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, Q
     painter->save();
     painter->setLayoutDirection(layoutDirection());
     const QRectF content = rect().marginsRemoved(look.padding);
+    const QRectF texts = textsRect();
     QRectF time(content.left(), content.top(), widestTime(), content.height());
     if (isStacked())
-        time.setHeight(lineHeight("Time"));
+        time = QRectF(content.left(), texts.top() - lineHeight("Time"), widestTime(), lineHeight("Time"));
     paintTime(*painter, mirroredIn(*this, time));
-    paintTexts(*painter, mirroredIn(*this, textsRect()));
+    paintTexts(*painter, mirroredIn(*this, texts));
     painter->restore();
     paintFocusRing(painter);
 }

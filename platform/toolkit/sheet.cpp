@@ -111,13 +111,15 @@ void Sheet::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 
 void Sheet::mouseReleaseEvent(QGraphicsSceneMouseEvent *)
 {
-    if (scene()->mouseGrabberItem() == this)
+    const QPointer<Sheet> guard(this);
+    m_swipe->release(size().height());
+    if (guard && scene() && scene()->mouseGrabberItem() == this)
         ungrabMouse();
 }
 
 void Sheet::ungrabMouseEvent(QEvent *event)
 {
-    m_swipe->release(size().height());
+    m_swipe->abandon();
     SceneWindow::ungrabMouseEvent(event);
 }
 

@@ -63,13 +63,21 @@ void SheetSwipe::follow(const QPointF &place)
     setDistance(qMax(0.0, place.y() - m_pressPlace.y()));
 }
 
-void SheetSwipe::release(qreal height)
+void SheetSwipe::abandon()
 {
     m_isPressed = false;
-    if (!std::exchange(m_isDrawing, false)) {
-        slideBack();
+    m_isDrawing = false;
+    slideBack();
+}
+
+void SheetSwipe::release(qreal height)
+{
+    if (!m_isDrawing) {
+        abandon();
         return;
     }
+    m_isPressed = false;
+    m_isDrawing = false;
     const bool isResting = (moveTime() - m_movedAt) / 1000.0 > staleMove;
     const bool isFast = !isResting && m_velocity >= fastEnough && m_distance >= leastFlick;
     const bool isGoingUp = !isResting && m_velocity < 0;

@@ -26,7 +26,8 @@ public:
     bool moveTo(const QPointF &place);
     /** It is let go, in a window of this height. */
     void release(qreal height);
-    bool isDrawing() const { return m_isDrawing; }
+    /** Somebody else has taken the finger over. */
+    void abandon();
     void slideBack();
     /** The sheet is going; what it does from now on is its own affair. */
     void forget();

@@ -4,8 +4,10 @@
 
 #include "platform/locale/locale.h"
 #include "platform/toolkit/switch.h"
+#include "platform/toolkit/theme.h"
 #include "tests/clockwidgets/stage.h"
 
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVariantAnimation>
@@ -64,6 +66,7 @@ private Q_SLOTS:
     void aLongTitleEndsBeforeTheSwitch();
     void showsTheLastOfManyDays();
     void tellsThatTheRepeatTextIsCutOff();
+    void largeTextsStandTogetherInTheMiddle();
     void showsNothingForAnInvalidTime();
     void followsTheTimeFormat();
     void standsTheOtherWayRoundFromRightToLeft();
@@ -267,6 +270,29 @@ void tst_AlarmListItem::tellsThatTheRepeatTextIsCutOff()
     scene.item->setGeometry(0, 100, 360, 88);
     scene.item->setSubText(QStringLiteral("Wednesday, ").repeated(20));
     QVERIFY(!scene.item->showsWholeSubText());
+}
+
+void tst_AlarmListItem::largeTextsStandTogetherInTheMiddle()
+{
+    Touch::Theme::instance().setTextScale(2);
+    const auto restore = qScopeGuard([] { Touch::Theme::instance().setTextScale(1); });
+    Scene scene;
+    scene.item->setGeometry(0, 100, 480, 200);
+    QVERIFY(scene.stage.show());
+    const QImage picture = scene.picture();
+    const QRgb background = picture.pixel(2, 102);
+    QList<int> inked; // lines of pixels, of the texts alone
+    for (int y = 0; y < 200; ++y) {
+        for (int x = 0; x < 300 && (inked.isEmpty() || inked.constLast() != y); ++x) {
+            if (picture.pixel(x, 100 + y) != background)
+                inked += y;
+        }
+    }
+    QVERIFY(inked.size() > 40);
+    const int above = inked.first();
+    const int below = 199 - inked.last();
+    QVERIFY2(qAbs(above - below) <= 8, qPrintable(QStringLiteral("%1 above, %2 below").arg(above).arg(below)));
+    QVERIFY2(inked.last() - inked.first() < 100, "the title hangs below the time");
 }
 
 void tst_AlarmListItem::showsNothingForAnInvalidTime()

@@ -158,6 +158,8 @@ void TestButton::isLargeEnoughForAFinger()
     QFETCH(QString, styleName);
     Button button(QStringLiteral("i"));
     button.setStyleName(styleName);
+    if (styleName.contains(QLatin1String("Icon")))
+        button.setIconID(QStringLiteral("icon-m-common-add"));
     const QSizeF size = button.effectiveSizeHint(Qt::MinimumSize);
     QVERIFY(size.width() >= 48);
     QVERIFY(size.height() >= 48);
