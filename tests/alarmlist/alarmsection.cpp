@@ -11,6 +11,7 @@
 #include "platform/toolkit/objectmenu.h"
 #include "tests/support/alarms.h"
 #include "tests/support/look/look.h"
+#include "tests/support/look/shown.h"
 
 #include <QTest>
 
@@ -76,12 +77,8 @@ AlarmListItem *AlarmSection::cell(int row) const
 
 QString AlarmSection::shownBanner() const
 {
-    const auto sceneWindows = m_window->sceneWindows();
-    for (const Touch::SceneWindow *sceneWindow : sceneWindows) {
-        if (const auto *banner = qobject_cast<const Touch::Banner *>(sceneWindow))
-            return banner->isOnDisplay() ? banner->title() : QString();
-    }
-    return QString();
+    const auto *banner = Support::shownIn<Touch::Banner>(m_window.get());
+    return banner ? banner->title() : QString();
 }
 
 bool AlarmSection::isHintShown() const

@@ -10,6 +10,7 @@
 #include "tests/support/alarms.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/look/items.h"
+#include "tests/support/look/shown.h"
 #include "tests/support/summertime.h"
 
 #include <QTest>
@@ -37,7 +38,7 @@ private slots:
     void withNothingSwitchedOnThereIsNothingToFix();
 
 private:
-    Touch::MessageBox *dialog() const;
+    Touch::MessageBox *dialog() const { return Support::shownIn<Touch::MessageBox>(m_section.window()); }
 
     QTime m_skipped;
     AlarmSection m_section;
@@ -54,17 +55,6 @@ void TestBrokenAlarm::cleanup()
     if (Touch::MessageBox *open = dialog())
         open->dismiss();
     QVERIFY(m_section.close());
-}
-
-Touch::MessageBox *TestBrokenAlarm::dialog() const
-{
-    // A banner may lie above it.
-    const auto sceneWindows = m_section.window()->sceneWindows();
-    for (Touch::SceneWindow *sceneWindow : sceneWindows) {
-        if (auto *box = qobject_cast<Touch::MessageBox *>(sceneWindow))
-            return box;
-    }
-    return nullptr;
 }
 
 void TestBrokenAlarm::itIsSwitchedOffAgainAndTheDialogOpens()

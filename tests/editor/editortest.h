@@ -14,6 +14,7 @@
 #include "platform/toolkit/textedit.h"
 #include "tests/support/alarms.h"
 #include "tests/support/look/items.h"
+#include "tests/support/look/shown.h"
 #include "tests/support/privatebus.h"
 
 #include <QSettings>
@@ -46,13 +47,7 @@ protected:
     template <typename T>
     T *shown() const
     {
-        T *found = nullptr;
-        const auto sceneWindows = m_window->sceneWindows();
-        for (Touch::SceneWindow *sceneWindow : sceneWindows) {
-            if (auto *candidate = qobject_cast<T *>(sceneWindow); candidate && candidate->isOnDisplay())
-                found = candidate;
-        }
-        return found;
+        return Support::shownIn<T>(m_window.get());
     }
     QString shownBanner() const;
     static QList<quint32> storedCookies();

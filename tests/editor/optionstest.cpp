@@ -16,12 +16,7 @@ void OptionsTest::closeOptions()
 
 RepeatingRules *OptionsTest::dialog() const
 {
-    const auto sceneWindows = m_options->hostWindow()->sceneWindows();
-    for (Touch::SceneWindow *sceneWindow : sceneWindows) {
-        if (auto *rules = qobject_cast<RepeatingRules *>(sceneWindow); rules && rules->isOnDisplay())
-            return rules;
-    }
-    return nullptr;
+    return Support::shownIn<RepeatingRules>(m_options->hostWindow());
 }
 
 void OptionsTest::openNewAlarm()

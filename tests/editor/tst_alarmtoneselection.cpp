@@ -112,12 +112,7 @@ void TestAlarmToneSelection::open(const QString &path)
 
 AlertToneBrowserSheet *TestAlarmToneSelection::browser() const
 {
-    const auto sceneWindows = m_options->hostWindow()->sceneWindows();
-    for (Touch::SceneWindow *sceneWindow : sceneWindows) {
-        if (auto *sheet = qobject_cast<AlertToneBrowserSheet *>(sceneWindow); sheet && sheet->isOnDisplay())
-            return sheet;
-    }
-    return nullptr;
+    return Support::shownIn<AlertToneBrowserSheet>(m_options->hostWindow());
 }
 
 void TestAlarmToneSelection::choose(const QString &title)

@@ -153,6 +153,9 @@ void TestEditorConstruction::deletesByAButtonInAPanel()
     const Touch::Widget *panel = rowOf(button);
     QCOMPARE(panel->styleName(), "CommonPanelNoFeedback");
     QCOMPARE(panel->layout()->count(), 1);
+    const auto middle = [](const Touch::Widget *widget) { return widget->sceneBoundingRect().center().x(); };
+    load(Support::addAlarm(QTime(7, 5)));
+    QTRY_VERIFY(qAbs(middle(button) - middle(m_page.get())) < 1);
 }
 
 void TestEditorConstruction::theDividerStandsAboveTheDeletion()
