@@ -11,6 +11,7 @@ import shlex
 import struct
 import subprocess
 import unittest
+import xml.etree.ElementTree
 
 from staged import BUILD, CMAKE, PREFIX, ROOT, StagedCase, run
 
@@ -81,12 +82,39 @@ class Installed(StagedCase):
             set(PROJECT_VERSION 1.2.3)
             file(READ {ROOT}/data/desktop/addresses.xml.in addresses)
             string(CONFIGURE "${{addresses}}" CLOCK_ADDRESSES @ONLY)
-            configure_file({ROOT}/data/desktop/{name}.in {self.folder}/{name} @ONLY)""")
+            configure_file({ROOT}/data/desktop/{name}.in {self.folder}/{name}.in @ONLY)""")
         run(CMAKE, "-P", script)
+        run(ROOT / "data/desktop/translate", self.folder / f"{name}.in", self.folder / name, *self.catalogues())
         run("appstreamcli", "validate", "--no-net", "--pedantic", self.folder / name)
         pictures = re.findall(r"<image>https://clock.example/tree/(.*)</image>", (self.folder / name).read_text())
         self.assertTrue(pictures)
         self.assertEqual([picture for picture in pictures if not (ROOT / picture).is_file()], [])
+
+    @staticmethod
+    def catalogues():
+        return [*sorted((ROOT / "data/translations").glob("clock_*.ts")),
+                *sorted((ROOT / "data/desktop/translations").glob("desktop_*.ts"))]
+
+    def test_every_language_is_in_launcher_and_software_centre(self):
+        launcher = (self.share / "applications/com.korvo.clock.desktop").read_text()
+        entry = xml.etree.ElementTree.parse(self.share / "metainfo/com.korvo.clock.metainfo.xml").getroot()
+        for catalogue in self.catalogues():
+            root = xml.etree.ElementTree.parse(catalogue).getroot()
+            language = root.get("language")
+            tag = {"{http://www.w3.org/XML/1998/namespace}lang": language.replace("_", "-")} if language != "en" else {}
+            key = f"[{language}]" if language != "en" else ""
+            texts = {message.get("id"): message.findtext("translation") for message in root.iter("message")}
+            if catalogue.name.startswith("clock_"):
+                self.assertIn(f"\nName{key}={texts['qtn_cloc_title']}\n", launcher)
+                self.assertEqual([name.text for name in entry.iter("name") if name.attrib == tag],
+                                 [texts["qtn_cloc_title"]])
+                continue
+            self.assertIn(f"\nGenericName{key}={texts['qtn_desk_generic_name']}\n", launcher)
+            self.assertIn(f"\nComment{key}={texts['qtn_desk_comment']}\n", launcher)
+            self.assertIn(f"\nKeywords{key}={texts['qtn_desk_keywords']}\n", launcher)
+            shown = [element.text for element in entry.iter() if element.attrib == tag]
+            wanted = [text for name, text in texts.items() if not re.match("qtn_desk_(generic_name|keywords)", name)]
+            self.assertEqual([text for text in wanted if text not in shown], [], language)
 
     def test_icons_in_all_sizes(self):
         icons = self.share / "icons/hicolor"

@@ -12,6 +12,7 @@ namespace {
 
 const QHash<QString, QString> folders{
     {"clock", "data/translations"},
+    {"desktop", "data/desktop/translations"},
     {"sounds", "platform/clockwidgets/translations"},
     {"ringer", "platform/ringer/texts/translations"},
     {"timed", "platform/timed/translations"},

@@ -39,19 +39,14 @@ QStringList placeholders(const QString &text)
     return found;
 }
 
-QString contentsOf(const QString &sourceFile)
-{
-    QFile file(Places::source(sourceFile));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-/** The names of texts in the sources of application and platform. */
+/** The names of texts in the sources of application and platform, and in what the desktop is told. */
 QSet<QString> usedTexts()
 {
-    static const QRegularExpression expression("\"(qtn_(?!country_)[a-z_0-9]+)\"");
+    static const QRegularExpression expression("[\"{](qtn_(?!country_)[a-z_0-9]+)[\"}]");
     QSet<QString> used;
-    for (const char *folder : {"alarms", "alarmlist", "editor", "mainview", "app", "backup", "platform"}) {
-        QDirIterator files(Places::source(folder), {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
+    for (const char *folder :
+         {"alarms", "alarmlist", "editor", "mainview", "app", "backup", "data/desktop", "platform"}) {
+        QDirIterator files(Places::source(folder), {"*.cpp", "*.h", "*.in"}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             QFile file(files.next());
             if (!file.open(QIODevice::ReadOnly))
@@ -86,8 +81,6 @@ private slots:
     void noTextIsLeftInEnglish();
     void theMorningIsCalledAsInTimes_data();
     void theMorningIsCalledAsInTimes();
-    void theDesktopKnowsTheApplication_data() { theMorningIsCalledAsInTimes_data(); }
-    void theDesktopKnowsTheApplication();
     void allCountriesAreNamed_data() { theMorningIsCalledAsInTimes_data(); }
     void allCountriesAreNamed();
 
@@ -226,26 +219,6 @@ void TestCatalogues::theMorningIsCalledAsInTimes()
     Touch::Locale::setDefault(locale);
     const QDateTime morning(QDate(2026, 1, 1), QTime(8, 0), Qt::UTC);
     QCOMPARE(qtTrId("qtn_comm_time_am"), locale.formatDateTime(morning, "%p"));
-}
-
-// In the menu of programs and in the catalogue of a software centre.
-void TestCatalogues::theDesktopKnowsTheApplication()
-{
-    QFETCH(QString, language);
-    if (language == u"en")
-        return;
-    const Catalogue clock = Catalogue::read("clock", language);
-    QCOMPARE(clock.texts.first().id, "qtn_cloc_title");
-    const QString title = clock.texts.first().forms.first();
-    const QString menu = contentsOf("data/desktop/com.korvo.clock.desktop");
-    QVERIFY(menu.contains(QStringLiteral("\nName[%1]=%2\n").arg(language, title)));
-    QVERIFY(menu.contains(QStringLiteral("\nGenericName[%1]=").arg(language)));
-    QVERIFY(menu.contains(QStringLiteral("\nComment[%1]=").arg(language)));
-    QVERIFY(menu.contains(QStringLiteral("\nKeywords[%1]=").arg(language)));
-    const QString software = contentsOf("data/desktop/com.korvo.clock.metainfo.xml.in");
-    const QString tag = QString(language).replace(u'_', u'-');
-    QVERIFY(software.contains(QStringLiteral("<name xml:lang=\"%1\">%2</name>").arg(tag, title)));
-    QVERIFY(software.contains(QStringLiteral("<summary xml:lang=\"%1\">").arg(tag)));
 }
 
 void TestCatalogues::allCountriesAreNamed()
