@@ -21,6 +21,8 @@ using Clock::Utility;
 void AlarmOptionsPage::load(quint32 cookie, const QString &tone, unsigned int snooze)
 {
     const bool isNewAlarm = cookie == QmAlarmEvent::NotStored;
+    // A restored backup may have brought others.
+    m_settings.sync();
     loadTone(isNewAlarm ? m_settings.value(Settings::DefaultToneKey, m_defaultTone).toString() : tone);
     QmAlarmEvent record;
     if (!isNewAlarm)

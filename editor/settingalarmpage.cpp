@@ -75,6 +75,8 @@ void SettingAlarmPage::loadAlarm(quint32 cookie, const QTime &time, const QStrin
 
 void SettingAlarmPage::loadPreferences()
 {
+    // A restored backup may have brought others.
+    m_settings.sync();
     const QString text = m_settings.value(Settings::DefaultAlarmTimeKey, Settings::DefaultAlarmTime).toString();
     const QTime time = QTime::fromString(text, Qt::TextDate);
     m_timePicker->setHours(time.hour());

@@ -4,7 +4,9 @@
 
 #include "tests/support/look/look.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 void EditorTest::startStage()
 {
@@ -37,6 +39,13 @@ void EditorTest::openPage()
     m_picker = Support::itemIn<TimePicker>(m_page.get());
     m_title = Support::itemIn<Touch::TextEdit>(m_page.get());
     m_page->appear(m_window.get());
+}
+
+void EditorTest::writePreferences(const QByteArray &content)
+{
+    QFile file(QSettings("Korvo", "Clock").fileName());
+    QVERIFY(QDir().mkpath(QFileInfo(file).path()));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
 }
 
 void EditorTest::closePage()

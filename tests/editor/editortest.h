@@ -51,6 +51,8 @@ protected:
     }
     QString shownBanner() const;
     static QList<quint32> storedCookies();
+    /** Writes the file of the preferences as another program does: by QSettings, this process would know of it. */
+    static void writePreferences(const QByteArray &content);
 
     using QmAlarm = Clock::QmAlarm;
     using QmAlarmEvent = Clock::QmAlarmEvent;

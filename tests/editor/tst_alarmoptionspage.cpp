@@ -40,6 +40,7 @@ private slots:
     void searchesByHalves();
     void aNewAlarmStartsWithTheDefaults();
     void aNewAlarmTakesThePreferences();
+    void aNewAlarmTakesPreferencesThatChangedMeanwhile();
     void aNewAlarmsSnoozeIsCutToEightBits();
     void aNewAlarmsSnoozeThatCannotBeChosenKeepsTheChoice();
     void anExistingAlarmBringsItsOwnValues();
@@ -173,6 +174,16 @@ void TestAlarmOptionsPage::aNewAlarmTakesThePreferences()
     settings().setValue("Clock/SnoozeTime", 20);
     settings().setValue("Clock/DefaultTone", m_tone);
     m_options->load(QmAlarmEvent::NotStored, "/not/asked.aac", 5);
+    QCOMPARE(m_options->snoozeIndex(), 3);
+    QCOMPARE(m_options->tone(), m_tone);
+}
+
+void TestAlarmOptionsPage::aNewAlarmTakesPreferencesThatChangedMeanwhile()
+{
+    openNewAlarm();
+    QCOMPARE(m_options->snoozeIndex(), 1);
+    writePreferences("[Clock]\nSnoozeTime=20\nDefaultTone=" + m_tone.toUtf8() + '\n');
+    m_options->load(QmAlarmEvent::NotStored, QString(), 10);
     QCOMPARE(m_options->snoozeIndex(), 3);
     QCOMPARE(m_options->tone(), m_tone);
 }

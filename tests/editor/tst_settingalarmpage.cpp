@@ -36,6 +36,7 @@ private slots:
     void aNewAlarmStartsWithTheDefaults();
     void aNewAlarmTakesThePreferences();
     void aNewAlarmTakesPreferencesWrittenByHand();
+    void aNewAlarmTakesPreferencesThatChangedMeanwhile();
     void aPreferenceThatIsNoTimeIsTakenAsItComes();
     void aNewAlarmsMissingToneIsReplacedToo();
     void anExistingAlarmBringsItsOwnValues();
@@ -120,6 +121,19 @@ void TestSettingAlarmPage::aNewAlarmTakesPreferencesWrittenByHand()
     m_page->saveAlarm();
     // Of the minutes the record keeps eight bits.
     QCOMPARE(QmAlarmEvent(m_page->getAlarmCookie()).snooze(), 10);
+}
+
+void TestSettingAlarmPage::aNewAlarmTakesPreferencesThatChangedMeanwhile()
+{
+    load(QmAlarmEvent::NotStored);
+    QCOMPARE(pickedTime(), QTime(8, 0));
+    writePreferences("[Clock]\nDefaultAlarmTime=06:45:00\nSnoozeTime=5\nDefaultTone=" + m_tone.toUtf8() + '\n');
+    load(QmAlarmEvent::NotStored);
+    QCOMPARE(pickedTime(), QTime(6, 45));
+    m_page->saveAlarm();
+    const QmAlarmEvent stored(m_page->getAlarmCookie());
+    QCOMPARE(stored.snooze(), 5);
+    QCOMPARE(stored.tone(), m_tone);
 }
 
 void TestSettingAlarmPage::aPreferenceThatIsNoTimeIsTakenAsItComes()
