@@ -31,9 +31,10 @@ const auto RestoreDetails = QStringLiteral("The whole file is checked first; one
                                            "kind or of a newer version changes nothing.\n"
                                            "Alarms that you have now stay. One that is the same in every part is not "
                                            "restored again, so a restore can be\n"
-                                           "repeated. A one-time alarm whose time has passed since comes back "
-                                           "switched off. Settings are replaced. A tone\n"
-                                           "replaces no other file.\n");
+                                           "repeated; one that you changed since stays and rings, and comes back as it "
+                                           "was beside it. A one-time alarm whose\n"
+                                           "time has passed since comes back switched off. Settings are replaced. A "
+                                           "tone replaces no other file.\n");
 
 /** What the arguments of both commands say. */
 struct Request
@@ -89,6 +90,8 @@ void tellOf(const Restored &restored)
                  counted(restored.tones, "tone")));
     if (restored.present > 0)
         say(counted(restored.present, "alarm") + " needed nothing: there already, or over");
+    if (restored.others > 0)
+        say(counted(restored.others, "alarm") + " kept: not in the backup, or changed since");
     if (restored.passed > 0)
         say(counted(restored.passed, "one-time alarm") + " switched off: the time has passed since the backup");
     for (const QString &tone : restored.missingTones)

@@ -6,10 +6,12 @@
 #include "platform/backup/daemon.h"
 #include "platform/backup/messages.h"
 #include "platform/backup/places.h"
+#include "platform/timedclient/eventcodec.h"
 #include "platform/timedclient/interface.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QSettings>
 #include <QTemporaryFile>
 
@@ -144,6 +146,10 @@ QByteArray Restoration::withTonesOfHere(const QByteArray &settings, const QStrin
 
 Result<Restored> Restoration::commit()
 {
+    const auto others = countOthers();
+    if (!others)
+        return others.problem();
+    m_restored.others = *others;
     Astel::Timed::Interface timed;
     const auto cookies = answerOf(timed.restore_events({m_archive.records}));
     if (!cookies)
@@ -164,6 +170,20 @@ Result<> Restoration::nameFiles()
     if (!failed.isEmpty())
         return failure(QStringLiteral("the alarms are restored, but these files are not: %1").arg(failed.join(", ")));
     return Done();
+}
+
+Result<int> Restoration::countOthers() const
+{
+    Astel::Timed::Interface timed;
+    const auto here = answerOf(timed.backup_events());
+    if (!here)
+        return here.problem();
+    QHash<QString, int> inBackup;
+    for (const Wire::Record &record : m_archive.records)
+        ++inBackup[Astel::Timed::encodeEvent(record.event)];
+    return int(std::count_if(here->records.cbegin(), here->records.cend(), [&](const Wire::Record &record) {
+        return inBackup[Astel::Timed::encodeEvent(record.event)]-- <= 0;
+    }));
 }
 
 void Restoration::countAlarms(const QList<uint> &cookies)

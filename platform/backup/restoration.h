@@ -20,6 +20,7 @@ struct Restored
     int present = 0; ///< alarms that were there already, or are over
     int passed = 0;  ///< among the restored: one-time alarms that are switched
                      ///< off, for their time has passed
+    int others = 0;  ///< alarms that are here and not in the backup
     int settings = 0;
     int tones = 0;
     QStringList missingTones; ///< files that restored alarms name
@@ -49,6 +50,7 @@ private:
     QByteArray withTonesOfHere(const QByteArray &settings, const QStringList &toneKeys) const;
     Result<> nameFiles();
     void countAlarms(const QList<uint> &cookies);
+    Result<int> countOthers() const;
 
     Archive m_archive;
     QMap<QString, QString> m_moved; ///< tones that lie elsewhere here

@@ -1,12 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/backup/archive.h"
+#include "platform/backup/tar.h"
 #include "tests/backup/household.h"
 #include "tests/backup/participant.h"
 
+#include <QCryptographicHash>
 #include <QFileInfo>
+#include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
+
+#include <sys/prctl.h>
+#include <sys/stat.h>
 
 namespace Wire = Astel::Timed::Wire;
 
@@ -19,6 +25,34 @@ Backup::Archive elsewhere()
             {{dailyAlarm(6, "From elsewhere", "/home/a/Music/new.mp3"), "WAITING", 0}},
             {{"Korvo/Clock.conf", "[Clock]\nSnoozeTime=30\n"}},
             {{"/home/a/Music/new.mp3", "music", "new.mp3", "sound"}}};
+}
+
+// What lets a super-user read every file: CAP_DAC_OVERRIDE and CAP_DAC_READ_SEARCH.
+constexpr int CapabilitiesToReadAll[] = {1, 2};
+
+/** What the program tar makes of a folder: with a file, a link that leads out, and a folder. */
+QByteArray otherArchive(const QString &format)
+{
+    const QTemporaryDir folder;
+    if (!write(folder.filePath("in/manifest.json"), "{}") || !QFile::link("/etc/passwd", folder.filePath("in/link")))
+        return {};
+    QProcess tar;
+    tar.start("tar", {"-C", folder.filePath("in"), "--format=" + format, "-cf", "-", "manifest.json", "link", "."});
+    return tar.waitForFinished() && tar.exitCode() == 0 ? tar.readAllStandardOutput() : QByteArray();
+}
+
+/** The backup with another manifest, and checksums that match it. */
+QByteArray withManifest(QByteArray manifest)
+{
+    auto members = *Backup::readTar(Backup::encode(elsewhere()));
+    members.first().content = std::move(manifest);
+    members.removeLast();
+    QByteArray sums;
+    for (const auto &member : std::as_const(members))
+        sums
+            += QCryptographicHash::hash(member.content, QCryptographicHash::Sha256).toHex() + "  " + member.name + '\n';
+    members.append({"SHA256SUMS", sums});
+    return Backup::writeTar(members);
 }
 
 QString music(const QString &file)
@@ -55,6 +89,9 @@ private:
 
 void DamagedBackupsTest::initTestCase()
 {
+    // Where this is the super-user, what this process starts is bound by permissions all the same.
+    for (const int capability : CapabilitiesToReadAll)
+        prctl(PR_CAPBSET_DROP, capability);
     QVERIFY(m_household.start());
     m_participant = std::make_unique<NotingParticipant>("one", m_notes);
     QVERIFY(m_participant->enlist());
@@ -95,6 +132,10 @@ void DamagedBackupsTest::aDamagedFileChangesNothing_data()
         QTest::addRow("%d sixteenths of it", part) << whole.left(whole.size() * part / 16) << "cut off";
     for (qsizetype byte = 0; byte < whole.size(); byte += 509)
         QTest::addRow("byte %lld", qlonglong(byte)) << flipped(byte) << (byte == 0 ? "not a backup" : "it is");
+    for (const char *format : {"v7", "ustar", "gnu", "posix"})
+        QTest::newRow(format) << otherArchive(format) << "not a backup";
+    QTest::newRow("newer") << withManifest(R"({"format": "clock-backup", "version": 2})") << "it has version 2";
+    QTest::newRow("of another program") << withManifest(R"({"format": "photos", "version": 1})") << "not a backup";
     QTest::newRow("twice the same") << whole + whole << "damaged";
     QTest::newRow("a page of zeros in it") << QByteArray(whole).replace(512, 512, QByteArray(512, '\0')) << "damaged";
 }
@@ -118,6 +159,19 @@ void DamagedBackupsTest::noFileChangesNothing_data()
     QTest::newRow("folder") << QFileInfo(m_household.file()).path() << "not a file";
     QTest::newRow("device") << "/dev/zero"
                             << "not a file";
+
+    const QString pipe = m_household.file("pipe");
+    QCOMPARE(mkfifo(QFile::encodeName(pipe), 0600), 0);
+    QTest::newRow("pipe") << pipe << "not a file";
+    const QString link = m_household.file("link");
+    QVERIFY(QFile::link(m_household.file("gone"), link));
+    QTest::newRow("link to nothing") << link << "No such file";
+    const QString locked = m_household.file("locked");
+    QVERIFY(write(locked, Backup::encode(elsewhere())) && QFile::setPermissions(locked, {}));
+    QTest::newRow("unreadable") << locked << "Permission denied";
+    const QString huge = m_household.file("huge");
+    QVERIFY(write(huge, Backup::encode(elsewhere())) && QFile::resize(huge, Q_INT64_C(1024) * 1024 * 1024 + 1));
+    QTest::newRow("huge") << huge << "too large";
 }
 
 void DamagedBackupsTest::noFileChangesNothing()
@@ -157,7 +211,9 @@ void DamagedBackupsTest::theWholeFileIsTaken()
     QVERIFY(write(m_household.file(), Backup::encode(elsewhere())));
     const Support::Run run = m_household.backUp({"restore", m_household.file()});
     QCOMPARE(run.errors, "");
-    QCOMPARE(run.output, "Restored 1 alarm, 1 settings file, 1 tone\n");
+    QCOMPARE(run.output,
+             "Restored 1 alarm, 1 settings file, 1 tone\n"
+             "1 alarm kept: not in the backup, or changed since\n");
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(Household::records().size(), 2);
     QCOMPARE(contentOf(settingsFile()), "[Clock]\nSnoozeTime=30\n");

@@ -30,6 +30,7 @@ private slots:
     void aFileThatDescribesNobodyIsIgnored_data();
     void aFileThatDescribesNobodyIsIgnored();
     void settingsOfNobodyAreLeftOut();
+    void tonesThatLeadOutAreLeftOut();
     void refusesNonsense_data();
     void refusesNonsense();
     void helps();
@@ -190,6 +191,27 @@ void ParticipantsTest::settingsOfNobodyAreLeftOut()
     QVERIFY(!QFileInfo::exists(folder + "/evil.conf"));
     QVERIFY(!QFileInfo::exists(folder + "/../evil.conf"));
     QVERIFY(!QFileInfo::exists("/tmp/evil"));
+}
+
+void ParticipantsTest::tonesThatLeadOutAreLeftOut()
+{
+    const QString music = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
+    const Backup::Archive archive{QDateTime::currentDateTimeUtc(),
+                                  {},
+                                  {},
+                                  {{"/a", "music", "../evil.mp3", "x"},
+                                   {"/b", "music", "/tmp/evil.mp3", "x"},
+                                   {"/c", "config", "evil.mp3", "x"}}};
+    QVERIFY(write(m_household.file(), Backup::encode(archive)));
+    const Support::Run run = m_household.backUp({"restore", m_household.file()});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.output, "Restored 0 alarms, 0 settings files, 0 tones\n");
+    QCOMPARE(run.errorLines(),
+             (QStringList{"clock-backup: there is no place here for the tone /a, leaving it out",
+                          "clock-backup: there is no place here for the tone /b, leaving it out",
+                          "clock-backup: there is no place here for the tone /c, leaving it out"}));
+    QVERIFY(!QFileInfo::exists(music + "/../evil.mp3"));
+    QVERIFY(!QFileInfo::exists("/tmp/evil.mp3"));
 }
 
 void ParticipantsTest::refusesNonsense_data()

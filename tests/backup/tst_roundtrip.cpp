@@ -58,6 +58,7 @@ private slots:
     void theyComeBackWithNewCookies();
     void nothingIsDoubled();
     void alarmsThatAreThereNowStay();
+    void anAlarmThatWasChangedSinceRingsBesideTheOneOfTheBackup();
     void aOneTimeAlarmThatIsOverComesBackSwitchedOff();
     void onlyWhatIsMeantForABackupIsTaken();
     void theFileIsForItsOwnerAlone();
@@ -144,12 +145,41 @@ void RoundTripTest::alarmsThatAreThereNowStay()
     QCOMPARE(m_household.backUp({"create", m_household.file()}).exitCode, 0);
     QVERIFY(m_household.startAfresh());
     const quint32 now = Household::add(dailyAlarm(8, "Now"));
-    QCOMPARE(m_household.backUp({"restore", m_household.file()}).exitCode, 0);
+    const Support::Run restored = m_household.backUp({"restore", m_household.file()});
+    QCOMPARE(restored.exitCode, 0);
+    QCOMPARE(restored.output,
+             "Restored 1 alarm, 0 settings files, 0 tones\n"
+             "1 alarm kept: not in the backup, or changed since\n");
     const auto records = Household::records();
     QCOMPARE(records.size(), 2);
     QCOMPARE(records[0].event, dailyAlarm(8, "Now"));
     QCOMPARE(records[1].event, dailyAlarm(7, "Then"));
     QVERIFY(Household::cookies().contains(now));
+}
+
+void RoundTripTest::anAlarmThatWasChangedSinceRingsBesideTheOneOfTheBackup()
+{
+    const quint32 cookie = Support::addAlarm(QTime(7, 30), "Work", {1, 2, 3});
+    Support::addAlarm(QTime(9, 0), "Untouched", {6});
+    QCOMPARE(m_household.backUp({"create", m_household.file()}).exitCode, 0);
+    const auto then = Household::records();
+    Clock::QmAlarmEvent changed(cookie);
+    changed.setAlarmTime(QTime(6, 0));
+    QVERIFY(Clock::QmAlarm().replace(changed, cookie) != Clock::QmAlarmEvent::NotStored);
+    const auto now = Household::records();
+
+    for (const char *count : {"Restored 1 alarm,", "Restored 0 alarms,"}) {
+        const Support::Run restored = m_household.backUp({"restore", m_household.file()});
+        QVERIFY2(restored.output.startsWith(count), qPrintable(restored.output));
+        QVERIFY2(restored.output.contains("\n1 alarm kept: not in the backup, or changed since\n"),
+                 qPrintable(restored.output));
+        const auto both = Household::records();
+        QCOMPARE(both.size(), 3);
+        for (const auto &record : then + now) {
+            QVERIFY(both.contains(record));
+            QCOMPARE(record.state, "WAITING");
+        }
+    }
 }
 
 void RoundTripTest::aOneTimeAlarmThatIsOverComesBackSwitchedOff()

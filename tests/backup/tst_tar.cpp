@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <numeric>
+
 using Backup::readTar;
 using Backup::TarMember;
 using Backup::writeTar;
@@ -20,6 +22,8 @@ private slots:
     void readsWhatItWrites();
     void otherProgramsReadIt();
     void refusesWhatOtherProgramsWrite();
+    void refusesWhatIsNoPlainFile_data();
+    void refusesWhatIsNoPlainFile();
     void refusesASizeThatIsNone_data();
     void refusesASizeThatIsNone();
 };
@@ -76,6 +80,41 @@ void TarTest::refusesWhatOtherProgramsWrite()
     const auto read = readTar(tar.readAllStandardOutput());
     QVERIFY(!read);
     QVERIFY(read.problem().text.contains("not a backup"));
+}
+
+void TarTest::refusesWhatIsNoPlainFile_data()
+{
+    QTest::addColumn<char>("kind");
+    QTest::addColumn<QByteArray>("target");
+
+    QTest::newRow("hard link") << '1' << QByteArray("/etc/passwd");
+    QTest::newRow("symbolic link") << '2' << QByteArray("/etc/passwd");
+    QTest::newRow("symbolic link upwards") << '2' << QByteArray("../../.profile");
+    QTest::newRow("device") << '3' << QByteArray();
+    QTest::newRow("folder") << '5' << QByteArray();
+    QTest::newRow("pipe") << '6' << QByteArray();
+    QTest::newRow("long name") << 'L' << QByteArray();
+    QTest::newRow("long name of POSIX") << 'x' << QByteArray();
+    QTest::newRow("a file with a target") << '0' << QByteArray("/etc/passwd");
+}
+
+void TarTest::refusesWhatIsNoPlainFile()
+{
+    QFETCH(const char, kind);
+    QFETCH(const QByteArray, target);
+    QByteArray bytes = writeTar({{"one", "first"}, {"two", "second"}});
+    QByteArray header = bytes.mid(1024, 512);
+    header[156] = kind;
+    header.replace(157, target.size(), target);
+    // With a checksum that is right, as it would be in an archive made on purpose.
+    header.replace(148, 8, QByteArray(8, ' '));
+    const int sum
+        = std::accumulate(header.cbegin(), header.cend(), 0, [](int so, char byte) { return so + uchar(byte); });
+    header.replace(148, 7, QByteArray::number(sum, 8).rightJustified(6, '0') + '\0');
+    bytes.replace(1024, 512, header);
+    const auto read = readTar(bytes);
+    QVERIFY(!read);
+    QCOMPARE(read.problem().text, "it is damaged");
 }
 
 void TarTest::refusesASizeThatIsNone_data()
