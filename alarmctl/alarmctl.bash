@@ -8,7 +8,7 @@ _alarmctl() {
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
         mapfile -t COMPREPLY < <(compgen -W \
-            'list add edit on off remove next when watch health journal --help' -- "$current")
+            'list add edit on off remove next when watch health journal --help --version' -- "$current")
         return
     fi
     case $previous in

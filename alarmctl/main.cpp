@@ -9,6 +9,6 @@ int main(int argc, char *argv[])
 {
     Trace::install();
     const QCoreApplication application(argc, argv);
-    const Program program{"alarmctl", "The alarms of the clock, from the command line.", allCommands()};
+    const Program program{"alarmctl", "The alarms of the clock, from the command line.", CLOCK_VERSION, allCommands()};
     return run(program, QCoreApplication::arguments().mid(1));
 }

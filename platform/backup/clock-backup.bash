@@ -6,7 +6,7 @@ _clock_backup() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} words='--timeout --help'
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        mapfile -t COMPREPLY < <(compgen -W 'create restore --help' -- "$current")
+        mapfile -t COMPREPLY < <(compgen -W 'create restore --help --version' -- "$current")
         return
     fi
     [[ $previous == --timeout ]] && return

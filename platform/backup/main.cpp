@@ -8,6 +8,7 @@
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
-    const Program program{Backup::ProgramName, "Alarms and settings, into a file and back.", Backup::allCommands()};
+    const Program program{Backup::ProgramName, "Alarms and settings, into a file and back.", CLOCK_VERSION,
+                          Backup::allCommands()};
     return run(program, QCoreApplication::arguments().mid(1));
 }

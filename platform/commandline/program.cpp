@@ -8,6 +8,7 @@
 namespace {
 
 const Option Help{"help", "", "show this help"};
+const Option Version{"version", "", "show the version"};
 
 QString usageOf(const Program &program, const Command &command)
 {
@@ -39,16 +40,28 @@ QString helpFor(const Program &program, const Command &command)
     return text;
 }
 
-QString generalHelp(const Program &program)
+QString commandsOf(const Program &program)
 {
-    QString text = "Usage: " + program.name + " COMMAND [ARGUMENT...]\n\n" + program.summary + "\n\nCommands:\n";
+    QString text = "Commands:\n";
     for (const Command &command : program.commands)
         text += QStringLiteral("  %1  %2\n").arg(command.name, -8).arg(command.summary);
     text += "\nExamples:\n";
     for (const Command &command : program.commands)
         text += "  " + program.name + ' ' + command.examples.last() + '\n';
-    return text + "\nExit status: 0 done, 1 failed, 2 wrong usage. \"" + program.name
-        + " COMMAND --help\" tells more.\n";
+    return text + '\n';
+}
+
+QString generalHelp(const Program &program)
+{
+    const bool hasCommands = !program.commands.isEmpty();
+    QString text = "Usage: " + program.name + (hasCommands ? " COMMAND [ARGUMENT...]" : " [OPTION]") + "\n\n"
+        + program.summary + "\n\n";
+    if (hasCommands)
+        text += commandsOf(program);
+    text += "Options:\n" + optionLine(Help) + optionLine(Version);
+    if (hasCommands)
+        text += "\nExit status: 0 done, 1 failed, 2 wrong usage. \"" + program.name + " COMMAND --help\" tells more.\n";
+    return text;
 }
 
 int report(const Program &program, const Problem &problem, const QString &hint)
@@ -62,10 +75,20 @@ int report(const Program &program, const Problem &problem, const QString &hint)
     return int(problem.exit);
 }
 
-int show(const QString &help)
+int show(const QString &text)
 {
-    std::fputs(help.toUtf8().constData(), stdout);
+    std::fputs(text.toUtf8().constData(), stdout);
     return int(Exit::Done);
+}
+
+/** What every program answers to its first argument. */
+std::optional<int> answerTo(const QString &argument, const Program &program)
+{
+    if (argument == "--help")
+        return show(generalHelp(program));
+    if (argument == "--version")
+        return show(program.name + ' ' + program.version + '\n');
+    return std::nullopt;
 }
 
 int run(const Program &program, const Command &command, const QStringList &arguments)
@@ -87,11 +110,21 @@ int run(const Program &program, const QStringList &arguments)
     const QString hint = program.name + " --help";
     if (arguments.isEmpty())
         return report(program, wrongUsage("a command is missing"), hint);
-    if (arguments.first() == "--help")
-        return show(generalHelp(program));
+    if (const auto answered = answerTo(arguments.first(), program))
+        return *answered;
     const auto command = std::find_if(program.commands.cbegin(), program.commands.cend(),
                                       [&](const Command &known) { return known.name == arguments.first(); });
     if (command == program.commands.cend())
         return report(program, wrongUsage(QStringLiteral("unknown command \"%1\"").arg(arguments.first())), hint);
     return run(program, *command, arguments.mid(1));
+}
+
+std::optional<int> answerTo(const QStringList &arguments, const Program &program)
+{
+    if (arguments.isEmpty())
+        return std::nullopt;
+    if (const auto answered = answerTo(arguments.first(), program))
+        return answered;
+    return report(program, wrongUsage(QStringLiteral("unknown argument \"%1\"").arg(arguments.first())),
+                  program.name + " --help");
 }

@@ -5,6 +5,8 @@
 #include "platform/commandline/commandline.h"
 #include "platform/commandline/result.h"
 
+#include <optional>
+
 /** One thing that a program can do, with what its help says. */
 struct Command
 {
@@ -17,16 +19,21 @@ struct Command
     QString details = {}; ///< what else is worth knowing, lines that end with a line break
 };
 
-/** A program whose first argument names what it does: "PROGRAM COMMAND [ARGUMENT...]". */
+/** A program whose first argument names what it does, "PROGRAM COMMAND [ARGUMENT...]", or one without commands, which
+ * takes no arguments. */
 struct Program
 {
     QString name;
-    QString summary;
-    QList<Command> commands;
+    QString summary; ///< a sentence
+    QString version;
+    QList<Command> commands = {};
 };
 
 /**
- * Does what the arguments ask for, "--help" included, and answers the exit status. A problem is one line on standard
- * error.
+ * Does what the arguments ask for, "--help" and "--version" included, and answers the exit status. A problem is one line
+ * on standard error.
  */
 int run(const Program &program, const QStringList &arguments);
+
+/** As run(), for a program without commands; nothing where there are no arguments, and it is to start its work. */
+std::optional<int> answerTo(const QStringList &arguments, const Program &program);

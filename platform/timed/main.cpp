@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/commandline/program.h"
 #include "platform/timed/daemon.h"
 #include "platform/timed/logging.h"
 #include "platform/timed/moments.h"
@@ -60,6 +61,9 @@ int main(int argc, char *argv[])
     // Its threads wait for nothing of GLib's, without whose loop each call is answered sooner.
     qputenv("QT_NO_GLIB", "1");
     QCoreApplication application(argc, argv);
+    const Program self{"timed", "Keeps the alarms of this session and has them rung.", CLOCK_VERSION};
+    if (const auto answered = answerTo(QCoreApplication::arguments().mid(1), self))
+        return *answered;
     // Now, while it is that of this program's file: later, the file may have been replaced.
     const auto program = QFile::encodeName(QCoreApplication::applicationFilePath());
     quitOnSignals();

@@ -7,6 +7,8 @@
 #include "platform/toolkit/desktoplook.h"
 #include "platform/toolkit/theme.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <QEvent>
 #include <QFile>
 #include <QIcon>
@@ -18,9 +20,28 @@ Q_LOGGING_CATEGORY(lcApplication, "touch.application")
 
 namespace {
 
-/** Before anything costly: a second instance does nothing else, and ends here. */
-int &registered(int &argc, ApplicationService *service)
+void sayAndEnd(const QString &text)
 {
+    std::fputs(text.toUtf8().constData(), stdout);
+    std::exit(EXIT_SUCCESS);
+}
+
+void answerTo(const QByteArray &argument, const QString &identifier)
+{
+    if (argument == "--version")
+        sayAndEnd(identifier + ' ' + QCoreApplication::applicationVersion() + '\n');
+    if (argument == "--help")
+        sayAndEnd("Usage: " + identifier
+                  + " [OPTION]\n\nOptions:\n"
+                    "  --help            show this help\n"
+                    "  --version         show the version\n");
+}
+
+/** Before anything costly: whoever only asks, and a second instance, gets no further. */
+int &registered(int &argc, char **argv, const QString &identifier, ApplicationService *service)
+{
+    if (argc > 1)
+        answerTo(argv[1], identifier);
     if (service && !service->registerService())
         service->handleServiceRegistrationFailure();
     return argc;
@@ -29,7 +50,7 @@ int &registered(int &argc, ApplicationService *service)
 } // namespace
 
 Application::Application(int &argc, char **argv, const QString &appIdentifier, ApplicationService *service)
-    : QApplication(registered(argc, service), argv)
+    : QApplication(registered(argc, argv, appIdentifier, service), argv)
     , m_identifier(appIdentifier)
     , m_service(service)
 {

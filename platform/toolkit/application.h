@@ -12,6 +12,8 @@ class ApplicationService;
 /**
  * The application: owns the service, and loads what bears its identifier, the theme ":/theme/<identifier>.json", the
  * icon of its windows ":/icons/<identifier>.svg" and the translation catalogue. What is not there is left out.
+ * "--help" and "--version" as the first argument are answered, the latter with what the program has given to
+ * setApplicationVersion() before, and end the process; other arguments are the program's.
  */
 class Application : public QApplication
 {

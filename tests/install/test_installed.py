@@ -15,6 +15,7 @@ import xml.etree.ElementTree
 
 from staged import BUILD, CMAKE, PREFIX, ROOT, StagedCase, run
 
+PROGRAMS = ("alarmctl", "clock", "clock-backup", "timed")
 SIZES = (16, 22, 24, 32, 48, 64, 96, 128, 192, 256, 512)
 SERVICES = ("com.astel.context.Alarm.Trigger", "com.astel.ringer", "com.astel.ringer.fallback", "com.astel.timed",
             "com.korvo.clock")
@@ -25,16 +26,22 @@ FOLDERS = ("bin", "include/clock", "lib", "libexec/clock", "share/applications",
 
 
 class Installed(StagedCase):
-    def options(self, *command):
+    def options(self, program, *command):
         """The long options that a help text lists."""
-        return set(re.findall(r"^  (--[a-z-]+)", run(self.bin / "alarmctl", *command, "--help"), re.M))
+        return set(re.findall(r"^  (--[a-z-]+)", run(self.bin / program, *command, "--help"), re.M))
 
-    def commands(self):
-        text = run(self.bin / "alarmctl", "--help")
-        return re.findall(r"^  ([a-z]+)  ", text.split("Commands:")[1].split("Examples:")[0], re.M)
+    def commands(self, program):
+        """Those that the program's help lists, if it has any."""
+        listed = re.search(r"^Commands:\n(.*?)\n\n", run(self.bin / program, "--help"), re.M | re.S)
+        return re.findall(r"^  ([a-z]+)  ", listed[1], re.M) if listed else []
+
+    @staticmethod
+    def version():
+        cache = pathlib.Path(BUILD, "CMakeCache.txt").read_text()
+        return re.search(r"^CMAKE_PROJECT_VERSION:STATIC=(.*)", cache, re.M)[1]
 
     def test_everything_is_there(self):
-        wanted = [self.bin / name for name in ("alarmctl", "clock", "clock-backup", "timed")]
+        wanted = [self.bin / name for name in PROGRAMS]
         wanted += [self.libexec / name for name in ("clock-ring-fallback", "clock-rtc", "ringer")]
         wanted += [self.lib / "clock/ringer/libclockalarm.so"]
         wanted += [self.share / "dbus-1/services" / f"{name}.service" for name in SERVICES]
@@ -43,8 +50,8 @@ class Installed(StagedCase):
         wanted += [self.stage / "lib/tmpfiles.d/clock-rtc.conf"]
         wanted += [self.share / "applications/com.korvo.clock.desktop",
                    self.share / "metainfo/com.korvo.clock.metainfo.xml",
-                   self.share / "bash-completion/completions/alarmctl",
                    self.share / "clock-backup/participants/com.korvo.clock.conf"]
+        wanted += [self.share / "bash-completion/completions" / name for name in PROGRAMS]
         wanted += [self.share / "sounds/ring-tones" / tone.name for tone in (ROOT / "data/sounds/ring-tones").iterdir()]
         self.assertEqual([str(path) for path in wanted if not path.is_file()], [])
 
@@ -125,45 +132,72 @@ class Installed(StagedCase):
             self.assertTrue((icons / name).is_file(), name)
 
     def test_each_program_has_a_manual_page_without_faults(self):
-        programs = {program.name for program in self.bin.iterdir()}
+        self.assertEqual({program.name for program in self.bin.iterdir()}, set(PROGRAMS))
         pages = {page.name: page for page in (self.share / "man/man1").iterdir()}
-        self.assertEqual({f"{program}.1.gz" for program in programs}, set(pages))
+        self.assertEqual({f"{program}.1.gz" for program in PROGRAMS}, set(pages))
         for page in pages.values():
             done = subprocess.run(["man", "--warnings", "-l", page], capture_output=True, text=True, check=True,
                                   env={"LC_ALL": "C.UTF-8", "MANROFFSEQ": "", "MANPAGER": "cat", "PATH": "/usr/bin:/bin"})
             self.assertEqual(done.stderr, "")
             self.assertIn("NAME", done.stdout)
 
-    def test_manual_page_names_every_command_and_option(self):
-        page = gzip.decompress((self.share / "man/man1/alarmctl.1.gz").read_bytes()).decode()
-        described = dict(re.findall(r"^\.It Cm (\w+)(.*)", page, re.M))
-        self.assertEqual(list(described), self.commands())
-        for command, arguments in described.items():
-            options = {f"--{name}" for name in re.findall(r"Fl -([a-z-]+)", arguments)}
-            self.assertEqual(options, self.options(command) - {"--help"}, command)
+    def test_manual_pages_name_every_command_and_option(self):
+        for program in PROGRAMS:
+            page = gzip.decompress((self.share / f"man/man1/{program}.1.gz").read_bytes()).decode()
+            described = dict(re.findall(r"^\.It Cm (\w+)(.*)", page, re.M))
+            known = self.options(program)
+            self.assertEqual(list(described), self.commands(program), program)
+            for command, arguments in described.items():
+                options = {f"--{name}" for name in re.findall(r"Fl -([a-z-]+)", arguments)}
+                self.assertEqual(options, self.options(program, command) - {"--help"}, f"{program} {command}")
+                known |= options
+            explained = {f"--{name}" for name in re.findall(r"^\.It Fl -([a-z-]+)", page, re.M)}
+            self.assertLessEqual(self.options(program), explained, program)
+            self.assertLessEqual(explained, known, program)
 
-    def completed(self, *words):
+    def completed(self, program, *words):
         """What the shell offers for the last word."""
-        script = (f". {self.share}/bash-completion/completions/alarmctl; compopt() {{ :; }}; "
-                  f"COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _alarmctl; printf '%s\\n' \"${{COMPREPLY[@]}}\"")
+        script = (f". {self.share}/bash-completion/completions/{program}; compopt() {{ :; }}; COMP_WORDS=(\"$@\"); "
+                  f"COMP_CWORD=$(($# - 1)); _{program.replace('-', '_')}; printf '%s\\n' \"${{COMPREPLY[@]}}\"")
         path = f"{self.bin}:/usr/bin:/bin"
-        return set(run("bash", "-c", script, "bash", "alarmctl", *words,
+        return set(run("bash", "-c", script, "bash", program, *words,
                        env={**getattr(self, "environment", {}), "PATH": path}).split())
 
-    def test_shell_completes_commands_options_and_values(self):
-        self.assertEqual(self.completed(""), {*self.commands(), "--help"})
-        for command in self.commands():
-            self.assertEqual(self.completed(command, "--"), self.options(command), command)
-        self.assertEqual(self.completed("add", "--snooze", ""), {"5", "10", "15", "20", "30"})
-        self.assertEqual(self.completed("add", "--days", "we"), {"wed", "weekdays"})
-        self.assertIn("Europe/Berlin", self.completed("when", "--zone", "Europe/B"))
+    def test_shell_completes_commands_and_options(self):
+        for program in PROGRAMS:
+            self.assertEqual(self.completed(program, ""), {*self.commands(program), *self.options(program)}, program)
+            self.assertEqual(self.completed(program, "--v"), {"--version"}, program)
+            for command in self.commands(program):
+                self.assertEqual(self.completed(program, command, "--"), self.options(program, command),
+                                 f"{program} {command}")
+
+    def test_shell_completes_values(self):
+        self.assertEqual(self.completed("alarmctl", "add", "--snooze", ""), {"5", "10", "15", "20", "30"})
+        self.assertEqual(self.completed("alarmctl", "add", "--days", "we"), {"wed", "weekdays"})
+        self.assertIn("Europe/Berlin", self.completed("alarmctl", "when", "--zone", "Europe/B"))
+        backup = self.folder / "night.backup"
+        backup.touch()
+        for command in self.commands("clock-backup"):
+            self.assertEqual(self.completed("clock-backup", command, f"{self.folder}/ni"), {str(backup)})
+            self.assertEqual(self.completed("clock-backup", command, "--timeout", ""), set())
+
+    def test_each_program_tells_its_version(self):
+        for program in PROGRAMS:
+            self.assertEqual(run(self.bin / program, "--version"), f"{program} {self.version()}\n")
+
+    def test_programs_refuse_what_they_do_not_know(self):
+        for program in ("alarmctl", "clock-backup", "timed"):
+            done = subprocess.run([self.bin / program, "--frob"], capture_output=True, text=True, check=False)
+            self.assertEqual((done.returncode, done.stdout), (2, ""), program)
+            self.assertIn('"--frob"', done.stderr)
+            self.assertIn(f'Try "{program} --help".', done.stderr)
 
     def test_installed_programs_work_together(self):
         self.start_bus()
         self.start(self.bin / "timed", "com.astel.timed")
         self.start(self.libexec / "ringer", "com.astel.ringer")
         cookie = run(self.bin / "alarmctl", "add", "07:30", "--title", "Work", env=self.environment).strip()
-        self.assertEqual(self.completed("off", ""), {cookie})
+        self.assertEqual(self.completed("alarmctl", "off", ""), {cookie})
         health = subprocess.run([self.bin / "alarmctl", "health"], env=self.environment, capture_output=True, text=True,
                                 check=False).stdout
         self.assertIn(f'next alarm: "Work" ({cookie})', health)
@@ -178,11 +212,9 @@ class Installed(StagedCase):
         self.assertIsNone(clock.poll())
 
     def test_changelog_is_that_of_this_version(self):
-        cache = pathlib.Path(BUILD, "CMakeCache.txt").read_text()
-        version = re.search(r"^CMAKE_PROJECT_VERSION:STATIC=(.*)", cache, re.M)[1]
         for package in ("clock", "clock-dev"):
             text = gzip.decompress((self.share / "doc" / package / "changelog.gz").read_bytes()).decode()
-            self.assertTrue(text.startswith(f"clock ({version})"), text)
+            self.assertTrue(text.startswith(f"clock ({self.version()})"), text)
 
 
 if __name__ == "__main__":

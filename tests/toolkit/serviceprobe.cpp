@@ -49,6 +49,7 @@ public:
 
 int main(int argc, char **argv)
 {
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.2"));
     auto *application = ComponentCache::mApplication(argc, argv, QStringLiteral("probe"), new Service);
     ApplicationWindow *window = ComponentCache::mApplicationWindow();
     ApplicationPage page;

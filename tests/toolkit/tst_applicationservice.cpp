@@ -26,6 +26,8 @@ private slots:
     void handsOverInATenthOfASecond();
     void startsItselfASecondTime();
     void handsOverBeforeItSetsAnythingUp();
+    void whoOnlyAsksIsAnsweredAtOnce_data();
+    void whoOnlyAsksIsAnsweredAtOnce();
     void handsOverTheTokenOfItsLauncher();
     void failsIfTheOtherOneDoesNotAnswer();
     void goesOnWithoutABus();
@@ -176,6 +178,41 @@ void TestApplicationService::handsOverBeforeItSetsAnythingUp()
     QCOMPARE(second.exitCode(), 0);
     QVERIFY(second.readAllStandardError().isEmpty());
     QVERIFY(says(first, "launch"));
+    first.kill();
+    QVERIFY(first.waitForFinished());
+}
+
+void TestApplicationService::whoOnlyAsksIsAnsweredAtOnce_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<QByteArray>("answer");
+
+    QTest::newRow("version") << QStringLiteral("--version") << QByteArray("probe 1.2\n");
+    QTest::newRow("help") << QStringLiteral("--help")
+                          << QByteArray("Usage: probe [OPTION]\n\nOptions:\n  --help            show this help\n"
+                                        "  --version         show the version\n");
+}
+
+void TestApplicationService::whoOnlyAsksIsAnsweredAtOnce()
+{
+    QFETCH(QString, argument);
+    QFETCH(QByteArray, answer);
+    QProcess first;
+    QVERIFY(start(first));
+    QProcess asking;
+    // No application object could be made with this.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("none"));
+    asking.setProcessEnvironment(environment);
+    asking.start(QStringLiteral(PROBE), {argument});
+    QVERIFY(asking.waitForFinished());
+    QCOMPARE(asking.exitCode(), 0);
+    QCOMPARE(asking.readAllStandardOutput(), answer);
+    QVERIFY(asking.readAllStandardError().isEmpty());
+    // The one that runs was not asked for anything: its next word is about what follows.
+    QDBusInterface probe = remote();
+    probe.call(QStringLiteral("launchWithArguments"), QStringList{QStringLiteral("after")});
+    QVERIFY(says(first, "after"));
     first.kill();
     QVERIFY(first.waitForFinished());
 }

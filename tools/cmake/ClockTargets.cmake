@@ -86,11 +86,13 @@ endfunction()
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME clock)
 
 # clock_program(NAME [WITHOUT_QT] SOURCES ... LINK ... [INSTALL FOLDER]): a program, put into the build folder's bin/, and
-# installed into a folder such as ${CMAKE_INSTALL_BINDIR} if one is named.
+# installed into a folder such as ${CMAKE_INSTALL_BINDIR} if one is named. Its own sources know the version of the project
+# as CLOCK_VERSION.
 function(clock_program name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "WITHOUT_QT" "INSTALL" "SOURCES;LINK")
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ${arg_LINK} clock-flags)
+    target_compile_definitions(${name} PRIVATE CLOCK_VERSION="${PROJECT_VERSION}")
     if(NOT arg_WITHOUT_QT)
         clock_precompiled(${name})
     endif()
@@ -120,6 +122,11 @@ function(clock_man)
         string(REGEX MATCH "[0-9]$" section ${page})
         install(FILES ${compressed} DESTINATION ${CMAKE_INSTALL_MANDIR}/man${section})
     endforeach()
+endfunction()
+
+# clock_completion(PROGRAM): installs what bash completes for the program, PROGRAM.bash.
+function(clock_completion program)
+    install(FILES ${program}.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME ${program})
 endfunction()
 
 # The languages that every catalogue of texts is there in.
