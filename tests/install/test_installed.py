@@ -96,6 +96,8 @@ class Installed(StagedCase):
         pictures = re.findall(r"<image>https://clock.example/tree/(.*)</image>", (self.folder / name).read_text())
         self.assertTrue(pictures)
         self.assertEqual([picture for picture in pictures if not (ROOT / picture).is_file()], [])
+        captions = re.findall(r"<caption", (self.folder / name).read_text())
+        self.assertEqual(len(captions), len(pictures) * len(self.catalogues()) / 2)
 
     @staticmethod
     def catalogues():
@@ -120,7 +122,8 @@ class Installed(StagedCase):
             self.assertIn(f"\nComment{key}={texts['qtn_desk_comment']}\n", launcher)
             self.assertIn(f"\nKeywords{key}={texts['qtn_desk_keywords']}\n", launcher)
             shown = [element.text for element in entry.iter() if element.attrib == tag]
-            wanted = [text for name, text in texts.items() if not re.match("qtn_desk_(generic_name|keywords)", name)]
+            wanted = [text for name, text in texts.items()
+                      if not re.match("qtn_desk_(generic_name|keywords|picture)", name)]
             self.assertEqual([text for text in wanted if text not in shown], [], language)
 
     def test_icons_in_all_sizes(self):
