@@ -74,6 +74,19 @@ Wire::Event dailyAlarm(int hour, const QString &title, const QString &tone)
     return event;
 }
 
+Backup::Archive backupFromElsewhere()
+{
+    return {QDateTime::currentDateTimeUtc(),
+            {{dailyAlarm(6, "From elsewhere", "/home/a/Music/new.mp3"), "WAITING", 0}},
+            {{"Korvo/Clock.conf", "[Clock]\nSnoozeTime=30\n"}},
+            {{"/home/a/Music/new.mp3", "music", "new.mp3", "sound"}}};
+}
+
+QString music(const QString &file)
+{
+    return QStandardPaths::writableLocation(QStandardPaths::MusicLocation) + '/' + file;
+}
+
 QString settingsFile()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/Korvo/Clock.conf";

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "platform/backup/archive.h"
 #include "platform/timedclient/wire.h"
 #include "tests/support/privatebus.h"
 #include "tests/support/run.h"
@@ -36,6 +37,11 @@ private:
 /** An event that rings every day and has a title, as an alarm of some program. */
 Astel::Timed::Wire::Event dailyAlarm(int hour, const QString &title, const QString &tone = {});
 
+/** A backup of another device: an alarm, settings and a tone that are not here. */
+Backup::Archive backupFromElsewhere();
+
+/** A file in the user's folder of music. */
+QString music(const QString &file);
 /** The clock's settings file. */
 QString settingsFile();
 /** The file's bytes; null where there is none. */

@@ -3,8 +3,8 @@
 #include "platform/backup/archive.h"
 
 #include "platform/backup/tar.h"
+#include "tests/backup/forgery.h"
 
-#include <QCryptographicHash>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -13,12 +13,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <functional>
-
 using Backup::Archive;
 using Backup::decode;
 using Backup::encode;
-using Backup::TarMember;
 namespace Wire = Astel::Timed::Wire;
 
 namespace {
@@ -40,25 +37,9 @@ Archive sample()
             {{"/home/a/Music/a b.mp3", "music", "a b.mp3", QByteArray(700, '\xff')}}};
 }
 
-/** The members with a manifest or events that were changed, and checksums that match again. */
-QByteArray changed(const QByteArray &name, const std::function<QByteArray(const QByteArray &)> &change)
-{
-    QList<TarMember> members = *Backup::readTar(encode(sample()));
-    members.removeLast();
-    QByteArray sums;
-    for (TarMember &member : members) {
-        if (member.name == name)
-            member.content = change(member.content);
-        sums
-            += QCryptographicHash::hash(member.content, QCryptographicHash::Sha256).toHex() + "  " + member.name + '\n';
-    }
-    members.append({"SHA256SUMS", sums});
-    return Backup::writeTar(members);
-}
-
 QByteArray withManifestValue(const QString &key, const QJsonValue &value)
 {
-    return changed("manifest.json", [&](const QByteArray &text) {
+    return forged(encode(sample()), "manifest.json", [&](const QByteArray &text) {
         QJsonObject manifest = QJsonDocument::fromJson(text).object();
         manifest.insert(key, value);
         return QJsonDocument(manifest).toJson();
@@ -181,10 +162,10 @@ void ArchiveTest::saysWhatIsWrong_data()
         << "manifest.json";
     QTest::newRow("tone that is missing")
         << withManifestValue("tones", QJsonDocument::fromJson(R"([{"member": "tones/9"}])").array()) << "manifest.json";
-    QTest::newRow("manifest that is none") << changed("manifest.json", reworded("[]")) << "not a backup";
-    QTest::newRow("events that are none") << changed("events.json", reworded("{}")) << "events.json";
-    QTest::newRow("event that is none") << changed("events.json", reworded("[{\"event\": 5}]")) << "events.json";
-    QTest::newRow("no JSON") << changed("events.json", reworded("hello")) << "events.json";
+    QTest::newRow("manifest that is none") << forged(whole, "manifest.json", reworded("[]")) << "not a backup";
+    QTest::newRow("events that are none") << forged(whole, "events.json", reworded("{}")) << "events.json";
+    QTest::newRow("event that is none") << forged(whole, "events.json", reworded("[{\"event\": 5}]")) << "events.json";
+    QTest::newRow("no JSON") << forged(whole, "events.json", reworded("hello")) << "events.json";
 }
 
 void ArchiveTest::saysWhatIsWrong()

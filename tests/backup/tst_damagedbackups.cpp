@@ -1,14 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/backup/archive.h"
-#include "platform/backup/tar.h"
+#include "tests/backup/forgery.h"
 #include "tests/backup/household.h"
 #include "tests/backup/participant.h"
 
-#include <QCryptographicHash>
 #include <QFileInfo>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTest>
 
 #include <sys/prctl.h>
@@ -17,15 +15,6 @@
 namespace Wire = Astel::Timed::Wire;
 
 namespace {
-
-/** A backup of another device, with an alarm, settings and a tone that are not here. */
-Backup::Archive elsewhere()
-{
-    return {QDateTime::currentDateTimeUtc(),
-            {{dailyAlarm(6, "From elsewhere", "/home/a/Music/new.mp3"), "WAITING", 0}},
-            {{"Korvo/Clock.conf", "[Clock]\nSnoozeTime=30\n"}},
-            {{"/home/a/Music/new.mp3", "music", "new.mp3", "sound"}}};
-}
 
 // What lets a super-user read every file: CAP_DAC_OVERRIDE and CAP_DAC_READ_SEARCH.
 constexpr int CapabilitiesToReadAll[] = {1, 2};
@@ -39,25 +28,6 @@ QByteArray otherArchive(const QString &format)
     QProcess tar;
     tar.start("tar", {"-C", folder.filePath("in"), "--format=" + format, "-cf", "-", "manifest.json", "link", "."});
     return tar.waitForFinished() && tar.exitCode() == 0 ? tar.readAllStandardOutput() : QByteArray();
-}
-
-/** The backup with another manifest, and checksums that match it. */
-QByteArray withManifest(QByteArray manifest)
-{
-    auto members = *Backup::readTar(Backup::encode(elsewhere()));
-    members.first().content = std::move(manifest);
-    members.removeLast();
-    QByteArray sums;
-    for (const auto &member : std::as_const(members))
-        sums
-            += QCryptographicHash::hash(member.content, QCryptographicHash::Sha256).toHex() + "  " + member.name + '\n';
-    members.append({"SHA256SUMS", sums});
-    return Backup::writeTar(members);
-}
-
-QString music(const QString &file)
-{
-    return QStandardPaths::writableLocation(QStandardPaths::MusicLocation) + '/' + file;
 }
 
 } // namespace
@@ -119,11 +89,14 @@ void DamagedBackupsTest::aDamagedFileChangesNothing_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("complaint");
 
-    const QByteArray whole = Backup::encode(elsewhere());
+    const QByteArray whole = Backup::encode(backupFromElsewhere());
     const auto flipped = [&](qsizetype byte) {
         QByteArray bytes = whole;
         bytes[byte] = char(~bytes[byte]);
         return bytes;
+    };
+    const auto withManifest = [&](const QByteArray &manifest) {
+        return forged(whole, "manifest.json", [&](const QByteArray &) { return manifest; });
     };
     QTest::newRow("empty") << QByteArray() << "not a backup";
     QTest::newRow("text") << QByteArray("BEGIN:VCALENDAR\n") << "not a backup";
@@ -167,10 +140,11 @@ void DamagedBackupsTest::noFileChangesNothing_data()
     QVERIFY(QFile::link(m_household.file("gone"), link));
     QTest::newRow("link to nothing") << link << "No such file";
     const QString locked = m_household.file("locked");
-    QVERIFY(write(locked, Backup::encode(elsewhere())) && QFile::setPermissions(locked, {}));
+    QVERIFY(write(locked, Backup::encode(backupFromElsewhere())) && QFile::setPermissions(locked, {}));
     QTest::newRow("unreadable") << locked << "Permission denied";
     const QString huge = m_household.file("huge");
-    QVERIFY(write(huge, Backup::encode(elsewhere())) && QFile::resize(huge, Q_INT64_C(1024) * 1024 * 1024 + 1));
+    QVERIFY(write(huge, Backup::encode(backupFromElsewhere()))
+            && QFile::resize(huge, Q_INT64_C(1024) * 1024 * 1024 + 1));
     QTest::newRow("huge") << huge << "too large";
 }
 
@@ -199,7 +173,7 @@ void DamagedBackupsTest::whatTheDaemonRefusesChangesNothing()
     QFETCH(const Wire::Record, record);
     QFETCH(const int, times);
     QFETCH(const QString, complaint);
-    Backup::Archive archive = elsewhere();
+    Backup::Archive archive = backupFromElsewhere();
     archive.records += QList<Wire::Record>(times, record);
     QVERIFY(write(m_household.file(), Backup::encode(archive)));
     verifyUnchanged(m_household.backUp({"restore", m_household.file()}), complaint,
@@ -208,7 +182,7 @@ void DamagedBackupsTest::whatTheDaemonRefusesChangesNothing()
 
 void DamagedBackupsTest::theWholeFileIsTaken()
 {
-    QVERIFY(write(m_household.file(), Backup::encode(elsewhere())));
+    QVERIFY(write(m_household.file(), Backup::encode(backupFromElsewhere())));
     const Support::Run run = m_household.backUp({"restore", m_household.file()});
     QCOMPARE(run.errors, "");
     QCOMPARE(run.output,

@@ -1,25 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "platform/backup/archive.h"
 #include "tests/backup/household.h"
 #include "tests/backup/participant.h"
 #include "tests/support/places.h"
 
 #include <QFileInfo>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTest>
 
 namespace Wire = Astel::Timed::Wire;
-
-namespace {
-
-QString music(const QString &file)
-{
-    return QStandardPaths::writableLocation(QStandardPaths::MusicLocation) + '/' + file;
-}
-
-} // namespace
 
 /** A restore that is cut off, which whoever takes part sees and holds up. */
 class InterruptedRestoresTest : public QObject
@@ -60,11 +49,7 @@ void InterruptedRestoresTest::init()
     QVERIFY(write(settingsFile(), "[Clock]\nSnoozeTime=5\n"));
     m_participant = std::make_unique<NotingParticipant>("slow", m_notes, NotingParticipant::Manner::Hangs);
     QVERIFY(m_participant->enlist());
-    const Backup::Archive archive{QDateTime::currentDateTimeUtc(),
-                                  {{dailyAlarm(6, "From elsewhere", music("new.mp3")), "WAITING", 0}},
-                                  {{"Korvo/Clock.conf", "[Clock]\nSnoozeTime=30\n"}},
-                                  {{music("new.mp3"), "music", "new.mp3", "sound"}}};
-    QVERIFY(write(m_household.file(), Backup::encode(archive)));
+    QVERIFY(write(m_household.file(), Backup::encode(backupFromElsewhere())));
 }
 
 bool InterruptedRestoresTest::startRestore(QProcess &restore, const QString &timeout)

@@ -11,11 +11,6 @@
 
 namespace {
 
-QString music(const QString &file)
-{
-    return QStandardPaths::writableLocation(QStandardPaths::MusicLocation) + '/' + file;
-}
-
 QString ringTone(const QString &file)
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/sounds/ring-tones/" + file;
