@@ -45,7 +45,7 @@ struct Request
 
 Result<Request> requestOf(const CommandLine &line)
 {
-    if (line.positionals().size() != 1)
+    if (line.positionals().size() != 1 || line.positionals().first().isEmpty())
         return wrongUsage("one FILE is needed");
     int seconds = DefaultTimeout;
     if (line.has(TimeoutOption)) {

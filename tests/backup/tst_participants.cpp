@@ -221,6 +221,7 @@ void ParticipantsTest::refusesNonsense_data()
     QTest::newRow("nothing") << QStringList();
     QTest::newRow("command") << QStringList{"frob"};
     QTest::newRow("no file") << QStringList{"create"};
+    QTest::newRow("no name") << QStringList{"create", ""};
     QTest::newRow("two files") << QStringList{"restore", "a", "b"};
     QTest::newRow("option") << QStringList{"create", "--frob", "a"};
     QTest::newRow("timeout") << QStringList{"create", "--timeout", "soon", "a"};
