@@ -38,8 +38,9 @@ Result<> writeBackup(const QString &path, const Archive &archive)
 {
     const QByteArray bytes = encode(archive);
     QSaveFile file(path);
+    // What commit() itself cannot write it does not tell.
     if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
-        || file.write(bytes) != bytes.size() || !file.commit())
+        || file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
         return problemWith(path, file.errorString());
     return Done();
 }

@@ -53,7 +53,8 @@ void NoticeRecord::write() const
     }
     for (const Entry &entry : m_entries)
         file.write(entry.server.toLatin1() + ' ' + QByteArray::number(entry.number) + '\n');
-    if (!file.commit())
+    // What commit() itself cannot write it does not tell.
+    if (!file.flush() || !file.commit())
         qCWarning(lcNotices, "notices are not remembered, ignoring: %ls", qUtf16Printable(file.errorString()));
 }
 

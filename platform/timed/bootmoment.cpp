@@ -24,7 +24,8 @@ QString writeFile(const QString &path, qint64 moment)
 {
     const QByteArray line = QByteArray::number(moment / MillisecondsOfSecond) + '\n';
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(line) == line.size() && file.commit())
+    // What commit() itself cannot write it does not tell.
+    if (file.open(QIODevice::WriteOnly) && file.write(line) == line.size() && file.flush() && file.commit())
         return {};
     return QStringLiteral("%1: %2").arg(path, file.errorString());
 }
@@ -96,10 +97,10 @@ QString BootMoment::obstacle() const
 
 void BootMoment::write(std::optional<qint64> moment)
 {
-    m_known = true;
     m_written = moment;
     const QString path = m_folder + '/' + QString::number(getuid());
     m_problem = moment ? writeFile(path, *moment) : removeFile(path, m_folder);
+    m_known = m_problem.isEmpty();
     // The facts always say so; the log says it once until it is mended.
     if (m_problem.isEmpty())
         m_warned = false;

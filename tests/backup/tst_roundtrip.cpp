@@ -8,6 +8,7 @@
 #include "tests/backup/household.h"
 #include "tests/support/alarms.h"
 #include "tests/support/places.h"
+#include "tests/timed/storefolder.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -64,6 +65,8 @@ private slots:
     void theFileIsForItsOwnerAlone();
     void anEarlierBackupIsReplacedAndNothingElse();
     void aBackupThatCannotBeWrittenLeavesTheEarlierOne();
+    void aFullDiskLeavesTheEarlierBackup();
+    void aFullDiskStopsTheRestore();
     void settingsThatCannotBeWrittenStopTheRestore();
 
 private:
@@ -247,6 +250,38 @@ void RoundTripTest::aBackupThatCannotBeWrittenLeavesTheEarlierOne()
     QVERIFY2(run.errors.contains("the alarm daemon cannot be reached"), qPrintable(run.errors));
     QCOMPARE(contentOf(file), early);
     QCOMPARE(m_household.backUp({"create", "/nowhere/at/all"}).exitCode, 1);
+}
+
+void RoundTripTest::aFullDiskLeavesTheEarlierBackup()
+{
+    QVERIFY(Household::add(dailyAlarm(7, "Then")));
+    QCOMPARE(m_household.backUp({"create", m_household.file()}).exitCode, 0);
+    const QByteArray early = contentOf(m_household.file());
+    QVERIFY(Household::add(dailyAlarm(8, "Now")));
+    const FullDisk full;
+    for (const QString &file : {m_household.file(), m_household.file("new.backup")}) {
+        const Support::Run run = m_household.backUp({"create", file});
+        QCOMPARE(run.exitCode, 1);
+        QCOMPARE(run.output, "");
+        QCOMPARE(run.errorLines(), QStringList{"clock-backup: " + file + ": File too large"});
+    }
+    QCOMPARE(contentOf(m_household.file()), early);
+    QVERIFY(!QFileInfo::exists(m_household.file("new.backup")));
+}
+
+void RoundTripTest::aFullDiskStopsTheRestore()
+{
+    QVERIFY(Household::add(dailyAlarm(7, "Then")));
+    writeSettings();
+    QCOMPARE(m_household.backUp({"create", m_household.file()}).exitCode, 0);
+    QVERIFY(m_household.startAfresh());
+    const FullDisk full;
+    const Support::Run run = m_household.backUp({"restore", m_household.file()});
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.output, "");
+    QCOMPARE(run.errorLines(), QStringList{"clock-backup: " + settingsFile() + " cannot be written: File too large"});
+    QVERIFY(Household::records().isEmpty());
+    QVERIFY(!QFileInfo::exists(settingsFile()));
 }
 
 void RoundTripTest::settingsThatCannotBeWrittenStopTheRestore()

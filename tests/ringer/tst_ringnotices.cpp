@@ -5,7 +5,9 @@
 #include "platform/notices/noticerecord.h"
 #include "platform/ringer/texts/ringtexts.h"
 #include "platform/timedclient/wire.h"
+#include "tests/support/logcapture.h"
 #include "tests/timed/fakes.h"
+#include "tests/timed/storefolder.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -36,6 +38,7 @@ private slots:
     void closesWhatItShowsInTheEnd();
     void theSnoozeIsTheButtonsOrTheTimeouts_data();
     void theSnoozeIsTheButtonsOrTheTimeouts();
+    void aFullDiskLeavesTheRecordOfBefore();
     void aRecordOutlivesItsProgram();
 };
 
@@ -130,6 +133,20 @@ void TestRingNotices::theSnoozeIsTheButtonsOrTheTimeouts()
     event.buttons = buttons;
     event.timeoutSnooze = timeout;
     QTEST(Ringer::ringNoticeOf(7, event, 0).snoozeSeconds, "seconds");
+}
+
+void TestRingNotices::aFullDiskLeavesTheRecordOfBefore()
+{
+    Notices::NoticeRecord("full").add(":1.5", 12);
+    {
+        const Support::LogCapture log;
+        const FullDisk full;
+        Notices::NoticeRecord("full").add(":1.6", 13);
+        QCOMPARE(log.lines(QtWarningMsg).size(), 1);
+    }
+    const Notices::NoticeRecord record("full");
+    QCOMPARE(record.entries().size(), 1);
+    QCOMPARE(record.entries()[0].number, 12u);
 }
 
 void TestRingNotices::aRecordOutlivesItsProgram()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/bootmoment.h"
 #include "tests/support/logcapture.h"
+#include "tests/timed/storefolder.h"
 #include "tests/timed/world.h"
 
 #include <QDir>
@@ -28,6 +29,7 @@ private slots:
     void fileFollowsTheNextMoment();
     void lastChangeIsWrittenAtTheEnd();
     void missingFolderIsReported();
+    void fullDiskIsReportedAndLeavesTheMomentOfBefore();
     void missingHardwareClockIsReported();
 
 private:
@@ -100,6 +102,31 @@ void tst_BootMoment::missingFolderIsReported()
     boot.update();
     QCOMPARE(log.lines(QtWarningMsg).size(), 1);
     QVERIFY(boot.facts().value("boot_reason").toString().startsWith("/nonexistent/"));
+}
+
+void tst_BootMoment::fullDiskIsReportedAndLeavesTheMomentOfBefore()
+{
+    const QTemporaryDir folder;
+    const QTemporaryDir clocks;
+    QVERIFY(makeWakeAlarm(clocks));
+    World world(Start);
+    BootMoment boot(world.parts->book, world.parts->schedule, world.clock, folder.path(), clocks.path());
+    world.add(daily(7, 0, Boots));
+    boot.update();
+    const QByteArray before = QByteArray::number(Seven / 1000) + '\n';
+    QCOMPARE(content(folder), before);
+    world.add(daily(6, 30, Boots));
+    {
+        const Support::LogCapture log;
+        const FullDisk full;
+        boot.update();
+        QCOMPARE(log.lines(QtWarningMsg).size(), 1);
+    }
+    QCOMPARE(boot.facts().value("boot_ready"), false);
+    QCOMPARE(content(folder), before);
+    boot.update();
+    QCOMPARE(boot.facts().value("boot_ready"), true);
+    QCOMPARE(content(folder), QByteArray::number((Seven - Hour / 2) / 1000) + '\n');
 }
 
 void tst_BootMoment::missingHardwareClockIsReported()
