@@ -103,9 +103,7 @@ int run(const Program &program, const Command &command, const QStringList &argum
     return done ? int(Exit::Done) : report(program, done.problem(), hint);
 }
 
-} // namespace
-
-int run(const Program &program, const QStringList &arguments)
+int runWhatIsAsked(const Program &program, const QStringList &arguments)
 {
     const QString hint = program.name + " --help";
     if (arguments.isEmpty())
@@ -117,6 +115,17 @@ int run(const Program &program, const QStringList &arguments)
     if (command == program.commands.cend())
         return report(program, wrongUsage(QStringLiteral("unknown command \"%1\"").arg(arguments.first())), hint);
     return run(program, *command, arguments.mid(1));
+}
+
+} // namespace
+
+int run(const Program &program, const QStringList &arguments)
+{
+    const int status = runWhatIsAsked(program, arguments);
+    // Of what is written to a full disk or to nobody, the first to hear is whoever asked.
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return status;
+    return report(program, failure("the output cannot be written"), {});
 }
 
 std::optional<int> answerTo(const QStringList &arguments, const Program &program)

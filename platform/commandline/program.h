@@ -31,7 +31,7 @@ struct Program
 
 /**
  * Does what the arguments ask for, "--help" and "--version" included, and answers the exit status. A problem is one line
- * on standard error.
+ * on standard error; output that cannot be written is one.
  */
 int run(const Program &program, const QStringList &arguments);
 

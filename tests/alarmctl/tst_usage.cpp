@@ -4,6 +4,7 @@
 #include "tests/support/privatebus.h"
 
 #include <QJsonArray>
+#include <QProcess>
 #include <QTest>
 
 namespace {
@@ -30,6 +31,8 @@ private slots:
     void saysInOneLineThatTheDaemonIsMissing();
     void healthSaysThatTheDaemonIsMissing_data();
     void healthSaysThatTheDaemonIsMissing();
+    void saysThatItsOutputIsLost_data();
+    void saysThatItsOutputIsLost();
     void showsTheTraceOnlyWhenAsked();
 
 private:
@@ -206,6 +209,26 @@ void UsageTest::healthSaysThatTheDaemonIsMissing()
     QCOMPARE(json.exitCode, 1);
     QCOMPARE(json.json()["verdict"]["mark"].toString(), "bad");
     QVERIFY(json.json()["daemon"].isNull());
+}
+
+void UsageTest::saysThatItsOutputIsLost_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+
+    QTest::newRow("help") << QStringList{"--help"};
+    QTest::newRow("version") << QStringList{"--version"};
+    QTest::newRow("command") << QStringList{"when", "07:00", "--zone", "UTC", "--after", "0"};
+}
+
+void UsageTest::saysThatItsOutputIsLost()
+{
+    QFETCH(const QStringList, arguments);
+    QProcess process;
+    process.setStandardOutputFile("/dev/full");
+    process.start(alarmctlPath(), arguments);
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(process.readAllStandardError(), "alarmctl: the output cannot be written\n");
 }
 
 void UsageTest::showsTheTraceOnlyWhenAsked()
