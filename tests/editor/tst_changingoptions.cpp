@@ -4,6 +4,7 @@
 #include "tests/support/logcapture.h"
 
 #include <QFile>
+#include <QMouseEvent>
 
 class TestChangingOptions : public OptionsTest
 {
@@ -26,6 +27,7 @@ private slots:
     void cancellingRestoresRuleAndSnooze();
     void cancellingGoesBackToWhatWasSaved();
     void escapeCancels();
+    void aSwipeOfTheHeaderCancels();
     void resettingClosesWhatIsOpen();
     void resettingWithNothingOpenOnlySaysSo();
 };
@@ -172,6 +174,23 @@ void TestChangingOptions::escapeCancels()
     openNewAlarm();
     snooze()->setCurrentIndex(4);
     QVERIFY(m_options->hostWindow()->stepBack());
+    QVERIFY(!m_options->isOnDisplay());
+    QCOMPARE(m_options->snoozeIndex(), 1);
+}
+
+void TestChangingOptions::aSwipeOfTheHeaderCancels()
+{
+    openNewAlarm();
+    snooze()->setCurrentIndex(4);
+    QWidget *screen = m_options->hostWindow()->viewport();
+    QPoint finger(screen->width() / 2, 30);
+    QTest::mousePress(screen, Qt::LeftButton, {}, finger);
+    while (finger.y() < screen->height() / 2) {
+        finger.ry() += 20;
+        QMouseEvent move(QEvent::MouseMove, finger, screen->mapToGlobal(finger), Qt::NoButton, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(screen, &move);
+    }
+    QTest::mouseRelease(screen, Qt::LeftButton, {}, finger);
     QVERIFY(!m_options->isOnDisplay());
     QCOMPARE(m_options->snoozeIndex(), 1);
 }
