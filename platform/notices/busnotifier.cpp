@@ -4,9 +4,12 @@
 
 #include "platform/notices/logging.h"
 
+#include <chrono>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QTimer>
 
 namespace Notices {
 
@@ -16,6 +19,9 @@ constexpr auto Service = "org.freedesktop.Notifications";
 constexpr auto Path = "/org/freedesktop/Notifications";
 constexpr int UntilClosed = 0;
 constexpr uint NewNotice = 0;
+// One that has just come may not be ready yet.
+constexpr std::chrono::milliseconds RetryInterval = std::chrono::seconds(2);
+constexpr int MostRetries = 3;
 
 QDBusMessage methodCall(const QString &method, const QString &server = Service)
 {
@@ -61,40 +67,76 @@ BusNotifier::BusNotifier(const QDBusConnection &bus, const QString &program, con
 
 void BusNotifier::show(const Notice &notice, const std::function<void(bool)> &done)
 {
-    if (!notice.tag.isEmpty() && !m_tagged.contains(notice.tag))
+    if (notice.tag.isEmpty()) {
+        ask(std::make_shared<Request>(Request{notice, done}));
+        return;
+    }
+    if (!m_tagged.contains(notice.tag))
         m_tagged.insert(notice.tag, NewNotice);
+    // One that is not sent yet gives way; a server that has just come would show both.
+    if (const auto asked = m_asked.value(notice.tag)) {
+        *asked = {notice, [before = asked->done, done](bool shown) {
+                      before(shown);
+                      done(shown);
+                  }};
+        return;
+    }
+    const auto request = std::make_shared<Request>(Request{notice, done});
+    m_asked.insert(notice.tag, request);
+    ask(request);
+}
+
+void BusNotifier::ask(const std::shared_ptr<Request> &request)
+{
     auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(methodCall("GetCapabilities")), this);
-    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, notice, done] {
+    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, request] {
         call->deleteLater();
         const QDBusPendingReply<QStringList> capabilities = *call;
         if (!capabilities.isValid()) {
-            qCWarning(lcNotices, "nobody shows notifications: %ls", qUtf16Printable(capabilities.error().message()));
-            done(false);
+            fail(request, capabilities.error());
             return;
         }
-        Notice adapted = notice;
         // A title may hold what the server takes for markup.
-        if (capabilities.value().contains("body-markup"))
-            adapted.body = notice.body.toHtmlEscaped();
-        send(adapted, done);
+        const QString &body = request->notice.body;
+        send(request, capabilities.value().contains("body-markup") ? body.toHtmlEscaped() : body);
     });
 }
 
-void BusNotifier::send(const Notice &notice, const std::function<void(bool)> &done)
+void BusNotifier::send(const std::shared_ptr<Request> &request, const QString &body)
 {
+    const Notice &notice = request->notice;
+    m_asked.remove(notice.tag);
     QDBusMessage question = methodCall("Notify");
-    question.setArguments({m_title, m_tagged.value(notice.tag, NewNotice), "alarm-symbolic", notice.summary,
-                           notice.body, toList(notice.actions), toHints(notice), UntilClosed});
+    question.setArguments({m_title, m_tagged.value(notice.tag, NewNotice), "alarm-symbolic", notice.summary, body,
+                           toList(notice.actions), toHints(notice), UntilClosed});
     auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
-    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, done, tag = notice.tag] {
+    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, request] {
         call->deleteLater();
         const QDBusPendingReply<uint> number = *call;
-        if (number.isError())
-            qCWarning(lcNotices, "a notification is not shown: %ls", qUtf16Printable(number.error().message()));
-        else if (!tag.isEmpty())
+        if (number.isError()) {
+            fail(request, number.error());
+            return;
+        }
+        if (const QString tag = request->notice.tag; !tag.isEmpty())
             keepNumber(tag, call->reply().service(), number);
-        done(!number.isError());
+        request->done(true);
     });
+}
+
+void BusNotifier::fail(const std::shared_ptr<Request> &request, const QDBusError &error)
+{
+    const QString tag = request->notice.tag;
+    const bool isWanted = tag.isEmpty() || (m_tagged.contains(tag) && m_asked.value(tag, request) == request);
+    if (isWanted && m_presence.isPresent() && ++request->failures <= MostRetries) {
+        if (!tag.isEmpty())
+            m_asked.insert(tag, request);
+        QTimer::singleShot(RetryInterval, this, [this, request] { ask(request); });
+        return;
+    }
+    if (m_asked.value(tag) == request)
+        m_asked.remove(tag);
+    qCWarning(lcNotices, "a notification is not shown: %ls", qUtf16Printable(error.message()));
+    request->done(false);
 }
 
 void BusNotifier::keepNumber(const QString &tag, const QString &server, uint number)

@@ -6,14 +6,18 @@
 #include "platform/notices/noticerecord.h"
 #include "platform/notices/notifier.h"
 
+#include <memory>
 #include <QDBusConnection>
 #include <QHash>
+
+class QDBusError;
 
 namespace Notices {
 
 /**
- * The notification server of the desktop, on the session bus; started by the bus where that can. Takes back the tagged
- * notices that a program of the same name has left when it was killed.
+ * The notification server of the desktop, on the session bus; started by the bus where that can. One that is there and
+ * does not show a notice gets another chance or two. Takes back the tagged notices that a program of the same name has
+ * left when it was killed.
  */
 class BusNotifier final : public Notifier
 {
@@ -33,7 +37,18 @@ private slots:
     void actionInvoked(uint id, const QString &key);
 
 private:
-    void send(const Notice &notice, const std::function<void(bool)> &done);
+    /** A notice on its way. */
+    struct Request
+    {
+        Notice notice;
+        std::function<void(bool)> done;
+        int failures = 0;
+    };
+
+    /** What the server can do. */
+    void ask(const std::shared_ptr<Request> &request);
+    void send(const std::shared_ptr<Request> &request, const QString &body);
+    void fail(const std::shared_ptr<Request> &request, const QDBusError &error);
     void keepNumber(const QString &tag, const QString &server, uint number);
     void withdraw(uint number);
 
@@ -42,6 +57,7 @@ private:
     NoticeRecord m_record;
     BusPresence m_presence;
     QHash<QString, uint> m_tagged; ///< tags and the numbers of their notices, 0 while one is under way
+    QHash<QString, std::shared_ptr<Request>> m_asked; ///< by tag, until they are sent
 };
 
 } // namespace Notices

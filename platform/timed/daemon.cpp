@@ -18,6 +18,7 @@
 #include "platform/timed/logind.h"
 #include "platform/timed/missedteller.h"
 #include "platform/timed/noticetexts.h"
+#include "platform/timed/restorationteller.h"
 #include "platform/timed/ringing.h"
 #include "platform/timed/schedule.h"
 #include "platform/timed/sleepguard.h"
@@ -27,10 +28,8 @@
 #include "platform/timed/timedate.h"
 #include "platform/timed/timerfdwaketimer.h"
 
-#include <chrono>
 #include <QDBusConnection>
 #include <QDBusError>
-#include <QTimer>
 
 namespace Astel::Timed {
 
@@ -38,9 +37,6 @@ namespace {
 
 // The standard name for an error of the bus itself.
 constexpr auto BusError = "org.freedesktop.DBus.Error.Failed";
-
-constexpr std::chrono::milliseconds RetryInterval = std::chrono::seconds(2);
-constexpr int MaximalRetries = 3;
 
 } // namespace
 
@@ -66,6 +62,7 @@ struct Daemon::Parts
         , notifier(bus, QStringLiteral("timed"), NoticeTexts::application())
         , missedTeller(book, lifeCycle, notifier, zone)
         , answerTeller(lifeCycle, notifier, zone)
+        , restorationTeller(notifier)
         , snapshots(store, clock, {})
     {
         health.add([this] { return sleep.facts(); });
@@ -94,6 +91,7 @@ struct Daemon::Parts
     Notices::BusNotifier notifier;
     MissedTeller missedTeller;
     AnswerTeller answerTeller;
+    RestorationTeller restorationTeller;
     SnapshotKeeper snapshots;
 };
 
@@ -130,8 +128,8 @@ Result<> Daemon::start()
         return Error{BusError, QStringLiteral("%1 is taken: another daemon is running").arg(Wire::Service)};
     parts.lifeCycle.start();
     parts.missedTeller.start();
-    m_restorationUntold = m_store->wasRestored();
-    tellOfRestoration();
+    if (m_store->wasRestored())
+        parts.restorationTeller.tell();
     parts.boot.update();
     parts.publisher = std::make_unique<ContextPublisher>(Wire::TriggerProperty, parts.book.triggers(), bus);
     if (!parts.publisher->isPublished())
@@ -152,29 +150,7 @@ void Daemon::follow()
     QObject::connect(&parts.zone, &ZoneSource::changed, &parts.lifeCycle, &LifeCycle::zoneChanged);
     QObject::connect(&parts.sleep, &SleepControl::goesToSleep, &parts.lifeCycle, &LifeCycle::goesToSleep);
     QObject::connect(&parts.sleep, &SleepControl::resumed, &parts.lifeCycle, &LifeCycle::resumed);
-    QObject::connect(&parts.notifier, &Notices::Notifier::appeared, &parts.notifier, [this] {
-        m_noticesTried = 0;
-        tellOfRestoration();
-    });
     QObject::connect(&parts.service, &BusService::idle, &parts.snapshots, &SnapshotKeeper::follow);
-}
-
-void Daemon::tellOfRestoration()
-{
-    if (!m_restorationUntold)
-        return;
-    m_restorationUntold = false;
-    //% "Alarms were restored"
-    const QString summary = qtTrId("qtn_timed_restored");
-    //% "The file of the alarms was damaged. An earlier copy took its place: the latest changes may be missing, please "
-    //% "look through your alarms."
-    const Notices::Notice notice{summary, qtTrId("qtn_timed_restored_why"), {}, QStringLiteral("x-alarm.restored")};
-    m_parts->notifier.show(notice, [this](bool shown) {
-        m_restorationUntold = !shown;
-        // One that has just come may not be ready yet.
-        if (!shown && m_parts->notifier.isPresent() && m_noticesTried++ < MaximalRetries)
-            QTimer::singleShot(RetryInterval, &m_parts->notifier, [this] { tellOfRestoration(); });
-    });
 }
 
 } // namespace Astel::Timed

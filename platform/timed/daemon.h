@@ -38,12 +38,9 @@ private:
     Daemon(const Settings &settings, std::unique_ptr<SqliteStore> store);
     Result<> start();
     void follow();
-    void tellOfRestoration();
 
     std::unique_ptr<SqliteStore> m_store;
     std::unique_ptr<Parts> m_parts;
-    bool m_restorationUntold = false;
-    int m_noticesTried = 0;
 };
 
 } // namespace Astel::Timed

@@ -22,15 +22,6 @@ constexpr quint32 NoCookie = 0;
 
 const auto RingerGone = QStringLiteral("The ringer has gone and is called again");
 
-qint64 firstSnooze(const Wire::Event &event)
-{
-    for (const Wire::Button &button : event.buttons) {
-        if (button.snooze > 0)
-            return button.snooze;
-    }
-    return 0;
-}
-
 } // namespace
 
 LifeCycle::LifeCycle(EventBook &book, Schedule &schedule, Ringing &ringing, const Clock &clock, const ZoneSource &zone,
@@ -130,7 +121,7 @@ Result<qint64> LifeCycle::snooze(quint32 cookie, quint32 seconds, const QString 
     if (!found)
         return found.error();
     const AlarmEvent &event = **found;
-    const qint64 length = seconds > 0 ? seconds : firstSnooze(event.wire());
+    const qint64 length = seconds > 0 ? seconds : Wire::firstSnooze(event.wire());
     if (length <= 0 || length > LongestSnooze)
         return Error{Wire::InvalidError, QStringLiteral("a snooze of %1 s is not possible").arg(length)};
     return snoozeFor(event, length, by);

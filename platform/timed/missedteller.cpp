@@ -10,35 +10,20 @@
 
 namespace Astel::Timed {
 
-namespace {
-
-// One that has just come may not be ready yet.
-constexpr int RetryInterval = 2000;
-constexpr int MaximalRetries = 3;
-
-} // namespace
-
 MissedTeller::MissedTeller(const EventBook &book, LifeCycle &lifeCycle, Notices::Notifier &notifier,
                            const ZoneSource &zone)
     : m_book(book)
     , m_lifeCycle(lifeCycle)
     , m_notifier(notifier)
     , m_zone(zone)
-{
-    m_retry.setSingleShot(true);
-    m_retry.setInterval(RetryInterval);
-    connect(&m_retry, &QTimer::timeout, this, &MissedTeller::tellAll);
-}
+{ }
 
 void MissedTeller::start()
 {
     tellAll();
     connect(&m_lifeCycle, &LifeCycle::missed, this, &MissedTeller::tellEach);
     connect(&m_notifier, &Notices::Notifier::chosen, this, &MissedTeller::ring);
-    connect(&m_notifier, &Notices::Notifier::appeared, this, [this] {
-        m_failures = 0;
-        tellAll();
-    });
+    connect(&m_notifier, &Notices::Notifier::appeared, this, &MissedTeller::tellAll);
 }
 
 void MissedTeller::tellAll()
@@ -65,11 +50,8 @@ void MissedTeller::finish(const QList<Miss> &misses, bool shown)
 {
     for (const Miss &miss : misses)
         m_underWay.erase({miss.due, miss.cookie});
-    m_failures = shown ? 0 : m_failures + 1;
     if (shown)
         m_lifeCycle.tell(misses);
-    else if (m_notifier.isPresent() && m_failures <= MaximalRetries)
-        m_retry.start();
 }
 
 QList<Miss> MissedTeller::waiting() const

@@ -5,7 +5,6 @@
 #include "platform/timed/miss.h"
 
 #include <QObject>
-#include <QTimer>
 #include <set>
 
 namespace Notices {
@@ -20,8 +19,7 @@ class ZoneSource;
 
 /**
  * Tells the user what was missed: everything at once after the start, or when a notifier appears that was away; later
- * each miss for itself. What could not be shown stays untold in the book; a notifier that is there gets another chance
- * or two. Rings again what the user asks for.
+ * each miss for itself. What could not be shown stays untold in the book. Rings again what the user asks for.
  */
 class MissedTeller : public QObject
 {
@@ -47,8 +45,6 @@ private:
     Notices::Notifier &m_notifier;
     const ZoneSource &m_zone;
     std::set<std::pair<qint64, quint32>> m_underWay;
-    int m_failures = 0; ///< since a notice was shown, or the notifier appeared
-    QTimer m_retry;
 };
 
 } // namespace Astel::Timed

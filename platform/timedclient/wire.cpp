@@ -81,6 +81,15 @@ bool readButtons(const QDBusArgument &argument, QList<Button> &buttons)
 
 } // namespace
 
+qint32 firstSnooze(const Event &event)
+{
+    for (const Button &button : event.buttons) {
+        if (button.snooze > 0)
+            return button.snooze;
+    }
+    return 0;
+}
+
 void registerTypes()
 {
     // Every client asks for it, and there may be one for each alarm.

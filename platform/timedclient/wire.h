@@ -87,6 +87,9 @@ struct Event
     bool operator==(const Event &) const = default;
 };
 
+/** The seconds of the first button that snoozes; 0 where none does. */
+qint32 firstSnooze(const Event &event);
+
 /** The attributes that an event must hold to be found. */
 struct Filter
 {

@@ -33,7 +33,8 @@ private slots:
     void initTestCase() { RingTexts::install(); }
     void offersTheAnswersOfTheAlarm();
     void showsAnAlarmOnce();
-    void whatCouldNotBeShownIsShownOnceSomebodyDoes();
+    void whoeverComesIsGivenAllThatRings_data();
+    void whoeverComesIsGivenAllThatRings();
     void anAnswerIsForItsOwnAlarm();
     void closesWhatItShowsInTheEnd();
     void theSnoozeIsTheButtonsOrTheTimeouts_data();
@@ -63,17 +64,25 @@ void TestRingNotices::showsAnAlarmOnce()
     notices.show(teaTime(7));
     notices.show(teaTime(7));
     notifier.answer(true);
-    emit notifier.appeared();
+    notices.show(teaTime(7));
     QCOMPARE(notifier.notices.size(), 1);
 }
 
-void TestRingNotices::whatCouldNotBeShownIsShownOnceSomebodyDoes()
+void TestRingNotices::whoeverComesIsGivenAllThatRings_data()
 {
+    QTest::addColumn<bool>("wasShown");
+    QTest::newRow("after one that ended") << true;
+    QTest::newRow("where there was nobody") << false;
+}
+
+void TestRingNotices::whoeverComesIsGivenAllThatRings()
+{
+    QFETCH(bool, wasShown);
     FakeNotifier notifier;
     RingNotices notices(&notifier);
     notices.show(teaTime(7));
     notices.show(teaTime(8));
-    notifier.answer(false);
+    notifier.answer(wasShown);
     notices.close(8);
     emit notifier.appeared();
     QCOMPARE(notifier.notices.size(), 3);

@@ -25,9 +25,8 @@ QString tagOf(quint32 cookie)
 
 int snoozeSeconds(const Wire::Event &event)
 {
-    const auto snoozes = [](const Wire::Button &button) { return button.snooze > 0; };
-    const auto button = std::find_if(event.buttons.begin(), event.buttons.end(), snoozes);
-    return button != event.buttons.end() ? button->snooze : std::max(event.timeoutSnooze, 0);
+    const auto ofButton = Wire::firstSnooze(event);
+    return ofButton > 0 ? ofButton : std::max(event.timeoutSnooze, 0);
 }
 
 // The body holds nothing that a server could take for markup.
@@ -55,39 +54,32 @@ RingNotices::RingNotices(Notices::Notifier *notifier, QObject *parent)
     : QObject(parent)
     , m_notifier(notifier)
 {
-    connect(m_notifier, &Notices::Notifier::appeared, this, &RingNotices::showFailed);
+    connect(m_notifier, &Notices::Notifier::appeared, this, &RingNotices::showAll);
     connect(m_notifier, &Notices::Notifier::chosen, this, &RingNotices::choose);
 }
 
 RingNotices::~RingNotices()
 {
-    for (const auto &[cookie, shown] : m_shown)
+    for (const auto &[cookie, notice] : m_shown)
         m_notifier->close(tagOf(cookie));
 }
 
 void RingNotices::show(const RingNotice &notice)
 {
-    const auto [shown, isNew] = m_shown.try_emplace(notice.cookie, Shown{notice});
-    if (isNew)
-        send(shown->second);
+    if (m_shown.try_emplace(notice.cookie, notice).second)
+        send(notice);
 }
 
-void RingNotices::send(Shown &shown)
+void RingNotices::send(const RingNotice &notice)
 {
-    shown.hasFailed = false;
-    m_notifier->show(textsOf(shown.notice), [this, cookie = shown.notice.cookie](bool isShown) {
-        const auto known = m_shown.find(cookie);
-        if (known != m_shown.end())
-            known->second.hasFailed = !isShown;
-    });
+    m_notifier->show(textsOf(notice), [](bool) {});
 }
 
-void RingNotices::showFailed()
+// What was shown before somebody new came has gone with whom it was shown by.
+void RingNotices::showAll()
 {
-    for (auto &[cookie, shown] : m_shown) {
-        if (shown.hasFailed)
-            send(shown);
-    }
+    for (const auto &[cookie, notice] : m_shown)
+        send(notice);
 }
 
 void RingNotices::close(quint32 cookie)
@@ -105,8 +97,8 @@ void RingNotices::choose(const QString &key)
         return;
     if (!snoozed)
         Q_EMIT stopChosen(*chosen);
-    else if (shown->second.notice.snoozeSeconds > 0)
-        Q_EMIT snoozeChosen(*chosen, shown->second.notice.snoozeSeconds);
+    else if (shown->second.snoozeSeconds > 0)
+        Q_EMIT snoozeChosen(*chosen, shown->second.snoozeSeconds);
 }
 
 } // namespace Ringer

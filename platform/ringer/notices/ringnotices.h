@@ -31,8 +31,8 @@ struct RingNotice
 
 /**
  * Shows each alarm that rings as a notification too, with the screen's two answers, for the lock screen that covers
- * everything else. An alarm that is answered elsewhere takes its notification along. What could not be shown is shown
- * once there is somebody who does. Owned by the program; main thread.
+ * everything else. An alarm that is answered elsewhere takes its notification along. Whoever comes to show notifications
+ * later, or anew, is given all of them. Owned by the program; main thread.
  */
 class RingNotices : public QObject
 {
@@ -50,18 +50,12 @@ Q_SIGNALS:
     void stopChosen(quint32 cookie);
 
 private:
-    struct Shown
-    {
-        RingNotice notice;
-        bool hasFailed = false;
-    };
-
-    void send(Shown &shown);
-    void showFailed();
+    void send(const RingNotice &notice);
+    void showAll();
     void choose(const QString &key);
 
     Notices::Notifier *m_notifier;
-    std::map<quint32, Shown> m_shown;
+    std::map<quint32, RingNotice> m_shown;
 };
 
 } // namespace Ringer
