@@ -29,6 +29,7 @@ private slots:
     void buttonsArePressedByNumber();
     void ringerThatGoesIsCalledAgain();
     void secondDaemonSaysWhyItEnds();
+    void alarmsRingAlsoWhereNobodyCanFollowThem();
     void terminatedDaemonEndsCleanly();
 
 private:
@@ -170,6 +171,22 @@ void tst_DaemonLife::secondDaemonSaysWhyItEnds()
     const QTemporaryDir elsewhere;
     const QString sameName = run(elsewhere.path());
     QVERIFY2(sameName.startsWith("1 ") && sameName.contains("com.astel.timed is taken"), qPrintable(sameName));
+}
+
+void tst_DaemonLife::alarmsRingAlsoWhereNobodyCanFollowThem()
+{
+    m_daemon.terminate();
+    auto squatter = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "squatter");
+    QVERIFY(squatter.registerService("com.astel.context.Alarm.Trigger"));
+    QVERIFY(m_daemon.start());
+    NotingRinger ringer(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "ringer"));
+    Wire::Event event;
+    event.ticker = QDateTime::currentSecsSinceEpoch();
+    const uint cookie = add(event);
+    QTRY_COMPARE(ringer.calls, QStringList{QStringLiteral("ring %1").arg(cookie)});
+    squatter.unregisterService("com.astel.context.Alarm.Trigger");
+    m_daemon.terminate();
+    QVERIFY(m_daemon.start());
 }
 
 void tst_DaemonLife::terminatedDaemonEndsCleanly()
