@@ -7,9 +7,28 @@
 #include "ringerinterface.h"
 
 #include <QDBusConnection>
+#include <QDBusError>
 #include <QDBusPendingCallWatcher>
 
 namespace Astel::Timed {
+
+namespace {
+
+// It went amid the call, or takes its time: others see to that.
+bool isForWantOfAnAnswer(const QDBusError &error)
+{
+    switch (error.type()) {
+    case QDBusError::NoReply:
+    case QDBusError::Timeout:
+    case QDBusError::TimedOut:
+    case QDBusError::Disconnected:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
 
 BusRinger::BusRinger(const QString &service, const QDBusConnection &bus)
     : m_proxy(std::make_unique<ComAstelRingerInterface>(service, Wire::RingerPath, bus))
@@ -24,10 +43,14 @@ void BusRinger::ring(quint32 cookie, const Wire::Event &event, qint64 due)
 {
     auto *call = new QDBusPendingCallWatcher(m_proxy->ring(cookie, event, toNanoseconds(due)), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, cookie, call] {
-        if (call->isError())
-            qCWarning(lcTimed, "%ls does not take alarm %u: %ls", qUtf16Printable(m_proxy->service()), cookie,
-                      qUtf16Printable(call->error().message()));
         call->deleteLater();
+        if (!call->isError())
+            return;
+        const QDBusError error = call->error();
+        qCWarning(lcTimed, "%ls does not take alarm %u: %ls", qUtf16Printable(m_proxy->service()), cookie,
+                  qUtf16Printable(error.message()));
+        if (!isForWantOfAnAnswer(error))
+            emit refused(cookie);
     });
 }
 

@@ -23,6 +23,8 @@ public:
 signals:
     /** It was there and is no more. */
     void vanished();
+    /** It cannot be started, or does not take the event. */
+    void refused(quint32 cookie);
 };
 
 } // namespace Astel::Timed

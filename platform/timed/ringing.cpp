@@ -29,6 +29,7 @@ Ringing::Ringing(const EventBook &book, Schedule &schedule, const Clock &clock, 
     , m_fallback(fallback)
 {
     connect(&ringer, &Ringer::vanished, this, &Ringing::ringerVanished);
+    connect(&ringer, &Ringer::refused, this, &Ringing::ringerRefused);
 }
 
 void Ringing::follow(const AlarmEvent &event)
@@ -139,6 +140,14 @@ void Ringing::ringerVanished()
             m_schedule.set(cookie, Purpose::Retry, m_clock.now() + TimeToAcknowledge);
         emit ringerGone(cookie);
     }
+}
+
+// Nothing is to be waited for: the calls that are worth it follow each other, and then the fallback rings.
+void Ringing::ringerRefused(quint32 cookie)
+{
+    const auto ring = m_rings.find(cookie);
+    if (ring != m_rings.end() && !ring->second.acknowledged && ring->second.calls <= QuickCalls)
+        call(cookie, ring->second);
 }
 
 } // namespace Astel::Timed

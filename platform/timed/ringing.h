@@ -16,7 +16,8 @@ class Schedule;
 
 /**
  * Sees to it that what is to ring does ring: calls the ringer, and calls it again when it does not say within five
- * seconds that it rings, or goes away. When several calls were in vain, the fallback rings until the ringer does.
+ * seconds that it rings, goes away, or cannot be called at all. When several calls were in vain, the fallback rings until
+ * the ringer does.
  */
 class Ringing : public QObject
 {
@@ -61,6 +62,7 @@ private:
     void begin(quint32 cookie, Ring &ring);
     void call(quint32 cookie, Ring &ring);
     void ringerVanished();
+    void ringerRefused(quint32 cookie);
 
     const EventBook &m_book;
     Schedule &m_schedule;

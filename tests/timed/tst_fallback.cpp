@@ -6,13 +6,6 @@
 
 using namespace Astel::Timed;
 
-namespace {
-
-const qint64 Start = utc("2026-11-20T05:00:00");
-const qint64 Seven = utc("2026-11-20T06:00:00"); // in Berlin
-
-} // namespace
-
 /** What rings while the ringer does not. */
 class tst_Fallback : public QObject
 {
@@ -20,6 +13,8 @@ class tst_Fallback : public QObject
 
 private slots:
     void ringsWhenTheRingerWasCalledInVain();
+    void ringsAtOnceWhenTheRingerCannotBeCalled();
+    void oneRefusalIsNoReasonToRing();
     void fallsSilentWhenTheRingerRings();
     void fallsSilentWhenTheAlarmIsAnswered();
     void soundIsWrittenDownOnceForEachRinging();
@@ -39,6 +34,40 @@ void tst_Fallback::ringsWhenTheRingerWasCalledInVain()
     // One that was killed is called again as well.
     world.passTo(Seven + 30 * Second);
     QCOMPARE(world.fallback.rung.size(), 2);
+}
+
+void tst_Fallback::ringsAtOnceWhenTheRingerCannotBeCalled()
+{
+    World world(Start);
+    const quint32 cookie = world.add(daily(7, 0));
+    world.passTo(Seven);
+    for (int call = 1; call <= 3; ++call) {
+        QCOMPARE(world.ringer.rung.size(), call);
+        QVERIFY(world.fallback.rung.isEmpty());
+        emit world.ringer.refused(cookie);
+    }
+    QCOMPARE(world.fallback.rung, QList<quint32>{cookie});
+    QCOMPARE(world.store.words(), (QStringList{"due", "failed"}));
+    // From now on it is tried at leisure.
+    emit world.ringer.refused(cookie);
+    QCOMPARE(world.ringer.rung.size(), 4);
+    world.passTo(Seven + 15 * Second);
+    QCOMPARE(world.ringer.rung.size(), 5);
+}
+
+void tst_Fallback::oneRefusalIsNoReasonToRing()
+{
+    World world(Start);
+    const quint32 cookie = world.add(daily(7, 0));
+    world.passTo(Seven);
+    emit world.ringer.refused(cookie);
+    QVERIFY(world.parts->life.rings(cookie));
+    // The answer to an earlier call, which is late.
+    emit world.ringer.refused(cookie);
+    emit world.ringer.refused(cookie + 1);
+    QCOMPARE(world.ringer.rung.size(), 2);
+    world.passTo(Seven + Minute);
+    QVERIFY(world.fallback.rung.isEmpty());
 }
 
 void tst_Fallback::fallsSilentWhenTheRingerRings()

@@ -26,6 +26,10 @@ inline qint64 utc(const char *text)
     return moment.toMSecsSinceEpoch();
 }
 
+/** Six and seven o'clock in Berlin, on the day of most tests. */
+inline const qint64 Start = utc("2026-11-20T05:00:00");
+inline const qint64 Seven = utc("2026-11-20T06:00:00");
+
 /** An event that rings every day at a wall-clock time, kept after it was served. */
 inline Astel::Timed::Wire::Event daily(int hour, int minute, quint32 flags = Astel::Timed::Wire::KeepAlive)
 {
@@ -35,6 +39,11 @@ inline Astel::Timed::Wire::Event daily(int hour, int minute, quint32 flags = Ast
     event.recurrences = {{1u << hour, Q_UINT64_C(1) << minute, AllDaysOfWeek, AllDaysOfMonth, AllMonths, true}};
     event.buttons = {{0, {}}, {600, {}}};
     return event;
+}
+
+inline Astel::Timed::Wire::Event daily7(quint32 flags = Astel::Timed::Wire::KeepAlive)
+{
+    return daily(7, 0, flags);
 }
 
 /** The daemon's own parts among fakes: time passes as the test says, the store survives restart(). */
