@@ -168,6 +168,13 @@ Database::Condition Database::prepare()
         m_problem = QStringLiteral("it was written by a newer version");
         return Condition::Newer;
     }
+    // A file that only its permissions keep from being written opens all the same; a change that is begun tells.
+    for (const QString &statement :
+         {QStringLiteral("BEGIN IMMEDIATE"), QStringLiteral("PRAGMA user_version=%1").arg(version),
+          QStringLiteral("ROLLBACK")}) {
+        if (!query.exec(statement))
+            return conditionAfter(query.lastError());
+    }
     const QSqlError error = Schema::migrate(connection(), version, hasBeenDamaged() ? CookiesToStepOver : 0);
     return error.isValid() ? conditionAfter(error) : Condition::Sound;
 }

@@ -16,17 +16,14 @@ SnapshotKeeper::SnapshotKeeper(SqliteStore &store, const Clock &clock, const Del
     m_timer.setTimerType(Qt::VeryCoarseTimer);
     connect(&m_timer, &QTimer::timeout, this, &SnapshotKeeper::timeout);
     // The store began with one, and nobody knows yet how it ends.
-    wait(m_delays.retry);
+    wait(m_delays.longest);
 }
 
 void SnapshotKeeper::follow()
 {
     if (!m_store.isAheadOfSnapshot())
         return;
-    if (m_store.wantsSnapshot(m_clock.now()))
-        wait(m_delays.pause);
-    else
-        wait(m_store.owesSnapshot() ? m_delays.retry : m_delays.longest);
+    wait(m_store.wantsSnapshot(m_clock.now()) ? m_delays.pause : m_delays.longest);
 }
 
 void SnapshotKeeper::timeout()
@@ -36,7 +33,7 @@ void SnapshotKeeper::timeout()
         return;
     }
     m_store.takeSnapshot(m_clock.now());
-    wait(m_delays.retry);
+    wait(m_delays.longest);
 }
 
 void SnapshotKeeper::wait(std::chrono::milliseconds delay)

@@ -11,7 +11,7 @@ namespace Astel::Timed {
 class Clock;
 class SqliteStore;
 
-/** Asks the store for snapshots at the right time: soon after many changes, once a day, and again where one failed. */
+/** Asks the store for snapshots at the right time: soon after many changes, later after any, again where one failed. */
 class SnapshotKeeper : public QObject
 {
     Q_OBJECT
@@ -21,9 +21,8 @@ public:
     {
         /** Many changes in a row are copied together, and do not share the disk with the copy. */
         std::chrono::milliseconds pause = std::chrono::seconds(2);
-        std::chrono::milliseconds retry = std::chrono::minutes(10) + std::chrono::seconds(1);
-        /** Should no other change come. */
-        std::chrono::milliseconds longest = std::chrono::hours(24) + std::chrono::minutes(1);
+        /** Should no other change come, or the last one have failed. */
+        std::chrono::milliseconds longest = std::chrono::minutes(10) + std::chrono::seconds(1);
     };
 
     SnapshotKeeper(SqliteStore &store, const Clock &clock, const Delays &delays);

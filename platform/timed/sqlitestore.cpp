@@ -15,9 +15,8 @@ namespace Astel::Timed {
 
 namespace {
 
-constexpr qint64 Day = Q_INT64_C(86400) * 1000;
 constexpr int CommitsBetweenSnapshots = 10;
-constexpr qint64 PauseAfterFailure = Q_INT64_C(600) * 1000;
+constexpr qint64 TimeBetweenSnapshots = Q_INT64_C(600) * 1000;
 
 QVariant orNull(std::optional<qint64> moment)
 {
@@ -185,8 +184,7 @@ bool SqliteStore::wasRestored() const
 bool SqliteStore::wantsSnapshot(qint64 now) const
 {
     const qint64 since = std::abs(now - m_lastSnapshot);
-    return m_commitsSinceSnapshot >= CommitsBetweenSnapshots || (m_commitsSinceSnapshot > 0 && since >= Day)
-        || (m_snapshots.isOwed() && since >= PauseAfterFailure);
+    return m_commitsSinceSnapshot >= CommitsBetweenSnapshots || (isAheadOfSnapshot() && since >= TimeBetweenSnapshots);
 }
 
 void SqliteStore::takeSnapshot(qint64 now)

@@ -34,14 +34,12 @@ public:
     /** Whether a damaged file was replaced when the store was opened. */
     bool wasRestored() const;
     /**
-     * Whether there were ten commits, or a day with any, since the last snapshot, or ten minutes without the one
-     * that was asked for; "now" in milliseconds.
+     * Whether there were ten commits, or ten minutes with any, since the last snapshot, or ten minutes without the
+     * one that was asked for; "now" in milliseconds.
      */
     bool wantsSnapshot(qint64 now) const;
-    /** Whether there is anything that no snapshot holds. */
+    /** Whether there is anything that no snapshot holds, or may not: the last has failed, or is still under way. */
     bool isAheadOfSnapshot() const { return m_commitsSinceSnapshot > 0 || m_snapshots.isOwed(); }
-    /** Whether the last one has failed, or is still under way. */
-    bool owesSnapshot() const { return m_snapshots.isOwed(); }
     /** Begins to write one; returns at once. */
     void takeSnapshot(qint64 now);
     void waitForSnapshot() { m_snapshots.wait(); }

@@ -54,21 +54,22 @@ FullDisk::~FullDisk()
     setrlimit(RLIMIT_FSIZE, &m_before);
 }
 
-ReadOnlyDisk::ReadOnlyDisk(const QString &folder)
-    : m_folder(QFile::encodeName(folder))
+ReadOnlyDisk::ReadOnlyDisk(const QString &path)
+    : m_path(QFile::encodeName(path))
 {
     // Permissions do not stop root, who may mount instead.
-    m_mounted = mount(m_folder, m_folder, nullptr, MS_BIND, nullptr) == 0
-        && mount(nullptr, m_folder, nullptr, MS_BIND | MS_REMOUNT | MS_RDONLY, nullptr) == 0;
+    m_mounted = mount(m_path, m_path, nullptr, MS_BIND, nullptr) == 0
+        && mount(nullptr, m_path, nullptr, MS_BIND | MS_REMOUNT | MS_RDONLY, nullptr) == 0;
     if (!m_mounted)
-        QFile::setPermissions(folder, Readable);
-    m_readOnly = !QFile(folder + "/probe").open(QIODevice::WriteOnly);
+        QFile::setPermissions(path, Readable);
+    const QString probe = QFileInfo(path).isDir() ? path + "/probe" : path;
+    m_readOnly = !QFile(probe).open(QIODevice::WriteOnly | QIODevice::Append);
 }
 
 ReadOnlyDisk::~ReadOnlyDisk()
 {
     if (m_mounted)
-        umount2(m_folder, MNT_DETACH);
+        umount2(m_path, MNT_DETACH);
     else
-        QFile::setPermissions(QFile::decodeName(m_folder), Readable | QFile::WriteOwner);
+        QFile::setPermissions(QFile::decodeName(m_path), Readable | QFile::WriteOwner);
 }

@@ -43,18 +43,18 @@ private:
     rlimit m_before = {};
 };
 
-/** While it lives a folder cannot be written, not even by root. */
+/** While it lives a folder, or a file, cannot be written, not even by root. */
 class ReadOnlyDisk
 {
 public:
-    explicit ReadOnlyDisk(const QString &folder);
+    explicit ReadOnlyDisk(const QString &path);
     ~ReadOnlyDisk();
     Q_DISABLE_COPY(ReadOnlyDisk)
 
     bool isReadOnly() const { return m_readOnly; }
 
 private:
-    QByteArray m_folder;
+    QByteArray m_path;
     bool m_mounted = false;
     bool m_readOnly = false;
 };

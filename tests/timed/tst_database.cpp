@@ -65,6 +65,7 @@ private slots:
     void lostFileIsRestoredAsWell();
     void restorationIsRememberedAfterTheNextStart();
     void readOnlyDiskIsReadAndTakesNoChange();
+    void readOnlyFileIsReadAndTakesNoChange();
     void fullDiskIsReadAndTakesNoChange_data();
     void fullDiskIsReadAndTakesNoChange();
     void damagedFileOnAReadOnlyDiskIsReadFromTheSnapshot();
@@ -299,6 +300,19 @@ void tst_Database::readOnlyDiskIsReadAndTakesNoChange()
     }
     QVERIFY(open()->commit({{stored(3)}, {}, {}}));
     QCOMPARE(open()->events().size(), 2);
+}
+
+void tst_Database::readOnlyFileIsReadAndTakesNoChange()
+{
+    QVERIFY(open()->commit({{stored(1)}, {}, {}}));
+    const ReadOnlyDisk disk(file());
+    QVERIFY(disk.isReadOnly());
+    const Support::LogCapture log;
+    const auto store = open();
+    QVERIFY(store);
+    QCOMPARE(store->events().size(), 1);
+    QVERIFY(!store->commit({{stored(2)}, {}, {}}));
+    QVERIFY(!store->facts().value("store_writable").toBool());
 }
 
 void tst_Database::fullDiskIsReadAndTakesNoChange_data()

@@ -15,6 +15,7 @@ using namespace Astel::Timed;
 namespace {
 
 constexpr qint64 Day = 86400000;
+constexpr qint64 TenMinutes = 600000;
 } // namespace
 
 class tst_SqliteStore : public QObject
@@ -31,7 +32,7 @@ private slots:
     void fullDiskFailsAndKeepsWhatIsStored();
     void journalBeginsWhereAskedAndForgetsAfterAYear();
     void recordThatCannotBeReadDoesNotLoseTheOthers();
-    void snapshotIsWantedAfterTenCommitsOrADayWithAny();
+    void snapshotIsWantedAfterTenCommitsOrTenMinutesWithAny();
     void snapshotKeepsNobodyWaiting();
     void snapshotMovesTheLogIntoTheFile();
 
@@ -141,7 +142,7 @@ void tst_SqliteStore::recordThatCannotBeReadDoesNotLoseTheOthers()
     QCOMPARE(log.lines(QtWarningMsg).size(), 2);
 }
 
-void tst_SqliteStore::snapshotIsWantedAfterTenCommitsOrADayWithAny()
+void tst_SqliteStore::snapshotIsWantedAfterTenCommitsOrTenMinutesWithAny()
 {
     const auto store = open();
     for (quint32 cookie = 1; cookie <= 10; ++cookie) {
@@ -155,12 +156,12 @@ void tst_SqliteStore::snapshotIsWantedAfterTenCommitsOrADayWithAny()
     store->waitForSnapshot();
     QVERIFY(QFile::exists(m_folder->file(".snapshot")));
     QVERIFY(!QFile::exists(m_folder->file(".snapshot.new")));
-    QVERIFY(!store->wantsSnapshot(Now + Day));
+    QVERIFY(!store->wantsSnapshot(Now + TenMinutes));
 
     QVERIFY(store->commit({{stored(11)}, {}, {}}));
-    QVERIFY(!store->wantsSnapshot(Now + Day - 1));
-    QVERIFY(store->wantsSnapshot(Now + Day));
-    QVERIFY(store->wantsSnapshot(Now - Day));
+    QVERIFY(!store->wantsSnapshot(Now + TenMinutes - 1));
+    QVERIFY(store->wantsSnapshot(Now + TenMinutes));
+    QVERIFY(store->wantsSnapshot(Now - TenMinutes));
 }
 
 void tst_SqliteStore::snapshotKeepsNobodyWaiting()
