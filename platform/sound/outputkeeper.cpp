@@ -13,23 +13,30 @@ namespace Sound {
 namespace {
 
 using namespace std::chrono_literals;
+using Place = PulseSink::Place;
 
 // Half asleep one may mute it, or pull a plug.
 constexpr auto LookInterval = 2000ms;
 
 } // namespace
 
-QList<PulseSink> outputsOf(const QList<PulseSink> &sinks)
+QList<PulseSink> outputsOf(const QList<PulseSink> &sinks, const QStringList &shut)
 {
-    const auto isDefault = [](const PulseSink &sink) { return sink.isDefault; };
-    const auto isSpeaker = [](const PulseSink &sink) { return sink.place == PulseSink::Place::Room; };
-    const auto usual = std::find_if(sinks.begin(), sinks.end(), isDefault);
+    const auto usual = std::find_if(sinks.begin(), sinks.end(), [](const PulseSink &sink) { return sink.isDefault; });
     if (usual == sinks.end())
         return {};
-    const auto speaker = std::find_if(sinks.begin(), sinks.end(), isSpeaker);
-    if (usual->place != PulseSink::Place::Ears || speaker == sinks.end())
-        return {*usual};
-    return {*usual, *speaker};
+    const auto other = [&](std::initializer_list<Place> places) -> QList<PulseSink> {
+        for (const auto place : places) {
+            for (const auto &sink : sinks) {
+                if (!sink.isDefault && sink.place == place && !shut.contains(sink.id))
+                    return {sink};
+            }
+        }
+        return {};
+    };
+    if (shut.contains(usual->id))
+        return QList{*usual} + other({Place::Room, Place::Unknown, Place::Ears});
+    return usual->place == Place::Ears ? QList{*usual} + other({Place::Room}) : QList{*usual};
 }
 
 OutputKeeper::OutputKeeper(QObject *parent)
@@ -40,6 +47,10 @@ OutputKeeper::OutputKeeper(QObject *parent)
     m_next.setInterval(LookInterval);
     connect(&m_next, &QTimer::timeout, this, &OutputKeeper::look);
     connect(this, &OutputKeeper::looked, this, &OutputKeeper::onLooked, Qt::QueuedConnection);
+    m_thread.start([this] {
+        m_before = OutputRecord::read();
+        restore();
+    });
 }
 
 OutputKeeper::~OutputKeeper()
@@ -85,23 +96,45 @@ QString OutputKeeper::open()
     QString reason;
     const auto server = PulseServer::create(&reason);
     const auto sinks = server ? server->sinks() : std::nullopt;
-    const auto outputs = outputsOf(sinks.value_or(QList<PulseSink>()));
-    for (const auto &output : outputs)
-        open(*server, output);
-    return outputs.size() > 1 ? outputs.last().id : QString();
+    QStringList shut;
+    const auto isShut = [&](const PulseSink &sink) { return !shut.contains(sink.id) && !open(*server, sink); };
+    for (;;) {
+        const auto outputs = outputsOf(sinks.value_or(QList<PulseSink>()), shut);
+        const auto refusing = std::find_if(outputs.begin(), outputs.end(), isShut);
+        if (refusing == outputs.end())
+            return outputs.size() > 1 ? outputs.last().id : QString();
+        qCWarning(lcSound, "%ls cannot be opened", qUtf16Printable(refusing->name));
+        shut += refusing->id;
+    }
 }
 
-void OutputKeeper::open(PulseServer &server, const PulseSink &sink)
+// Remembered before it is done: whoever is killed in between has changed nothing.
+bool OutputKeeper::open(PulseServer &server, const PulseSink &sink)
 {
-    if (sink.isMuted && server.setMuted(sink.id, false)) {
+    auto before = m_before.value(sink.id);
+    if (sink.isMuted) {
+        before.wasMuted = true;
+        remember(sink.id, before);
+        if (!server.setMuted(sink.id, false))
+            return false;
         qCInfo(lcSound, "%ls was muted, opened", qUtf16Printable(sink.name));
-        m_before[sink.id].wasMuted = true;
     }
-    if (sink.takesVolume || sink.volume >= LeastVolume || !server.setVolume(sink.id, LeastVolume))
-        return;
-    qCInfo(lcSound, "%ls was at %u %%, raised", qUtf16Printable(sink.name), sink.volume);
-    auto &before = m_before[sink.id];
+    if (sink.takesVolume || sink.volume >= LeastVolume)
+        return true;
     before.volume = before.volume.value_or(sink.volume);
+    remember(sink.id, before);
+    if (!server.setVolume(sink.id, LeastVolume))
+        return sink.volume > 0;
+    qCInfo(lcSound, "%ls was at %u %%, raised", qUtf16Printable(sink.name), sink.volume);
+    return true;
+}
+
+void OutputKeeper::remember(const QString &sink, const OutputBefore &before)
+{
+    if (m_before.value(sink) == before)
+        return;
+    m_before[sink] = before;
+    OutputRecord::write(m_before);
 }
 
 // What somebody has changed since stays as it is now.
@@ -120,6 +153,7 @@ void OutputKeeper::restore()
             server->setMuted(sink.id, true);
     }
     m_before.clear();
+    OutputRecord::write(m_before);
 }
 
 } // namespace Sound

@@ -2,23 +2,24 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "platform/sound/outputrecord.h"
 #include "platform/sound/pulseserver.h"
 
-#include <QMap>
 #include <QObject>
+#include <QStringList>
 #include <QThreadPool>
 #include <QTimer>
 
 namespace Sound {
 
 /** Where a tone that has to be heard is to sound, the default sink first: where that is worn on the ears, through a
- *  loudspeaker as well. */
-[[nodiscard]] QList<PulseSink> outputsOf(const QList<PulseSink> &sinks);
+ *  loudspeaker as well; where it is among those that cannot be opened, through another one as well. */
+[[nodiscard]] QList<PulseSink> outputsOf(const QList<PulseSink> &sinks, const QStringList &shut = {});
 
 /**
  * Keeps the sound server's outputs audible for as long as it is asked to: one that is muted is opened, one that is low
- * is raised, also when that happens later; afterwards they are as they were. Without a sound server nothing happens.
- * Asks the server in a thread of its own; lives in the main thread.
+ * is raised, also when that happens later; afterwards they are as they were, and so is what a program that was killed
+ * has left. Without a sound server nothing happens. Asks the server in a thread of its own; lives in the main thread.
  */
 class OutputKeeper : public QObject
 {
@@ -35,24 +36,19 @@ public:
     void letGo();
 
 Q_SIGNALS:
-    /** The sink of the loudspeaker that is to sound beside the default one; empty: none. */
+    /** The sink that is to sound beside the default one, mostly a loudspeaker; empty: none. */
     void speakerChanged(const QString &sink);
 
     // From the thread, for this object itself.
     void looked(int spell, const QString &speaker);
 
 private:
-    struct Before
-    {
-        bool wasMuted = false;
-        std::optional<uint> volume; ///< before it was raised
-    };
-
     void look();
     void onLooked(int spell, const QString &speaker);
     // In the thread.
     QString open();
-    void open(PulseServer &server, const PulseSink &sink);
+    [[nodiscard]] bool open(PulseServer &server, const PulseSink &sink);
+    void remember(const QString &sink, const OutputBefore &before);
     void restore();
 
     QThreadPool m_thread;
@@ -60,7 +56,7 @@ private:
     int m_spell = 0; ///< counts keepOpen() and letGo(): what was seen before is out of date
     bool m_isKept = false;
     QString m_speaker;
-    QMap<QString, Before> m_before; ///< by sink; the thread's
+    OutputsBefore m_before; ///< the thread's
 };
 
 } // namespace Sound

@@ -116,8 +116,8 @@ void PulseServer::EndLoop::operator()(pa_mainloop *loop) const
     pa_mainloop_free(loop);
 }
 
-PulseServer::PulseServer()
-    : m_deadline(ServerTime)
+PulseServer::PulseServer(std::chrono::milliseconds time)
+    : m_deadline(time)
     , m_loop(pa_mainloop_new())
     , m_context(pa_context_new(pa_mainloop_get_api(m_loop.get()), "Clock"))
 { }
@@ -126,11 +126,17 @@ PulseServer::~PulseServer() = default;
 
 std::unique_ptr<PulseServer> PulseServer::create(QString *reason)
 {
-    std::unique_ptr<PulseServer> server(new PulseServer);
+    std::unique_ptr<PulseServer> server(new PulseServer(ServerTime));
     if (server->connect())
         return server;
     *reason = QStringLiteral("no sound server answers");
     return nullptr;
+}
+
+bool PulseServer::hangs(std::chrono::milliseconds time)
+{
+    PulseServer server(time);
+    return !server.connect() && server.m_deadline.hasExpired();
 }
 
 bool PulseServer::connect()

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QString>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -39,6 +40,9 @@ class PulseServer
 public:
     /** Null, with a reason, where none answers. */
     [[nodiscard]] static std::unique_ptr<PulseServer> create(QString *reason);
+    /** Whether there is one that takes a connection and then says nothing for so long: it hangs. Blocks until it
+     *  answers. */
+    [[nodiscard]] static bool hangs(std::chrono::milliseconds time);
     ~PulseServer();
     Q_DISABLE_COPY(PulseServer)
 
@@ -58,7 +62,7 @@ private:
         void operator()(pa_mainloop *loop) const;
     };
 
-    PulseServer();
+    explicit PulseServer(std::chrono::milliseconds time);
     bool connect();
     bool runUntil(const std::function<bool()> &isDone);
     bool finish(pa_operation *operation);

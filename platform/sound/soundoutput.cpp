@@ -2,11 +2,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/sound/soundoutput.h"
 
+#include "platform/sound/pulseserver.h"
+
 #include <array>
+#include <chrono>
 
 namespace Sound {
 
 namespace {
+
+// An answer takes some milliseconds; whoever opens a sink of a server that hangs is held up for half a minute.
+constexpr std::chrono::milliseconds AnswerTime{700};
 
 GstElement *create(const char *factory)
 {
@@ -69,27 +75,47 @@ GstElement *openAutomatic()
     return nullptr;
 }
 
+GstElement *openAlsa(const char *device)
+{
+    auto *output = create("alsasink");
+    if (output)
+        g_object_set(output, "device", device, nullptr);
+    return open(output);
+}
+
+// What ALSA calls its default is often the sound server again.
 GstElement *openCard()
 {
-    return open(create("alsasink"));
+    return openAlsa("sysdefault");
+}
+
+GstElement *openAlsaDefault()
+{
+    return openAlsa("default");
 }
 
 } // namespace
 
 GstElement *createSoundOutput(QString *reason, const OutputChoice &choice)
 {
+    const auto hangs = PulseServer::hangs(AnswerTime);
     if (!choice.sink.isEmpty()) {
-        auto *output = openPulse(choice.sink);
+        auto *output = hangs ? nullptr : openPulse(choice.sink);
         if (!output)
             *reason = QStringLiteral("the sink does not open");
         return output;
     }
-    constexpr std::array ways{openDefault, openAutomatic, openCard};
+    constexpr std::array ways{openDefault, openAutomatic, openCard, openAlsaDefault};
     for (std::size_t step = 0; step < ways.size(); ++step) {
-        if (auto *output = ways[(std::size_t(choice.way) + step) % ways.size()]())
+        const auto way = ways[(std::size_t(choice.way) + step) % ways.size()];
+        // Only the card itself is opened without asking the server.
+        if (hangs && way != openCard)
+            continue;
+        if (auto *output = way())
             return output;
     }
-    *reason = QStringLiteral("no sound server and no sound device answers");
+    *reason = hangs ? QStringLiteral("the sound server hangs, and no sound device answers")
+                    : QStringLiteral("no sound server and no sound device answers");
     return nullptr;
 }
 

@@ -11,8 +11,9 @@ namespace Sound {
 /** Which output a tone takes. */
 struct OutputChoice
 {
-    /** Counts the ways from 0: the Pulse or PipeWire server, whatever GStreamer finds, the sound card itself; begins anew
-     *  after the last. One that does not open gives way to the next. */
+    /** Counts the ways from 0: the Pulse or PipeWire server, whatever GStreamer finds, the sound card itself, ALSA's
+     *  default; begins anew after the last. One that does not open gives way to the next, and where the server hangs the
+     *  card is the only way. */
     int way = 0;
     QString sink; ///< of the server, which is then the only way; empty: its default
 };

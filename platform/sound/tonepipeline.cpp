@@ -3,12 +3,20 @@
 #include "platform/sound/tonepipeline.h"
 
 #include "platform/sound/audibility.h"
+#include "platform/sound/logging.h"
 
+#include <QSemaphore>
 #include <QUrl>
+
+#include <thread>
+#include <utility>
 
 namespace Sound {
 
 namespace {
+
+// It takes some milliseconds where nothing hangs.
+constexpr int HaltTime = 1000;
 
 // Level stands before the volume: it judges the tone, not how far it has risen.
 constexpr auto Filter = "audioconvert ! level name=level interval=50000000 ! volume name=volume volume=0.15";
@@ -132,10 +140,20 @@ void TonePipeline::start()
     gst_element_set_state(m_pipeline, GST_STATE_PLAYING);
 }
 
+// Joins GStreamer's threads; nothing is posted afterwards. Where a sound server hangs they cannot be joined, and are
+// left behind.
 void TonePipeline::halt()
 {
-    // Joins GStreamer's threads; nothing is posted afterwards.
-    gst_element_set_state(m_pipeline, GST_STATE_NULL);
+    if (std::exchange(m_isHalted, true))
+        return;
+    const auto isDone = std::make_shared<QSemaphore>();
+    std::thread([pipeline = GST_ELEMENT(gst_object_ref(m_pipeline)), isDone] {
+        gst_element_set_state(pipeline, GST_STATE_NULL);
+        gst_object_unref(pipeline);
+        isDone->release();
+    }).detach();
+    if (!isDone->tryAcquire(1, HaltTime))
+        qCWarning(lcSound, "The sound output does not let go, ignoring");
 }
 
 void TonePipeline::setVolume(double amplitude)
@@ -190,6 +208,8 @@ void TonePipeline::measure(GstMessage *message)
 // A file too short for the seamless way ends; it begins anew.
 void TonePipeline::startAgain()
 {
+    if (m_isHalted)
+        return;
     gst_element_seek_simple(m_pipeline, GST_FORMAT_TIME, GST_SEEK_FLAG_FLUSH, 0);
 }
 

@@ -33,7 +33,7 @@ public:
     static void end(std::unique_ptr<TonePipeline> &pipeline, const QObject *follower);
 
     void start();
-    void halt(); ///< silent when it returns
+    void halt(); ///< silent when it returns, unless the sound server hangs
     void setVolume(double amplitude);
 
 Q_SIGNALS:
@@ -59,6 +59,7 @@ private:
     GstElement *m_pipeline;
     GstElement *m_volume;
     std::atomic<bool> m_playing = false;
+    bool m_isHalted = false;
 };
 
 } // namespace Sound

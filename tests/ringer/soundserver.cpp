@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <csignal>
 #include <numbers>
 
 namespace Support {
@@ -64,6 +65,23 @@ void SoundServer::kill()
 {
     stop(m_recorder);
     stop(m_server);
+}
+
+void SoundServer::hang()
+{
+    tell(SIGSTOP);
+}
+
+void SoundServer::goOn()
+{
+    tell(SIGCONT);
+}
+
+// Without a server the number would stand for all processes of the group.
+void SoundServer::tell(int signal)
+{
+    if (const auto server = pid_t(m_server.processId()); server > 0)
+        ::kill(server, signal);
 }
 
 bool SoundServer::control(const QStringList &arguments)

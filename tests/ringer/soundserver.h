@@ -22,6 +22,9 @@ public:
     /** True once the server answers and the recording runs. */
     [[nodiscard]] bool start();
     void kill();
+    /** Takes connections and answers nothing, until it goes on. */
+    void hang();
+    void goOn();
     /** What `pactl` does with these arguments; false where the server refuses. */
     [[nodiscard]] bool control(const QStringList &arguments);
     /** What `pactl` answers. */
@@ -37,6 +40,8 @@ public:
     [[nodiscard]] float peak(int milliseconds);
 
 private:
+    void tell(int signal);
+
     QTemporaryDir m_folder;
     QProcess m_server;
     QProcess m_recorder;

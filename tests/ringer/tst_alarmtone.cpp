@@ -4,19 +4,29 @@
 
 #include "tests/ringer/soundserver.h"
 
+#include <QElapsedTimer>
+#include <QFile>
+#include <QSaveFile>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <gst/gst.h>
 
 using Sound::AlarmTone;
 using Sound::OutputKeeper;
+using Sound::OutputsBefore;
 using Sound::PulseSink;
 using Place = Sound::PulseSink::Place;
+namespace OutputRecord = Sound::OutputRecord;
 
 namespace {
 
 constexpr auto Heard = 0.1f;
+
+constexpr auto NoCard = "# nothing\n";
+// What it plays goes into a file.
+constexpr auto Card = "pcm.sysdefault { type file slave.pcm { type null } file \"FOLDER/heard.raw\" format raw }\n";
 
 PulseSink sink(const char *id, Place place, bool isDefault = false)
 {
@@ -50,30 +60,41 @@ private slots:
     void aLowOutputIsRaisedForTheTone();
     void whatIsMutedWhileItSoundsIsOpenedAgain();
     void whatTheUserChangesMeanwhileStays();
+    void whatIsToBePutBackIsWrittenDown();
+    void whatAKilledProgramLeftIsPutBack();
     void headphonesAndLoudspeakerBothSound();
     void aLoudspeakerThatGoesLeavesTheHeadphones();
     void headphonesThatComeLaterDoNotSilenceTheRoom();
     void theLoudspeakerAloneSoundsOnce();
     void withoutAServerThereIsAReason();
+    void withoutAServerTheCardSounds();
+    void aServerThatHangsGivesWayToTheCard();
+    void aServerThatHangsWhileItSoundsHoldsNobodyUp();
 
 private:
     void start();
+    [[nodiscard]] bool plugIn(const QByteArray &card);
+    [[nodiscard]] bool isCardHeard() const;
     [[nodiscard]] bool addSink(const QString &name, const QString &formFactor);
     [[nodiscard]] int streams();
 
+    QTemporaryDir m_card;
     Support::SoundServer m_server;
     std::unique_ptr<AlarmTone> m_tone;
 };
 
 void TestAlarmTone::initTestCase()
 {
+    qputenv("ALSA_CONFIG_PATH", QFile::encodeName(m_card.filePath("asound.conf")));
     gst_init(nullptr, nullptr);
 }
 
 void TestAlarmTone::init()
 {
     m_tone.reset();
+    m_server.goOn();
     m_server.kill();
+    QVERIFY(plugIn(NoCard));
     QVERIFY(m_server.start());
     m_tone = std::make_unique<AlarmTone>();
 }
@@ -82,6 +103,24 @@ void TestAlarmTone::start()
 {
     QString reason;
     QVERIFY2(m_tone->start({}, 0, 1, &reason), qPrintable(reason));
+}
+
+// A file of its own each time, for the library looks whether it is another one.
+bool TestAlarmTone::plugIn(const QByteArray &card)
+{
+    QFile::remove(m_card.filePath("heard.raw"));
+    QSaveFile file(m_card.filePath("asound.conf"));
+    return file.open(QIODevice::WriteOnly) && file.write(QByteArray(card).replace("FOLDER", m_card.path().toUtf8())) > 0
+        && file.commit();
+}
+
+bool TestAlarmTone::isCardHeard() const
+{
+    QFile file(m_card.filePath("heard.raw"));
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray heard = file.read(1'000'000);
+    return heard.size() - heard.count('\0') > 10'000;
 }
 
 bool TestAlarmTone::addSink(const QString &name, const QString &formFactor)
@@ -99,19 +138,35 @@ void TestAlarmTone::outputsFollowWhereTheDefaultIsWorn_data()
 {
     QTest::addColumn<QList<PulseSink>>("sinks");
     QTest::addColumn<QString>("outputs");
+    QTest::addColumn<QStringList>("shut");
     const auto speaker = sink("speaker", Place::Room);
-    QTest::newRow("no sink") << QList<PulseSink>() << "";
-    QTest::newRow("none is the default") << QList{speaker} << "";
-    QTest::newRow("one of which nothing is known") << QList{sink("a", Place::Unknown, true), speaker} << "a";
-    QTest::newRow("the loudspeaker") << QList{sink("a", Place::Room, true), sink("ears", Place::Ears)} << "a";
-    QTest::newRow("headphones alone") << QList{sink("ears", Place::Ears, true), sink("b", Place::Unknown)} << "ears";
-    QTest::newRow("headphones") << QList{speaker, sink("ears", Place::Ears, true)} << "ears speaker";
+    const QStringList none;
+    QTest::newRow("no sink") << QList<PulseSink>() << "" << none;
+    QTest::newRow("none is the default") << QList{speaker} << "" << none;
+    QTest::newRow("one of which nothing is known") << QList{sink("a", Place::Unknown, true), speaker} << "a" << none;
+    QTest::newRow("the loudspeaker") << QList{sink("a", Place::Room, true), sink("ears", Place::Ears)} << "a" << none;
+    QTest::newRow("headphones alone") << QList{sink("ears", Place::Ears, true), sink("b", Place::Unknown)} << "ears"
+                                      << none;
+    QTest::newRow("headphones") << QList{speaker, sink("ears", Place::Ears, true)} << "ears speaker" << none;
+
+    const auto unknown = sink("b", Place::Unknown);
+    const auto ears = sink("ears", Place::Ears);
+    const auto shut = sink("shut", Place::Room, true);
+    QTest::newRow("shut, alone") << QList{shut} << "shut" << QStringList{"shut"};
+    QTest::newRow("shut, beside others") << QList{ears, unknown, shut, speaker} << "shut speaker"
+                                         << QStringList{"shut"};
+    QTest::newRow("shut, as the loudspeaker is")
+        << QList{ears, unknown, shut, speaker} << "shut b" << QStringList{"shut", "speaker"};
+    QTest::newRow("shut, but for the ears") << QList{shut, ears} << "shut ears" << QStringList{"shut"};
+    QTest::newRow("headphones, and the loudspeaker is shut")
+        << QList{speaker, sink("ears", Place::Ears, true)} << "ears" << QStringList{"speaker"};
 }
 
 void TestAlarmTone::outputsFollowWhereTheDefaultIsWorn()
 {
     QFETCH(QList<PulseSink>, sinks);
-    QTEST(namesOf(Sound::outputsOf(sinks)), "outputs");
+    QFETCH(QStringList, shut);
+    QTEST(namesOf(Sound::outputsOf(sinks, shut)), "outputs");
 }
 
 void TestAlarmTone::theServerTellsWhereASinkIs()
@@ -195,6 +250,26 @@ void TestAlarmTone::whatTheUserChangesMeanwhileStays()
     QVERIFY2(now().contains(" 80%"), qPrintable(now()));
 }
 
+void TestAlarmTone::whatIsToBePutBackIsWrittenDown()
+{
+    QVERIFY(m_server.control({"set-sink-mute", "null", "1"}));
+    QVERIFY(m_server.control({"set-sink-volume", "null", "20%"}));
+    start();
+    QTRY_COMPARE(OutputRecord::read(), (OutputsBefore{{"null", {true, 20}}}));
+    m_tone->stop();
+    QTRY_COMPARE(OutputRecord::read(), OutputsBefore());
+}
+
+void TestAlarmTone::whatAKilledProgramLeftIsPutBack()
+{
+    OutputRecord::write({{"null", {true, 20}}, {"a sink that has gone", {true, {}}}});
+    QVERIFY(m_server.control({"set-sink-volume", "null", "50%"}));
+    m_tone = std::make_unique<AlarmTone>();
+    QTRY_COMPARE(m_server.query({"get-sink-mute", "null"}).trimmed(), "Mute: yes");
+    QVERIFY(m_server.query({"get-sink-volume", "null"}).contains(" 20%"));
+    QTRY_COMPARE(OutputRecord::read(), OutputsBefore());
+}
+
 void TestAlarmTone::headphonesAndLoudspeakerBothSound()
 {
     QVERIFY(addSink("speaker", "internal"));
@@ -265,6 +340,38 @@ void TestAlarmTone::withoutAServerThereIsAReason()
     QString reason;
     QVERIFY(!m_tone->start({}, 0, 1, &reason));
     QVERIFY(reason.contains("no sound"));
+}
+
+void TestAlarmTone::withoutAServerTheCardSounds()
+{
+    m_server.kill();
+    QVERIFY(plugIn(Card));
+    QSignalSpy flows(m_tone.get(), &AlarmTone::flows);
+    start();
+    QTRY_VERIFY(isCardHeard());
+    QTRY_VERIFY(flows.contains(QVariantList{true}));
+}
+
+void TestAlarmTone::aServerThatHangsGivesWayToTheCard()
+{
+    QVERIFY(plugIn(Card));
+    m_server.hang();
+    QElapsedTimer time;
+    time.start();
+    start();
+    QVERIFY2(time.elapsed() < 1500, qPrintable(QString::number(time.elapsed())));
+    QTRY_VERIFY(isCardHeard());
+}
+
+void TestAlarmTone::aServerThatHangsWhileItSoundsHoldsNobodyUp()
+{
+    start();
+    QTRY_VERIFY(m_server.peak(1000) > Heard);
+    m_server.hang();
+    QElapsedTimer time;
+    time.start();
+    m_tone->stop();
+    QVERIFY2(time.elapsed() < 3000, qPrintable(QString::number(time.elapsed())));
 }
 
 QTEST_GUILESS_MAIN(TestAlarmTone)

@@ -186,6 +186,7 @@ void TestGstTonePlayer::aToneThatCannotBeHeardFailsWithinTwoSeconds_data()
 {
     QTest::addColumn<QString>("tone");
     QTest::newRow("missing") << file("missing.aac");
+    QTest::newRow("a folder") << m_folder.path();
     QTest::newRow("empty") << file("empty.aac");
     QTest::newRow("silent") << file("silent.wav");
     QTest::newRow("undecodable") << file("text.mp3");

@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int Ways = 3;
+constexpr int Ways = 4;
 constexpr double FullVolume = 1;
 constexpr auto RetryInterval = 300ms;
 constexpr auto Patience = 2000ms;

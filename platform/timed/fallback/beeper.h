@@ -11,7 +11,7 @@ namespace Fallback {
 
 /**
  * Beeps at full volume through whatever plays sound: the sound server, anything else GStreamer finds, the sound card
- * itself. Needs no file. Goes on to the next output where one fails or nothing flows, and begins again after the last.
+ * itself, ALSA's default. Needs no file. Goes on to the next output where one fails or nothing flows, and begins again after the last.
  */
 class Beeper : public QObject
 {
