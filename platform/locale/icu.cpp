@@ -6,6 +6,9 @@
 #include <QTimeZone>
 #include <unicode/dtfmtsym.h>
 #include <unicode/dtptngen.h>
+#include <unicode/measfmt.h>
+#include <unicode/measunit.h>
+#include <unicode/measure.h>
 #include <unicode/numfmt.h>
 #include <unicode/smpdtfmt.h>
 #include <unordered_map>
@@ -222,6 +225,17 @@ QString format(const QByteArray &locale, qlonglong number)
     });
     icu::UnicodeString text;
     return format ? fromIcu(format->format(int64_t(number), text)) : QString::number(number);
+}
+
+QString formatMinutes(const QByteArray &locale, int minutes)
+{
+    UErrorCode error = U_ZERO_ERROR;
+    const icu::MeasureFormat format(icu::Locale(locale.constData()), UMEASFMT_WIDTH_SHORT, error);
+    const icu::Measure measure(minutes, icu::MeasureUnit::createMinute(error), error);
+    icu::UnicodeString text;
+    icu::FieldPosition whole;
+    format.formatMeasures(&measure, 1, text, whole, error);
+    return U_SUCCESS(error) ? fromIcu(text) : QString::number(minutes);
 }
 
 } // namespace Touch::Icu

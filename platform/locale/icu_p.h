@@ -23,5 +23,6 @@ bool isTwelveHourPattern(const QString &pattern);
 
 QString format(const QByteArray &locale, const QString &pattern, const QDateTime &dateTime);
 QString format(const QByteArray &locale, qlonglong number);
+QString formatMinutes(const QByteArray &locale, int minutes);
 
 } // namespace Touch::Icu

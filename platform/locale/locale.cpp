@@ -215,6 +215,11 @@ QString Locale::formatNumber(qlonglong number) const
     return Icu::format(d->settings.names[NumericCategory], number);
 }
 
+QString Locale::formatMinutes(int minutes) const
+{
+    return Icu::formatMinutes(d->settings.names[MessageCategory], minutes);
+}
+
 QString Locale::timeFieldName(TimeField field) const
 {
     return Icu::fieldName(d->settings.names[MessageCategory], field);

@@ -81,6 +81,8 @@ public:
     QString formatDateTimeICU(const QDateTime &dateTime, const QString &pattern) const;
     /// With the locale's digits and grouping.
     QString formatNumber(qlonglong number) const;
+    /// As short as the language has it: "5 min".
+    QString formatMinutes(int minutes) const;
     /// What the language calls it, in the form of a label: "hour".
     QString timeFieldName(TimeField field) const;
     QString toUpper(const QString &text) const;

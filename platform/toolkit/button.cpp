@@ -38,6 +38,15 @@ void Button::setText(const QString &text)
     announceName();
 }
 
+void Button::setTextShrinks(bool shrinks)
+{
+    if (m_shrinks == shrinks)
+        return;
+    m_shrinks = shrinks;
+    m_isStyled = false;
+    update();
+}
+
 void Button::setIconID(const QString &iconId)
 {
     if (m_iconId == iconId)
@@ -121,7 +130,7 @@ PreparedText &Button::prepared() const
     if (!m_isStyled) {
         m_isStyled = true;
         m_text->setStyle(style());
-        m_text->setFit(PreparedText::Fit::Shrink);
+        m_text->setFit(m_shrinks ? PreparedText::Fit::Shrink : PreparedText::Fit::Elide);
     }
     return *m_text;
 }

@@ -28,6 +28,9 @@ public:
 
     QString text() const;
     void setText(const QString &text);
+    /** Whether a text too long gets smaller before it is elided, as it does unless this is set to false. */
+    bool textShrinks() const { return m_shrinks; }
+    void setTextShrinks(bool shrinks);
     QString iconID() const { return m_iconId; }
     void setIconID(const QString &iconId);
     /** "icon" shows the icon alone, the text is then only read out; empty shows both. */
@@ -73,6 +76,7 @@ private:
     mutable bool m_isStyled = false;
     QString m_iconId;
     QString m_viewType;
+    bool m_shrinks = true;
     bool m_isCheckable = false;
     bool m_isChecked = false;
 };

@@ -213,7 +213,7 @@ void RingPage::refresh()
     const auto &front = m_alarms.constFirst();
     m_snooze->setText(RingTexts::snooze(front.snoozeSeconds));
     m_snooze->setVisible(front.snoozeSeconds > 0);
-    m_choice->refresh();
+    m_choice->refresh(front.snoozeSeconds);
     m_waiting->setAlarms(m_alarms.mid(1));
     refreshTime();
     fit();

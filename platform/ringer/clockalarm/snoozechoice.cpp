@@ -35,16 +35,17 @@ SnoozeChoice::SnoozeChoice(QGraphicsItem *parent)
         row->addItem(button);
         m_buttons.append(button);
     }
-    refresh();
 }
 
 SnoozeChoice::~SnoozeChoice() = default;
 
-void SnoozeChoice::refresh()
+void SnoozeChoice::refresh(int ownSeconds)
 {
     for (std::size_t index = 0; index < Minutes.size(); ++index) {
         auto *button = m_buttons.at(qsizetype(index));
-        button->setText(Touch::Locale::getDefault().formatNumber(Minutes[index]));
+        button->setText(Touch::Locale::getDefault().formatMinutes(Minutes[index]));
         button->setAccessibleName(RingTexts::snooze(60 * Minutes[index]));
+        button->setVisible(60 * Minutes[index] != ownSeconds);
     }
+    layout()->invalidate();
 }

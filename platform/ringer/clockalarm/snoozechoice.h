@@ -10,7 +10,7 @@ namespace Touch {
 class Button;
 }
 
-/** Other lengths of a snooze than the alarm's own, a button for each; pressing one snoozes. */
+/** Lengths of a snooze other than the alarm's own, a button for each; pressing one snoozes. */
 class SnoozeChoice : public Touch::StylableWidget
 {
     Q_OBJECT
@@ -19,8 +19,8 @@ public:
     explicit SnoozeChoice(QGraphicsItem *parent = nullptr);
     ~SnoozeChoice() override;
 
-    /** Puts the texts into the user's language and digits. */
-    void refresh();
+    /** Of an alarm that snoozes so long; with the texts in the user's language and digits. */
+    void refresh(int ownSeconds);
 
 signals:
     void chosen(int seconds);

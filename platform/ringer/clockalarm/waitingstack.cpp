@@ -32,6 +32,8 @@ WaitingStack::WaitingStack(QGraphicsItem *parent)
     for (int index = 0; index < MaximalCards; ++index) {
         auto *card = new Button;
         card->setStyleName(QStringLiteral("RingNext"));
+        // The time and the first words of each, in one size.
+        card->setTextShrinks(false);
         card->setObjectName(QStringLiteral("waiting%1").arg(index));
         connect(card, &Button::clicked, this, [this, index] { emit chosen(m_alarms.at(index).cookie); });
         column->addItem(card, Qt::AlignHCenter);
