@@ -131,7 +131,7 @@ class Phone:
     def _start_display(self):
         reader, writer = os.pipe()
         # Or it would start anew when its first client goes, and turn away whoever comes just then.
-        self._start(["Xvfb", "-displayfd", str(writer), "-screen", "0", "480x854x24", "-nolisten", "tcp", "-noreset"],
+        self._display = self._start(["Xvfb", "-displayfd", str(writer), "-screen", "0", "480x854x24", "-nolisten", "tcp", "-noreset"],
                     pass_fds=[writer], stderr=subprocess.DEVNULL)
         os.close(writer)
         with os.fdopen(reader) as answer:
@@ -220,6 +220,10 @@ class Phone:
     def process_of(self, service):
         """The number of the process behind a bus name."""
         return int(self.bus.get_object("org.freedesktop.DBus", "/").GetConnectionUnixProcessID(service))
+
+    def end_display(self):
+        self._display.kill()
+        self._display.wait()
 
     def end_bus(self):
         """As at the end of a session."""

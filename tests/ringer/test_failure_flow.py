@@ -50,6 +50,30 @@ class FailureFlow(PhoneCase):
         self.assertNotIn("failed", self.words(cookie))
         self.assertEqual(self.words(cookie).count("impaired"), 1)
 
+    def test_a_killed_ringer_leaves_no_output_open(self):
+        self.start()
+        muted = lambda: self.phone.run("pactl", "get-sink-mute", "null").strip()
+        self.phone.run("pactl", "set-sink-mute", "null", "1")
+        cookie = self.ring()
+        phone.wait_for(lambda: muted() == "Mute: no", 15, "opened for the alarm")
+        self.phone.kill("com.astel.ringer")
+        phone.wait_for(lambda: len(self.sounded(cookie)) == 2, 15, "heard again")
+        phone.wait_for(lambda: muted() == "Mute: no", 5, "opened again")
+        self.dismiss(cookie)
+        phone.wait_for(lambda: muted() == "Mute: yes", 5, "as it was")
+
+    def test_a_display_that_goes_takes_no_sound_along(self):
+        self.start()
+        cookie = self.ring()
+        phone.wait_for(lambda: self.sounded(cookie), 15, "heard")
+        gone = time.time()
+        self.phone.end_display()
+        phone.wait_for(lambda: len(self.sounded(cookie)) == 2, 10, "heard without a display")
+        self.wait_for_sound(gone + 1)
+        self.assertIn("No display: heard, not seen", [detail for _, detail in self.journal(cookie)])
+        self.dismiss(cookie)
+        phone.wait_for(self.phone.sound.is_silent, 5, "silence")
+
     def test_a_plug_in_that_is_missing(self):
         self.start()
         cookie = self.ring(PLUGIN="libmissing")

@@ -34,10 +34,9 @@ ClockAlarmPlugin::ClockAlarmPlugin()
     Touch::Locale::getDefault().connectSettings();
 }
 
-ClockAlarmPlugin::~ClockAlarmPlugin()
-{
-    delete m_window;
-}
+// A window that is left then has been left by a display that went, which ends the program; the theme that draws it has
+// gone before the plug-in does.
+ClockAlarmPlugin::~ClockAlarmPlugin() = default;
 
 void ClockAlarmPlugin::setAnswers(Ringer::Answers *answers)
 {
