@@ -92,9 +92,7 @@ Result<> BackupService::validate(const Change &change) const
     qsizetype size = m_book.textSize();
     for (const AlarmEvent &event : change.put)
         size += textSize(event.wire());
-    if (size > MaximalText)
-        return Error{Wire::LimitError, QStringLiteral("all events together hold %1 characters").arg(MaximalText)};
-    return Done{};
+    return validateTotal(size);
 }
 
 } // namespace Astel::Timed

@@ -64,9 +64,7 @@ Result<> EventService::validate(const Wire::Event &event, const QList<quint32> &
     qsizetype size = m_book.textSize() + textSize(event);
     for (const quint32 cookie : replaced)
         size -= textSize(m_book.find(cookie)->wire());
-    if (size > MaximalText)
-        return Error{Wire::LimitError, QStringLiteral("all events together hold %1 characters").arg(MaximalText)};
-    return Done{};
+    return validateTotal(size);
 }
 
 Result<quint32> EventService::store(const Wire::Event &event, const QList<quint32> &replaced)

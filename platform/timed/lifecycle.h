@@ -49,8 +49,10 @@ public:
     Result<> dismiss(quint32 cookie, const QString &by);
     /** Rings an event that was missed, also one that is not stored any more; fails where it rings already. */
     Result<> ringNow(quint32 cookie);
-    /** Snoozes an event that was stopped, as it stood then, also one that is not stored any more; fails where it rings or
-     * snoozes. Seconds. */
+    /**
+     * Snoozes an event that was stopped for so many seconds, as it stood then, also one that is not stored any more;
+     * fails where it rings or snoozes.
+     */
     Result<> ringLater(const AlarmEvent &stopped, qint64 seconds, const QString &by);
     /** The user has been told of these. */
     void tell(const QList<Miss> &misses);

@@ -121,6 +121,13 @@ qsizetype textSize(const Wire::Event &event)
     return result;
 }
 
+Result<> validateTotal(qsizetype characters)
+{
+    if (characters > MaximalText)
+        return Error{Wire::LimitError, QStringLiteral("all events together hold %1 characters").arg(MaximalText)};
+    return Done{};
+}
+
 Result<> validate(const Wire::Event &event)
 {
     if (event.oversized)

@@ -57,8 +57,7 @@ public:
     /**
      * Connects the daemon's settings-changed signal to a slot given with SLOT(), taking
      * (const Astel::Timed::WallClock::Info &, bool). The process has read its time zone again when the slot is called.
-     * False where the receiver has no such slot or there is no
-     * bus.
+     * False where the receiver has no such slot or there is no bus.
      */
     [[nodiscard]] bool settings_changed_connect(QObject *receiver, const char *slot);
 

@@ -7,17 +7,6 @@
 
 using namespace Astel::Timed;
 
-namespace {
-
-const qint64 Seven = utc("2026-11-20T06:00:00"); // in Berlin
-
-Wire::Event daily7(quint32 flags = Wire::KeepAlive)
-{
-    return daily(7, 0, flags);
-}
-
-} // namespace
-
 /** What becomes of a ringing event by an answer, or for want of one, with time in the test's hand. */
 class tst_Answers : public QObject
 {

@@ -13,8 +13,6 @@ using Notices::Notice;
 
 namespace {
 
-const qint64 Seven = utc("2026-11-20T06:00:00"); // in Berlin
-
 Wire::Event wakeUp(quint32 flags)
 {
     Wire::Event event = daily(7, 0, flags);

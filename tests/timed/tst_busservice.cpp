@@ -85,7 +85,7 @@ void tst_BusService::settingsChangedComesAfterThePublication()
     QFETCH(qint64, jump);
     QFETCH(QStringList, arrived);
 
-    World world(utc("2026-11-20T05:00:00"));
+    World world(Start);
     world.add(daily(7, 0));
     const Served served(world);
     QVERIFY(served.isThere);
@@ -100,7 +100,7 @@ void tst_BusService::settingsChangedComesAfterThePublication()
 
 void tst_BusService::eachRestoredEventIsAChangeOfItsOwn()
 {
-    World world(utc("2026-11-20T05:00:00"));
+    World world(Start);
     world.add(daily(7, 0));
     const Served served(world);
     QVERIFY(served.isThere);
@@ -117,7 +117,7 @@ void tst_BusService::eachRestoredEventIsAChangeOfItsOwn()
 
 void tst_BusService::veryManyRestoredEventsArePublishedAtOnce()
 {
-    World world(utc("2026-11-20T05:00:00"));
+    World world(Start);
     const Served served(world);
     QVERIFY(served.isThere);
     BusWatch watch(m_client);
@@ -129,7 +129,7 @@ void tst_BusService::veryManyRestoredEventsArePublishedAtOnce()
 
 void tst_BusService::aRefusedRestorePublishesNothing()
 {
-    World world(utc("2026-11-20T05:00:00"));
+    World world(Start);
     const Served served(world);
     QVERIFY(served.isThere);
     BusWatch watch(m_client);

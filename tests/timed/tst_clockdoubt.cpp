@@ -8,8 +8,6 @@ using namespace Astel::Timed;
 
 namespace {
 
-const qint64 Start = utc("2026-11-20T05:00:00"); // six in the morning in Berlin
-const qint64 Seven = utc("2026-11-20T06:00:00");
 const qint64 BuildDate = utc("2026-02-01T05:00:00");
 
 } // namespace

@@ -3,12 +3,11 @@
 #include "platform/timed/validator.h"
 #include "platform/timedclient/wire.h"
 #include "tests/support/privatebus.h"
+#include "tests/timed/daemonclient.h"
 #include "tests/timed/mainthread.h"
 #include "tests/timed/world.h"
 
 #include <functional>
-#include <QDBusConnection>
-#include <QDBusPendingReply>
 #include <QTest>
 
 using namespace Astel::Timed;
@@ -69,7 +68,7 @@ Wire::Event withText(const QString &text)
 } // namespace
 
 /** The real program and callers that mean it harm, or do not know better. */
-class tst_Hardening : public QObject
+class tst_Hardening : public QObject, private DaemonClient
 {
     Q_OBJECT
 
@@ -87,27 +86,8 @@ private slots:
     void storeTakesSoMuchTextAndNoMore();
 
 private:
-    QDBusPendingCall call(const QString &method, const QVariantList &arguments) const
-    {
-        QDBusMessage message = QDBusMessage::createMethodCall(Wire::Service, Wire::Path, Wire::Interface, method);
-        message.setArguments(arguments);
-        QDBusPendingCall pending = QDBusConnection::sessionBus().asyncCall(message);
-        pending.waitForFinished();
-        return pending;
-    }
-    QString errorOf(const QString &method, const QVariantList &arguments) const
-    {
-        return call(method, arguments).error().name();
-    }
-    uint add(const Wire::Event &event) const
-    {
-        return QDBusPendingReply<uint>(call("add_event", {QVariant::fromValue(event)})).value();
-    }
-    QVariantMap attributesOf(uint cookie) const
-    {
-        return QDBusPendingReply<QVariantMap>(call("query_attributes", {cookie})).value();
-    }
-    QVariantList cookies() const { return QDBusPendingReply<QVariantList>(call("query", {QVariantMap()})).value(); }
+    QVariantMap attributesOf(uint cookie) const { return ask<QVariantMap>("query_attributes", {cookie}); }
+    QVariantList cookies() const { return ask<QVariantList>("query", {QVariantMap()}); }
     double workDone() const { return mainThreadWork(m_daemon.processId()); }
 
     Support::PrivateBus m_bus;
@@ -124,10 +104,7 @@ void tst_Hardening::initTestCase()
 
 void tst_Hardening::cleanup()
 {
-    const auto all = cookies();
-    for (const QVariant &cookie : all)
-        call("cancel", {cookie});
-    QVERIFY(cookies().isEmpty());
+    QVERIFY(cancelAll());
 }
 
 void tst_Hardening::argumentsThatDoNotFitAreRefused_data()
@@ -215,9 +192,9 @@ void tst_Hardening::rareMomentsKeepNobodyWaiting()
     for (int i = 0; i < 20; ++i)
         QVERIFY(add(rare) > 0);
     const double before = workDone();
-    const QDBusPendingReply<QList<Wire::Trigger>> triggers = call("next_triggers", {4294967295u});
+    const auto triggers = ask<QList<Wire::Trigger>>("next_triggers", {4294967295u});
     const double work = workDone() - before;
-    QCOMPARE(triggers.value().size(), 100);
+    QCOMPARE(triggers.size(), 100);
     qInfo("answered in %.1f ms of work", work);
     // The search takes a tenth of the time in an optimised build.
     QVERIFY(work < 10 * LongestWork);
@@ -255,10 +232,10 @@ void tst_Hardening::storeTakesSoMuchTextAndNoMore()
     QVERIFY(add(daily(7, 0)) > 0);
     const uint one = cookies()[0].toUInt();
     const double before = workDone();
-    const QDBusPendingReply<uint> replaced = call("replace_event", {QVariant::fromValue(large), one});
-    QVERIFY(replaced.isValid());
+    const uint replaced = ask<uint>("replace_event", {QVariant::fromValue(large), one});
+    QVERIFY(replaced > 0);
     QVERIFY(workDone() - before < LongestWork);
-    QVERIFY(QDBusPendingReply<bool>(call("cancel", {replaced.value()})).value());
+    QVERIFY(ask<bool>("cancel", {replaced}));
     QVERIFY(add(large) > 0);
 }
 

@@ -8,15 +8,23 @@ using namespace Astel::Timed;
 
 namespace {
 
-const qint64 Seven = utc("2026-11-20T06:00:00"); // in Berlin
 constexpr qint64 FiftySixYears = 20440 * Day;
 const qint64 FarSeven = utc("2082-11-07T06:00:00"); // the first in Berlin after so many years
 
-Wire::Event daily7(quint32 days)
+Wire::Event sevenOn(quint32 days)
 {
     Wire::Event event = daily(7, 0);
     event.recurrences[0].daysOfWeek = days;
     return event;
+}
+
+/** Rings at seven and is snoozed for ten minutes at once. */
+quint32 snoozeAtSeven(World &world, quint32 flags = Wire::KeepAlive)
+{
+    const quint32 cookie = world.add(daily7(flags));
+    world.passTo(Seven);
+    (void)world.parts->life.snooze(cookie, 600, "user");
+    return cookie;
 }
 
 constexpr quint32 Fridays = 1u << 5;
@@ -111,9 +119,8 @@ void tst_Jumps::jumpWhileSnoozed()
     QFETCH(qint64, moment);
 
     World world(Seven - Hour);
-    const quint32 cookie = world.add(daily(7, 0));
-    world.passTo(Seven);
-    QVERIFY(world.parts->life.snooze(cookie, 600, "user"));
+    const quint32 cookie = snoozeAtSeven(world);
+    QCOMPARE(world.state(cookie), State::Snoozed);
     world.pass(5 * Second);
     world.store.entries.clear();
     world.setClock(world.clock.time + jump);
@@ -128,9 +135,8 @@ void tst_Jumps::jumpWhileSnoozed()
 void tst_Jumps::snoozeStaysAlignedWhenTheClockGoesBack()
 {
     World world(Seven - Hour);
-    const quint32 cookie = world.add(daily(7, 0, Wire::KeepAlive | Wire::AlignedSnooze));
-    world.passTo(Seven);
-    QVERIFY(world.parts->life.snooze(cookie, 600, "user"));
+    const quint32 cookie = snoozeAtSeven(world, Wire::KeepAlive | Wire::AlignedSnooze);
+    QCOMPARE(world.state(cookie), State::Snoozed);
     world.setClock(Seven - 2 * Day + 5 * Second);
     QCOMPARE(world.moment(cookie), std::optional(Seven - 2 * Day + 11 * Minute));
 }
@@ -154,10 +160,9 @@ void tst_Jumps::unansweredSnoozesAreCountedOnWhenTheClockGoesBack()
 void tst_Jumps::jumpByYearsLeavesASnoozeAsItIs()
 {
     World world(Seven - Hour);
-    const quint32 cookie = world.add(daily(7, 0, Wire::SingleShot | Wire::KeepAlive));
-    world.passTo(Seven);
-    QVERIFY(world.parts->life.snooze(cookie, 600, "user"));
-    world.setClock(Seven + 20440 * Day);
+    const quint32 cookie = snoozeAtSeven(world, Wire::SingleShot | Wire::KeepAlive);
+    QCOMPARE(world.state(cookie), State::Snoozed);
+    world.setClock(Seven + FiftySixYears);
     QCOMPARE(world.state(cookie), State::Snoozed);
     QCOMPARE(world.moment(cookie), std::optional(Seven + 10 * Minute));
     world.pass(Minute);
@@ -201,9 +206,8 @@ void tst_Jumps::jumpByYearsAndBackKeepsASnooze()
     QFETCH(qint64, moment);
 
     World world(Seven - Hour);
-    const quint32 cookie = world.add(daily(7, 0));
-    world.passTo(Seven);
-    QVERIFY(world.parts->life.snooze(cookie, 600, "user"));
+    const quint32 cookie = snoozeAtSeven(world);
+    QCOMPARE(world.state(cookie), State::Snoozed);
     world.ringer.rung.clear();
     world.store.entries.clear();
     world.setClock(Seven + Minute + FiftySixYears);
@@ -226,9 +230,8 @@ void tst_Jumps::jumpByYearsAndBackKeepsASnooze()
 void tst_Jumps::snoozeThatEndedBeforeTheYearsDoesNotRing()
 {
     World world(Seven - Hour);
-    const quint32 cookie = world.add(daily(7, 0));
-    world.passTo(Seven);
-    QVERIFY(world.parts->life.snooze(cookie, 600, "user"));
+    const quint32 cookie = snoozeAtSeven(world);
+    QCOMPARE(world.state(cookie), State::Snoozed);
     world.setClock(Seven + Minute + FiftySixYears);
     world.ringer.rung.clear();
     // It rang and was answered by the clock of then; what was snoozed before is served with it.
@@ -278,7 +281,7 @@ void tst_Jumps::flightOverTheDateLine()
 
     World world(utc("2026-11-20T16:30:00"));
     world.zone.current = *Rules::Zone::create(from);
-    const quint32 cookie = world.add(daily7(days));
+    const quint32 cookie = world.add(sevenOn(days));
     QCOMPARE(world.moment(cookie), std::optional(before));
     world.zone.current = *Rules::Zone::create(to);
     emit world.zone.changed();

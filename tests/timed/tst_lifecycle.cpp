@@ -10,14 +10,6 @@ using namespace Astel::Timed;
 
 namespace {
 
-const qint64 Start = utc("2026-11-20T05:00:00"); // six in the morning in Berlin
-const qint64 Seven = utc("2026-11-20T06:00:00");
-
-Wire::Event daily7(quint32 flags = Wire::KeepAlive)
-{
-    return daily(7, 0, flags);
-}
-
 Wire::Event ticker(qint64 milliseconds, quint32 flags = Wire::SingleShot | Wire::KeepAlive)
 {
     Wire::Event event;

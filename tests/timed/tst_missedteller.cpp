@@ -14,9 +14,6 @@ using Notices::Notice;
 
 namespace {
 
-const qint64 Start = utc("2026-11-20T05:00:00"); // six in the morning in Berlin
-const qint64 Seven = utc("2026-11-20T06:00:00");
-
 Wire::Event titled(const QString &title, int minute = 0, quint32 flags = Wire::KeepAlive)
 {
     Wire::Event event = daily(7, minute, flags);

@@ -15,12 +15,6 @@
 using namespace Astel::Timed;
 using Touch::Locale;
 
-namespace {
-
-const qint64 Seven = utc("2026-11-20T06:00:00"); // in Berlin
-
-} // namespace
-
 /** The texts of notices, and how they name moments. */
 class tst_NoticeTexts : public QObject
 {

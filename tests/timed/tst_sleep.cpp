@@ -7,13 +7,6 @@
 
 using namespace Astel::Timed;
 
-namespace {
-
-const qint64 Start = utc("2026-11-20T05:00:00"); // six in the morning in Berlin
-const qint64 Seven = utc("2026-11-20T06:00:00");
-
-} // namespace
-
 class tst_Sleep : public QObject
 {
     Q_OBJECT

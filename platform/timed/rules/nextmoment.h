@@ -9,8 +9,7 @@ namespace Astel::Timed::Rules {
 
 class Zone;
 
-/** Sets of wall-clock numbers as bits: bit n stands for hour, minute, weekday (0 is Sunday), day or month n.
- */
+/** Sets of wall-clock numbers as bits: bit n stands for hour, minute, weekday (0 is Sunday), day or month n. */
 struct Rule
 {
     quint32 hours = 0;
