@@ -8,6 +8,7 @@
 
 #include <QDBusConnection>
 #include <QDBusError>
+#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 
 namespace Astel::Timed {
@@ -51,6 +52,19 @@ void BusRinger::ring(quint32 cookie, const Wire::Event &event, qint64 due)
                   qUtf16Printable(error.message()));
         if (!isForWantOfAnAnswer(error))
             emit refused(cookie);
+    });
+}
+
+void BusRinger::ping()
+{
+    // Its object is described by the thread that shows and sounds, unlike a ping of the bus.
+    const auto question = QDBusMessage::createMethodCall(m_proxy->service(), m_proxy->path(),
+                                                         "org.freedesktop.DBus.Introspectable", "Introspect");
+    auto *call = new QDBusPendingCallWatcher(m_proxy->connection().asyncCall(question), this);
+    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
+        call->deleteLater();
+        if (!call->isError() || !isForWantOfAnAnswer(call->error()))
+            emit alive();
     });
 }
 

@@ -23,6 +23,7 @@ public:
 
     void ring(quint32 cookie, const Wire::Event &event, qint64 due) override;
     void stop(quint32 cookie) override;
+    void ping() override;
 
 private:
     std::unique_ptr<ComAstelRingerInterface> m_proxy;

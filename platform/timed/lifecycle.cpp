@@ -248,7 +248,7 @@ void LifeCycle::reached(quint32 cookie, Purpose purpose)
     if (!event)
         return;
     if (purpose == Purpose::Retry) {
-        m_ringing.callAgain(cookie);
+        m_ringing.retry(cookie);
         return;
     }
     AlarmEvent coming = *event;

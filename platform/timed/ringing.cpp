@@ -30,6 +30,7 @@ Ringing::Ringing(const EventBook &book, Schedule &schedule, const Clock &clock, 
 {
     connect(&ringer, &Ringer::vanished, this, &Ringing::ringerVanished);
     connect(&ringer, &Ringer::refused, this, &Ringing::ringerRefused);
+    connect(&ringer, &Ringer::alive, this, &Ringing::ringerAlive);
 }
 
 void Ringing::follow(const AlarmEvent &event)
@@ -65,7 +66,7 @@ bool Ringing::acknowledge(quint32 cookie)
         return false;
     ring->second.acknowledged = true;
     ring->second.heard = false;
-    m_schedule.clear(cookie, Purpose::Retry);
+    m_schedule.set(cookie, Purpose::Retry, m_clock.now() + LongInterval);
     m_fallback.stop(cookie);
     return true;
 }
@@ -93,19 +94,41 @@ bool Ringing::keepTrouble(quint32 cookie, const QString &trouble)
     return true;
 }
 
-void Ringing::callAgain(quint32 cookie)
+void Ringing::retry(quint32 cookie)
 {
     const auto ring = m_rings.find(cookie);
-    if (ring != m_rings.end())
+    if (ring == m_rings.end())
+        return;
+    if (ring->second.acknowledged)
+        lookAfter(cookie, ring->second);
+    else
         call(cookie, ring->second);
+}
+
+void Ringing::lookAfter(quint32 cookie, Ring &ring)
+{
+    if (std::exchange(ring.pinged, true)) {
+        // It hangs, and more quick calls would hang with it.
+        ring.calls = QuickCalls;
+        call(cookie, ring);
+        return;
+    }
+    m_schedule.set(cookie, Purpose::Retry, m_clock.now() + TimeToAcknowledge);
+    m_ringer.ping();
+}
+
+void Ringing::ringerAlive()
+{
+    for (auto &[cookie, ring] : m_rings) {
+        if (ring.acknowledged && std::exchange(ring.pinged, false))
+            m_schedule.set(cookie, Purpose::Retry, m_clock.now() + LongInterval);
+    }
 }
 
 void Ringing::clockSet()
 {
-    for (const auto &[cookie, ring] : m_rings) {
-        if (!ring.acknowledged)
-            m_schedule.set(cookie, Purpose::Retry, m_clock.now() + TimeToAcknowledge);
-    }
+    for (const auto &[cookie, ring] : m_rings)
+        m_schedule.set(cookie, Purpose::Retry, m_clock.now() + TimeToAcknowledge);
 }
 
 void Ringing::call(quint32 cookie, Ring &ring)
@@ -115,10 +138,10 @@ void Ringing::call(quint32 cookie, Ring &ring)
         return;
     ++ring.calls;
     ring.acknowledged = false;
+    ring.pinged = false;
     ring.heard = ring.heard && ring.calls > QuickCalls + 1;
     if (ring.calls == QuickCalls + 1) {
-        qCCritical(lcTimed, "the ringer does not ring alarm %u after %d calls, the fallback does; calling on", cookie,
-                   QuickCalls);
+        qCCritical(lcTimed, "the ringer does not ring alarm %u, the fallback does; calling on", cookie);
         emit ringerSilent(cookie, QuickCalls);
     }
     const qint64 patience = ring.calls <= QuickCalls ? TimeToAcknowledge : LongInterval;

@@ -16,8 +16,8 @@ class Schedule;
 
 /**
  * Sees to it that what is to ring does ring: calls the ringer, and calls it again when it does not say within five
- * seconds that it rings, goes away, or cannot be called at all. When several calls were in vain, the fallback rings until
- * the ringer does.
+ * seconds that it rings, goes away, or cannot be called at all. When several calls were in vain, or one that rang gives
+ * no sign of life any more, the fallback rings until the ringer does.
  */
 class Ringing : public QObject
 {
@@ -35,8 +35,8 @@ public:
     bool acknowledgeSound(quint32 cookie);
     /** Something is not as it should be; true for what is new, of which there are some for each ringing. */
     bool keepTrouble(quint32 cookie, const QString &trouble);
-    /** The time for acknowledging is over. */
-    void callAgain(quint32 cookie);
+    /** The time for acknowledging is over, or it is time to look after the ringer. */
+    void retry(quint32 cookie);
     /** Moments from before do not count any more. */
     void clockSet();
 
@@ -45,7 +45,8 @@ signals:
     void begun();
     /** Nothing rings any more. */
     void ended();
-    /** The ringer was called several times and is silent; it is called on at longer intervals, the fallback rings. */
+    /** The ringer was called several times, or pinged, and is silent; it is called on at longer intervals, the fallback
+     * rings. */
     void ringerSilent(quint32 cookie, int calls);
     /** The ringer went away while this alarm rings. */
     void ringerGone(quint32 cookie);
@@ -54,6 +55,7 @@ private:
     struct Ring
     {
         bool acknowledged = false;
+        bool pinged = false; ///< no sign of life came since
         bool heard = false;
         int calls = 0;
         QStringList troubles;
@@ -61,6 +63,8 @@ private:
 
     void begin(quint32 cookie, Ring &ring);
     void call(quint32 cookie, Ring &ring);
+    void lookAfter(quint32 cookie, Ring &ring);
+    void ringerAlive();
     void ringerVanished();
     void ringerRefused(quint32 cookie);
 

@@ -16,7 +16,7 @@ class WakeTimer;
 enum class Purpose {
     Due,     ///< it rings
     RingEnd, ///< nobody answered
-    Retry,   ///< the ringer has not said that it rings
+    Retry,   ///< the ringer has not said that it rings, or is to be looked after
 };
 
 /**

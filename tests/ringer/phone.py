@@ -138,9 +138,9 @@ class Phone:
             self.environment["DISPLAY"] = ":" + answer.readline().strip()
 
     def _start_sound(self, socket):
-        self._start(["pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1",
-                     "--log-level=error", "-L", "module-null-sink sink_name=null", "-L",
-                     f"module-native-protocol-unix auth-anonymous=1 socket={socket}"])
+        self.sound_server = self._start(
+            ["pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1", "--log-level=error", "-L",
+             "module-null-sink sink_name=null", "-L", f"module-native-protocol-unix auth-anonymous=1 socket={socket}"])
         wait_for(socket.exists, 10, "sound server")
         self.sound = Recorder(self.environment)
         wait_for(lambda: self.sound.loudest(0.1) is not None, 10, "recording")

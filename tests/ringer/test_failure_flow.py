@@ -5,7 +5,9 @@
 
     test_failure_flow.py BUILD-FOLDER
 """
+import os
 import pathlib
+import signal
 import sys
 import time
 import unittest
@@ -73,6 +75,29 @@ class FailureFlow(PhoneCase):
         self.assertIn("No display: heard, not seen", [detail for _, detail in self.journal(cookie)])
         self.dismiss(cookie)
         phone.wait_for(self.phone.sound.is_silent, 5, "silence")
+
+    def test_a_ringer_that_hangs_while_it_rings(self):
+        self.start()
+        cookie = self.ring()
+        phone.wait_for(lambda: self.sounded(cookie), 15, "heard")
+        ringer = self.phone.process_of("com.astel.ringer")
+        os.kill(ringer, signal.SIGSTOP)
+        self.addCleanup(os.kill, ringer, signal.SIGCONT)
+        self.wait_for_word(cookie, "failed", 30)
+        phone.wait_for(lambda: len(self.sounded(cookie)) == 2, 10, "the fallback heard")
+        self.wait_for_sound(self.sounded(cookie)[-1])
+
+    def test_a_sound_server_that_hangs_is_no_reason_to_be_unseen(self):
+        self.start()
+        self.phone.sound_server.send_signal(signal.SIGSTOP)
+        self.addCleanup(self.phone.sound_server.send_signal, signal.SIGCONT)
+        cookie = self.ring()
+        self.wait_for_word(cookie, "rang", 10)
+        self.assertRegex(self.wait_for_word(cookie, "impaired", 20), "the sound server hangs")
+        self.assertTrue(self.phone.ring_window())
+        self.phone.sound_server.send_signal(signal.SIGCONT)
+        self.wait_for_word(cookie, "sounded", 10)
+        self.assertNotIn("failed", self.words(cookie))
 
     def test_a_plug_in_that_is_missing(self):
         self.start()

@@ -81,7 +81,13 @@ public:
 
     void ring(quint32 cookie, const Astel::Timed::Wire::Event &event, qint64 due) override;
     void stop(quint32 cookie) override { stopped.append(cookie); }
+    void ping() override
+    {
+        if (!hangs)
+            emit alive();
+    }
 
+    bool hangs = false;
     QList<quint32> rung;
     QList<quint32> stopped;
     QList<qint64> moments;

@@ -15,6 +15,7 @@ private slots:
     void ringsWhenTheRingerWasCalledInVain();
     void ringsAtOnceWhenTheRingerCannotBeCalled();
     void oneRefusalIsNoReasonToRing();
+    void ringsWhenARingerThatRangHangs();
     void fallsSilentWhenTheRingerRings();
     void fallsSilentWhenTheAlarmIsAnswered();
     void soundIsWrittenDownOnceForEachRinging();
@@ -68,6 +69,29 @@ void tst_Fallback::oneRefusalIsNoReasonToRing()
     QCOMPARE(world.ringer.rung.size(), 2);
     world.passTo(Seven + Minute);
     QVERIFY(world.fallback.rung.isEmpty());
+}
+
+void tst_Fallback::ringsWhenARingerThatRangHangs()
+{
+    World world(Start);
+    const quint32 cookie = world.add(daily(7, 0));
+    world.passTo(Seven);
+    QVERIFY(world.parts->life.rings(cookie));
+    QVERIFY(world.parts->life.sounds(cookie, "tone.aac"));
+    world.passTo(Seven + 40 * Second);
+    QVERIFY(world.fallback.rung.isEmpty());
+    // Asked for a sign of life every quarter of a minute, it has five seconds for it.
+    world.ringer.hangs = true;
+    world.passTo(Seven + 50 * Second - 1);
+    QVERIFY(world.fallback.rung.isEmpty());
+    world.passTo(Seven + 50 * Second);
+    QCOMPARE(world.fallback.rung, QList<quint32>{cookie});
+    QCOMPARE(world.ringer.rung.size(), 2);
+    QCOMPARE(world.store.words(), (QStringList{"due", "rang", "sounded", "failed"}));
+    world.ringer.hangs = false;
+    world.fallback.stopped.clear();
+    QVERIFY(world.parts->life.rings(cookie));
+    QCOMPARE(world.fallback.stopped, QList<quint32>{cookie});
 }
 
 void tst_Fallback::fallsSilentWhenTheRingerRings()
