@@ -16,7 +16,7 @@ using Touch::Locale;
 namespace {
 
 constexpr qreal LineGap = 2;
-/** How small, as a share of its size, the repeat text gets to fit. */
+/** How small, as a share of its designed size, the repeat text gets to fit. */
 constexpr qreal SmallestShare = 0.75;
 /** With larger text than that, what the alarm is called stands below its time. */
 constexpr qreal LargestScaleInLine = 1.25;
@@ -214,7 +214,8 @@ Touch::Style AlarmListItem::repeatStyle() const
 {
     Touch::Style style = *partStyle(*this, QStringLiteral("AlarmItemRepeat"));
     const QSizeF room = repeatRoom();
-    const int smallest = qRound(SmallestShare * style.pixelSize);
+    const int designed = style.designedPixelSize > 0 ? style.designedPixelSize : style.pixelSize;
+    const int smallest = qRound(SmallestShare * designed);
     while (style.pixelSize > smallest && wrappedHeight(style, m_subText, room.width()) > room.height())
         --style.pixelSize;
     return style;

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/style.h"
 
+#include <QFontMetricsF>
+#include <QtMath>
+
 namespace Touch {
 
 namespace {
@@ -38,8 +41,18 @@ QFont Style::font() const
     return font;
 }
 
+QFont Style::fittedFont(const QString &text, qreal width) const
+{
+    QFont fitted = font();
+    const qreal natural = QFontMetricsF(fitted).horizontalAdvance(text);
+    if (designedPixelSize > 0 && natural > width)
+        fitted.setPixelSize(qBound(designedPixelSize, qFloor(pixelSize * width / natural), pixelSize));
+    return fitted;
+}
+
 void Style::scaleText(qreal factor)
 {
+    designedPixelSize = pixelSize;
     pixelSize += qRound(gain(pixelSize) * (factor - 1));
     if (!scalesWithText)
         return;

@@ -21,6 +21,7 @@ struct Style
     // Type
     QStringList fontFamilies;
     int pixelSize = 17;
+    int designedPixelSize = 0; ///< before the user's factor; 0 if there is none
     int weight = QFont::Normal;
     qreal letterSpacing = 0;
     bool tabularDigits = false; ///< all digits take the width of the widest one
@@ -54,6 +55,8 @@ struct Style
     Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
 
     QFont font() const;
+    /** The font; where that has enlarged a text past this width, as large as fits, but not smaller than designed. */
+    QFont fittedFont(const QString &text, qreal width) const;
     /** Makes text larger by the user's factor, large text by less of it; see scalesWithText. */
     void scaleText(qreal factor);
 };

@@ -18,8 +18,8 @@ namespace Touch {
 namespace {
 
 constexpr ushort firstComplexCharacter = 0x0250;
-/** How small, as a share of its size, a text gets to fit. */
-constexpr qreal smallestShare = 0.7;
+/** How small, as a share of its designed size, a text gets to fit. */
+constexpr qreal smallestDesignedShare = 0.7;
 constexpr qreal endless = 1'000'000;
 
 /** Glyphs of a plain text in which each digit takes the width of the widest digit. */
@@ -77,6 +77,7 @@ void PreparedText::setText(const QString &text)
 void PreparedText::setStyle(const Style &style)
 {
     m_font = style.font();
+    m_designedShare = style.designedPixelSize > 0 ? qMin(1.0, qreal(style.designedPixelSize) / style.pixelSize) : 1;
     m_hasTabularDigits = style.tabularDigits;
     m_width = -1;
 }
@@ -116,17 +117,28 @@ qreal PreparedText::minimumWidth() const
 bool PreparedText::fits(const QSizeF &size) const
 {
     const QSizeF natural = naturalSize(size.width());
-    const qreal share = m_fit == Fit::Shrink ? smallestShare : 1;
-    return natural.width() * share <= std::ceil(size.width()) && natural.height() <= std::ceil(size.height());
+    return natural.width() * smallestShare() <= std::ceil(size.width()) && natural.height() <= std::ceil(size.height());
 }
 
 QFont PreparedText::fittedFont(qreal width) const
 {
     QFont font = m_font;
     const qreal natural = naturalSize().width();
-    if (m_fit == Fit::Shrink && natural > width)
-        font.setPixelSize(qFloor(font.pixelSize() * qMax(smallestShare, width / natural)));
+    if (smallestShare() < 1 && natural > width)
+        font.setPixelSize(qFloor(font.pixelSize() * qMax(smallestShare(), width / natural)));
     return font;
+}
+
+qreal PreparedText::smallestShare() const
+{
+    switch (m_fit) {
+    case Fit::Elide:
+        return m_designedShare;
+    case Fit::Shrink:
+        return m_designedShare * smallestDesignedShare;
+    default:
+        return 1;
+    }
 }
 
 void PreparedText::prepare(qreal width) const

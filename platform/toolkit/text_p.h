@@ -20,7 +20,10 @@ struct Style;
 class PreparedText
 {
 public:
-    /** What is done about a text that is too wide; one that shrinks is elided where it would get too small. */
+    /**
+     * What is done about a text that is too wide. What the user's size of text has enlarged is rather drawn in the
+     * designed size than elided; one that shrinks may get smaller than that, too.
+     */
     enum class Fit { Elide, Shrink, Clip, Wrap };
 
     void setText(const QString &text);
@@ -41,10 +44,12 @@ public:
 private:
     void prepare(qreal width) const;
     QFont fittedFont(qreal width) const;
+    qreal smallestShare() const;
     bool isTabular() const;
 
     QString m_text;
     QFont m_font;
+    qreal m_designedShare = 1;
     bool m_hasTabularDigits = false;
     Fit m_fit = Fit::Elide;
     Qt::Alignment m_lines;

@@ -13,6 +13,9 @@ namespace Touch {
 
 namespace {
 
+/** What QLineEdit keeps free before and behind its text. */
+constexpr qreal LineMargin = 2;
+
 QPalette editPalette(const Style &style)
 {
     QPalette palette;
@@ -42,6 +45,7 @@ TextEdit::TextEdit(const QString &text, QGraphicsItem *parent)
     setFocusProxy(m_proxy);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(&InputMethodState::instance(), &InputMethodState::extendedAttributeChanged, this, &TextEdit::followToolbar);
+    connect(m_edit, &QLineEdit::textChanged, this, &TextEdit::fitFont);
     connect(m_edit, &QLineEdit::textChanged, this, &TextEdit::textChanged);
     connect(m_edit, &QLineEdit::returnPressed, this, &TextEdit::returnPressed);
     connect(m_proxy, &LineEditProxy::gainedFocus, this, [this](Qt::FocusReason reason) {
@@ -83,6 +87,7 @@ QString TextEdit::prompt() const
 void TextEdit::setPrompt(const QString &prompt)
 {
     m_edit->setPlaceholderText(prompt);
+    fitFont();
 }
 
 int TextEdit::maxLength() const
@@ -150,7 +155,6 @@ void TextEdit::applyStyle()
     if (m_isStyled)
         return;
     m_isStyled = true;
-    m_edit->setFont(style().font());
     m_edit->setPalette(editPalette(style()));
     // The line edit follows its text; when mirrored, any text starts on the right.
     const bool isMirrored = layoutDirection() == Qt::RightToLeft;
@@ -161,6 +165,19 @@ void TextEdit::applyStyle()
 void TextEdit::placeEdit()
 {
     m_proxy->setGeometry(paddedRect());
+    fitFont();
+}
+
+// What is typed can be scrolled, a prompt cannot.
+void TextEdit::fitFont()
+{
+    const QString shown = text().isEmpty() ? prompt() : QString();
+    m_edit->setFont(style().fittedFont(shown, paddedRect().width() - 2 * LineMargin));
+}
+
+bool TextEdit::showsWholePrompt() const
+{
+    return QFontMetricsF(m_edit->font()).horizontalAdvance(prompt()) <= paddedRect().width() - 2 * LineMargin;
 }
 
 bool TextEdit::event(QEvent *event)

@@ -28,6 +28,8 @@ public:
     /** Shown while the text is empty. */
     QString prompt() const;
     void setPrompt(const QString &prompt);
+    /** The prompt, where it is shown, is not cut off. */
+    bool showsWholePrompt() const;
     /** In characters; what is longer is cut. */
     int maxLength() const;
     void setMaxLength(int length);
@@ -61,6 +63,7 @@ protected:
 private:
     void applyStyle();
     void placeEdit();
+    void fitFont();
     void followToolbar();
 
     LineEditProxy *m_proxy;

@@ -50,6 +50,7 @@ private slots:
     void asksForTheWidthOfItsText();
     void keepsItsWidthWhileDigitsChange();
     void isWiderWithLargerText();
+    void isRatherAsDesignedThanElided();
 
 private:
     Label *makeLabel(const QString &text, const QSizeF &size);
@@ -223,6 +224,21 @@ void TestLabel::isWiderWithLargerText()
     Theme::instance().setTextScale(2);
     const qreal larger = label->effectiveSizeHint(Qt::PreferredSize).width() / width;
     QVERIFY2(larger > 1.9 && larger < 2.1, qPrintable(QString::number(larger)));
+}
+
+void TestLabel::isRatherAsDesignedThanElided()
+{
+    Label *label = makeLabel(english, {400, 80});
+    const qreal designed = label->effectiveSizeHint(Qt::PreferredSize).width();
+    Theme::instance().setTextScale(2);
+    for (const qreal width : {designed, 1.5 * designed}) {
+        label->resize(width, 80);
+        QVERIFY(label->showsWholeText());
+        const QRect ink = inkOf(pictureOf(label));
+        QVERIFY2(ink.width() > 0.9 * width && ink.width() <= width, qPrintable(QString::number(ink.width())));
+    }
+    label->resize(0.9 * designed, 80);
+    QVERIFY(!label->showsWholeText());
 }
 
 QTEST_MAIN(TestLabel)

@@ -5,11 +5,13 @@
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/sheet.h"
 #include "platform/toolkit/textedit.h"
+#include "platform/toolkit/theme.h"
 #include "touch.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -38,6 +40,7 @@ private slots:
     void whatIsBeingComposedStaysWhenTheFocusGoes();
     void whatTheInputMethodGaveUpIsNotTaken();
     void showsItsPromptOnlyWhileEmpty();
+    void showsAllOfAnEnlargedPrompt();
     void isReachedByTab();
     void letsEscapeThrough();
 
@@ -246,6 +249,20 @@ void TestTextEdit::whatTheInputMethodGaveUpIsNotTaken()
     compose(QString());
     m_edit->commit();
     QCOMPARE(m_edit->text(), QString());
+}
+
+void TestTextEdit::showsAllOfAnEnlargedPrompt()
+{
+    m_edit->setText({});
+    m_edit->setPrompt(QStringLiteral("MMMMMMMMMM"));
+    const QFont designed = m_edit->style().font();
+    m_edit->resize(QFontMetricsF(designed).horizontalAdvance(m_edit->prompt()) + 60, m_edit->size().height());
+    QVERIFY(m_edit->showsWholePrompt());
+    Theme::instance().setTextScale(2);
+    const auto restore = qScopeGuard([] { Theme::instance().setTextScale(1); });
+    QVERIFY(m_edit->showsWholePrompt());
+    m_edit->resize(120, m_edit->size().height());
+    QVERIFY(!m_edit->showsWholePrompt());
 }
 
 void TestTextEdit::showsItsPromptOnlyWhileEmpty()
