@@ -59,7 +59,12 @@ QRectF StopControl::knobRect() const
 
 bool StopControl::showsWholeText() const
 {
-    return QFontMetricsF(style().font()).horizontalAdvance(hint()) <= hintRect().width();
+    return QFontMetricsF(hintFont()).horizontalAdvance(hint()) <= hintRect().width();
+}
+
+QFont StopControl::hintFont() const
+{
+    return style().fittedFont(hint(), hintRect().width());
 }
 
 // Beside the knob, where there is one.
@@ -117,7 +122,9 @@ QSizeF StopControl::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
     if (which == Qt::MaximumSize)
         return Widget::sizeHint(which, constraint);
     const QFontMetricsF metrics(style().font());
-    return styledSize(which, {metrics.horizontalAdvance(hint()), metrics.height()});
+    // Large words must not push it, and the answers above it, out of a narrow screen.
+    const auto width = which == Qt::MinimumSize ? 0 : metrics.horizontalAdvance(hint());
+    return styledSize(which, {width, metrics.height()});
 }
 
 void StopControl::mousePressEvent(QGraphicsSceneMouseEvent *event)
@@ -256,13 +263,14 @@ void StopControl::paintTrack(QPainter *painter)
 void StopControl::paintText(QPainter *painter)
 {
     const auto room = hintRect();
-    painter->setFont(style().font());
+    const auto font = hintFont();
+    painter->setFont(font);
     auto color = style().color;
     // The knob comes over the words.
     if (m_gesture == StopGesture::Slide)
         color.setAlphaF(color.alphaF() * float(std::max(0.0, 1 - 2 * m_progress)));
     painter->setPen(color);
-    const QFontMetricsF metrics(style().font());
+    const QFontMetricsF metrics(font);
     painter->drawText(room, Qt::AlignCenter, metrics.elidedText(hint(), Qt::ElideRight, room.width()));
 }
 

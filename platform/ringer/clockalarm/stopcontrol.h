@@ -59,6 +59,7 @@ private:
 
     [[nodiscard]] QString hint() const;
     [[nodiscard]] QRectF hintRect() const;
+    [[nodiscard]] QFont hintFont() const;
     [[nodiscard]] bool isMirrored() const { return layoutDirection() == Qt::RightToLeft; }
     [[nodiscard]] double way() const;
     void paintTrack(QPainter *painter);
