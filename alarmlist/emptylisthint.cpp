@@ -6,8 +6,12 @@
 #include "platform/toolkit/label.h"
 #include "platform/toolkit/layout.h"
 #include "platform/toolkit/linearlayoutpolicy.h"
+#include "platform/toolkit/theme.h"
 
 namespace {
+
+/** Larger text needs the room of the picture. */
+constexpr qreal LargestScaleWithImage = 1.5;
 
 Touch::Label *line(const QString &text, const QString &styleName)
 {
@@ -22,20 +26,28 @@ Touch::Label *line(const QString &text, const QString &styleName)
 
 EmptyListHint::EmptyListHint(QGraphicsItem *parent)
     : Touch::StylableWidget(parent)
+    , m_image(new Touch::ImageWidget)
 {
     setStyleName("AlarmsEmptyHint");
     setAcceptedMouseButtons(Qt::NoButton);
-    auto *image = new Touch::ImageWidget;
-    image->setStyleName("AlarmsEmptyHintImage");
-    image->setImage("icon-m-clock-no-alarms");
+    m_image->setStyleName("AlarmsEmptyHintImage");
+    m_image->setImage("icon-m-clock-no-alarms");
 
     auto *layout = new Touch::Layout(this);
     auto *policy = new Touch::LinearLayoutPolicy(layout, Qt::Vertical);
     policy->setStyleName("AlarmsEmptyHintLayout");
     policy->addStretch();
-    policy->addItem(image, Qt::AlignHCenter);
+    policy->addItem(m_image, Qt::AlignHCenter);
     policy->addItem(line(qtTrId("qtn_cloc_no_alarms"), "AlarmsEmptyHintTitle"));
     policy->addItem(line(qtTrId("qtn_cloc_no_alarms_hint"), "AlarmsEmptyHintText"));
     policy->addStretch();
     layout->setPolicy(policy);
+    EmptyListHint::styleChanged();
+}
+
+// Words before pictures.
+void EmptyListHint::styleChanged()
+{
+    StylableWidget::styleChanged();
+    m_image->setVisible(Touch::Theme::instance().textScale() <= LargestScaleWithImage);
 }

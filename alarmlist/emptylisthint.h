@@ -4,6 +4,10 @@
 
 #include "platform/toolkit/stylablewidget.h"
 
+namespace Touch {
+class ImageWidget;
+}
+
 /** Says in the place of an empty list how to make the first alarm. It takes no input. GUI thread. */
 class EmptyListHint : public Touch::StylableWidget
 {
@@ -11,4 +15,10 @@ class EmptyListHint : public Touch::StylableWidget
 
 public:
     explicit EmptyListHint(QGraphicsItem *parent = nullptr);
+
+protected:
+    void styleChanged() override;
+
+private:
+    Touch::ImageWidget *m_image;
 };

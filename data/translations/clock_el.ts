@@ -20,11 +20,11 @@
     </message>
     <message id="qtn_cloc_no_alarms">
         <source>No alarms yet</source>
-        <translation>Κανένα ξυπνητήρι ακόμα</translation>
+        <translation>Κανένα ξυπνητήρι</translation>
     </message>
     <message id="qtn_cloc_no_alarms_hint">
         <source>Tap + to add your first one.</source>
-        <translation>Πατήστε + για να προσθέσετε το πρώτο.</translation>
+        <translation>Πατήστε + για να βάλετε ένα.</translation>
     </message>
     <message id="qtn_cloc_alarm_title">
         <source>Alarm</source>
