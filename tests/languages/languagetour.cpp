@@ -27,7 +27,6 @@
 
 #include <algorithm>
 #include <QApplication>
-#include <QFontMetricsF>
 #include <QLabel>
 #include <QPushButton>
 #include <QSettings>
@@ -125,8 +124,7 @@ void LanguageTour::look(const QString &what, QGraphicsView *window)
         if (alarm && !alarm->showsWholeSubText())
             m_findings << what + ": " + alarm->subText();
         const auto *field = qobject_cast<const Touch::TextEdit *>(object);
-        if (field
-            && QFontMetricsF(field->style().font()).horizontalAdvance(field->prompt()) > field->paddedRect().width())
+        if (field && field->text().isEmpty() && !field->showsWholePrompt())
             m_findings << what + ": " + field->prompt();
     }
     keepPicture(what, window);

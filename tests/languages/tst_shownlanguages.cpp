@@ -33,17 +33,22 @@ void TestShownLanguages::initTestCase()
 void TestShownLanguages::allTextsAreSeen_data()
 {
     QTest::addColumn<QString>("language");
-    for (const QString &language : builtLanguages())
-        QTest::newRow(qPrintable(language)) << language;
+    QTest::addColumn<QString>("textScale");
+    for (const QString &language : builtLanguages()) {
+        QTest::newRow(qPrintable(language)) << language << "1";
+        QTest::newRow(qPrintable(language + ", text of double size")) << language << "2";
+    }
 }
 
 void TestShownLanguages::allTextsAreSeen()
 {
     QFETCH(QString, language);
+    QFETCH(QString, textScale);
     QProcess show;
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert("LC_ALL", language + ".UTF-8");
     environment.insert("CLOCK_REDUCED_MOTION", "1");
+    environment.insert("CLOCK_TEXT_SCALE", textScale);
     show.setProcessEnvironment(environment);
     show.start(QCoreApplication::applicationDirPath() + "/showlanguage", {language, m_pictures.path()});
     QVERIFY(show.waitForFinished(60'000));
