@@ -15,6 +15,7 @@ constexpr uint QuietVolume = 25;
 
 constexpr auto DaemonSubject = "alarm daemon";
 constexpr auto StorageSubject = "storage";
+constexpr qint64 EnoughRoom = 1024 * 1024; // bytes
 const auto NotKnown = QStringLiteral("not known");
 
 std::optional<qint64> momentIn(const QVariantMap &facts, const char *name)
@@ -100,6 +101,8 @@ Finding storage(const QVariantMap &daemon)
         return {Mark::Warning, StorageSubject, "sound, but was damaged and has been restored from a snapshot"};
     if (!daemon.value("store_writable", true).toBool())
         return {Mark::Warning, StorageSubject, "sound, but read-only: no change is taken"};
+    if (daemon.value("store_free", EnoughRoom).toLongLong() < EnoughRoom)
+        return {Mark::Warning, StorageSubject, "sound, but the disk is full: a change may not be taken"};
     return {Mark::Good, StorageSubject, "sound"};
 }
 

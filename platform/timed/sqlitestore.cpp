@@ -8,8 +8,10 @@
 #include "platform/timedclient/eventcodec.h"
 
 #include <cstdlib>
+#include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlError>
+#include <QStorageInfo>
 
 namespace Astel::Timed {
 
@@ -169,6 +171,7 @@ QVariantMap SqliteStore::facts() const
     QVariantMap facts{{"store_path", m_database->path()},
                       {"store_integrity", m_snapshots.integrity()},
                       {"store_writable", !m_database->isReadOnly()},
+                      {"store_free", QStorageInfo(QFileInfo(m_database->path()).path()).bytesAvailable()},
                       {"store_restored", m_database->wasRestored()}};
     QSqlQuery query("SELECT restored FROM counter", m_database->connection());
     if (query.next() && !query.value(0).isNull())

@@ -35,6 +35,7 @@ HealthFacts healthy()
                                {"boot_ready", true},
                                {"missed_untold", 0u},
                                {"store_writable", true},
+                               {"store_free", Q_INT64_C(1048576)},
                                {"store_integrity", "ok"},
                                {"store_restored", false}};
     facts.next = NextAlarm{12, Due, "Work", "/tones/own.aac", "libclockalarm"};
@@ -135,6 +136,7 @@ void addRowsOfStoredThings()
         "misses unknown", [](HealthFacts &facts) { facts.daemon->remove("missed_untold"); }, "missed alarms",
         Mark::Good, "not known");
     row("read-only store", daemonSays("store_writable", false), "storage", Mark::Warning, "sound, but read-only");
+    row("full disk", daemonSays("store_free", Q_INT64_C(4096)), "storage", Mark::Warning, "the disk is full");
     row("damaged store", daemonSays("store_integrity", "page 3 is torn"), "storage", Mark::Bad,
         "damaged: page 3 is torn");
     row("restored store", daemonSays("store_restored", true), "storage", Mark::Warning, "restored");

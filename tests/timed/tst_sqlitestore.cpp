@@ -182,6 +182,7 @@ void tst_SqliteStore::snapshotKeepsNobodyWaiting()
     qInfo("begun after %lld ms, changed after %lld ms, written after %lld ms", begun, changed, time.elapsed());
     QVERIFY(begun < time.elapsed() / 2);
     QCOMPARE(store->facts().value("store_integrity").toString(), "ok");
+    QVERIFY(store->facts().value("store_free").toLongLong() > 0);
 }
 
 void tst_SqliteStore::snapshotMovesTheLogIntoTheFile()
