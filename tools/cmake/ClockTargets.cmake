@@ -145,6 +145,20 @@ endfunction()
 # All tests that run under the sanitizers as well.
 add_custom_target(core-tests)
 
+# clock_test_moc(NAME SOURCE...): what each tst_*.cpp includes at its end. AUTOMOC would find nothing else, and compile an
+# empty file besides.
+function(clock_test_moc name)
+    set(folder ${CMAKE_CURRENT_BINARY_DIR}/${name}.dir)
+    list(FILTER ARGN INCLUDE REGEX "^tst_")
+    foreach(source IN LISTS ARGN)
+        string(REGEX REPLACE "cpp$" "moc" output ${folder}/${source})
+        qt_generate_moc(${source} ${output} TARGET ${name})
+        target_sources(${name} PRIVATE ${output})
+    endforeach()
+    target_include_directories(${name} PRIVATE ${folder})
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+endfunction()
+
 # clock_test(NAME SOURCES ... LINK ... [LABELS ...] [TIMEOUT SECONDS]): one Qt test program and its CTest entry.
 # Tests run offscreen, see the staged data and a home of their own; the label "core" puts a test into the sanitizer run.
 function(clock_test name)
@@ -153,6 +167,9 @@ function(clock_test name)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     target_link_libraries(${name} PRIVATE Qt6::Test test-places ${arg_LINK} clock-flags)
     clock_precompiled(${name})
+    if(NOT arg_SOURCES MATCHES "\\.h(;|$)")
+        clock_test_moc(${name} ${arg_SOURCES})
+    endif()
     add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/support/in-own-home $<TARGET_FILE:${name}>)
     if("core" IN_LIST arg_LABELS)
         add_dependencies(core-tests ${name})
