@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Clock authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 # lint.sh [BASE]: one line OK or FAIL per check. clang-tidy looks at the .cpp files changed since BASE (the commit before
-# the last one unless given); everything else looks at the whole tree. Needs a configured and built build/dev.
+# the last one unless given); everything else looks at the whole tree. Needs a configured and built build/dev. A check
+# that found nothing is repeated once a file of the tree, a command of the build or a package of the system is another.
 set -u
 cd "$(dirname "$0")/.." || exit 1
 base=${1:-$(git rev-parse --quiet --verify HEAD~1 || git hash-object -t tree /dev/null)}
@@ -11,12 +12,28 @@ log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 failed=0
 
+python3 tools/plain_commands.py "$build" || exit 1
+state=$({
+    git ls-files -z --cached --others --exclude-standard | xargs -0 sha1sum 2>/dev/null
+    sha1sum "$build/plain/compile_commands.json" /var/lib/dpkg/status
+    git rev-parse "$base"
+} | sha1sum)
+mkdir -p "$build/lint"
+
 check() {
     name=$1
     shift
+    passed=$build/lint/$(printf '%s' "$name" | tr -cs 'a-zA-Z0-9' -)
+    if [ "$(cat "$passed" 2>/dev/null)" = "$state" ]; then
+        echo "OK   $name (as before: nothing has changed)"
+        return
+    fi
+    began=$(date +%s)
     if "$@" >"$log" 2>&1; then
-        echo "OK   $name"
+        echo "$state" >"$passed"
+        echo "OK   $name ($(($(date +%s) - began)) s)"
     else
+        rm -f "$passed"
         echo "FAIL $name"
         tail -n 60 "$log"
         failed=1
@@ -27,13 +44,13 @@ sources() {
     git ls-files --cached --others --exclude-standard '*.cpp' '*.h'
 }
 format() {
-    sources | xargs clang-format-14 --dry-run --Werror
+    sources | xargs -P "$(nproc)" -n 40 clang-format-14 --dry-run --Werror
 }
 # Generated headers, below build/, are not ours to mend.
 folders='app|mainview|alarms|alarmlist|editor|backup|platform|alarmctl|tests'
 tidy() {
     changed=$(git diff --name-only --diff-filter=d "$base" -- '*.cpp' | grep -v '^bench/' || true)
-    [ -z "$changed" ] || echo "$changed" | xargs -P "$(nproc)" -n 2 clang-tidy-14 --quiet -p "$build/plain" \
+    [ -z "$changed" ] || echo "$changed" | xargs -P "$(nproc)" -n 1 clang-tidy-14 --quiet -p "$build/plain" \
         --header-filter="^$PWD/($folders)/.*\.h\$"
 }
 licence_heads() {
@@ -50,7 +67,6 @@ no_sleep_in_tests() {
     ! git grep -nE 'QTest::qWait\(|QTest::qSleep|QThread::m?sleep|usleep\(|sleep_for|time\.sleep\(' -- tests
 }
 
-python3 tools/plain_commands.py "$build" || exit 1
 check "format: clang-format 14" format
 check "includes: docs/architecture.md is obeyed" python3 tools/check_includes.py
 check "headers: each compiles alone" python3 tools/check_headers.py "$build"
