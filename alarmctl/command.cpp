@@ -9,24 +9,23 @@ namespace {
 const Option Json{"json", "", "print JSON instead of text"};
 const Option Count{"count", "N", "how many, 1 to 1000; 1 unless given"};
 
-const auto HealthDetails = QStringLiteral(
-    "The first line is the answer. The others say what it rests on, each marked \"ok\", \"warning\" (the alarm is\n"
-    "heard, but not as it should be, or not always) or \"bad\" (it is not heard): the next alarm, whether the timer "
-    "is\n"
-    "armed for it and wakes the device from sleep and from off, the sound output and its volume, the tone of that "
-    "alarm, the ringer and its\n"
-    "screen, the storage, missed alarms nobody was told of; then how the last five rings ended. Makes no sound. JSON "
-    "has the same as objects, and the\n"
-    "facts of daemon and ringer as they told them; its moments are in milliseconds since the epoch.\n"
-    "\n"
-    "Exit status: 0 all is well, or no alarm is set; 1 something would keep the next alarm from being heard;\n"
-    "2 wrong usage.\n");
-const auto JournalDetails = QStringLiteral(
-    "A line tells when an alarm was due, and with the seconds that had passed since: whether it woke the device, when\n"
-    "it was on the screen (\"rang\"), with what tone it was heard (\"sounded\"), and by what it was answered, or why "
-    "it\n"
-    "was missed. JSON has an object for each of these, oldest first, with its moment in milliseconds since the "
-    "epoch.\n");
+const auto HealthDetails
+    = QStringLiteral("The first line is the answer. The others say what it rests on, each marked \"ok\",\n"
+                     "\"warning\" (the alarm is heard, but not as it should be, or not always) or \"bad\" (it\n"
+                     "is not heard): the next alarm, whether the timer is armed for it and wakes the device\n"
+                     "from sleep and from off, the sound output and its volume, the tone of that alarm, the\n"
+                     "ringer and its screen, the storage, missed alarms nobody was told of; then how the\n"
+                     "last five rings ended. Makes no sound. JSON has the same as objects, and the facts of\n"
+                     "daemon and ringer as they told them; its moments are in milliseconds since the epoch.\n"
+                     "\n"
+                     "Exit status: 0 all is well, or no alarm is set; 1 something would keep the next alarm\n"
+                     "from being heard; 2 wrong usage.\n");
+const auto JournalDetails
+    = QStringLiteral("A line tells when an alarm was due, and with the seconds that had passed since:\n"
+                     "whether it woke the device, when it was on the screen (\"rang\"), with what tone it was\n"
+                     "heard (\"sounded\"), and by what it was answered, or why it was missed. JSON has an\n"
+                     "object for each of these, oldest first, with its moment in milliseconds since the\n"
+                     "epoch.\n");
 
 QList<Command> alarmCommands()
 {
@@ -117,7 +116,7 @@ QList<Command> reportCommands()
         {"journal",
          "",
          "Shows what happened to the alarms, a line for each time one was due.",
-         {{"since", "MOMENT", "only what happened since: 2026-11-20, 2026-11-20T07:30, or seconds since the epoch"},
+         {{"since", "MOMENT", "only what happened since: a date, 2026-11-20T07:30, or seconds since the epoch"},
           {"count", "N", "only the last so many, 1 to 1000"},
           Json},
          {"journal --since 2026-11-20", "journal --count 10"},

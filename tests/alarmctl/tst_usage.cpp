@@ -71,6 +71,8 @@ void UsageTest::helpsWithEveryCommand()
     QCOMPARE(run.exitCode, 0);
     QVERIFY(run.output.startsWith("Usage: alarmctl " + command));
     QVERIFY(run.output.contains("Examples:\n  alarmctl " + command));
+    for (const QString &line : run.lines())
+        QVERIFY2(line.size() <= 100, qPrintable(line));
 }
 
 void UsageTest::refusesNonsenseWithAHintAndChangesNothing_data()
@@ -133,14 +135,13 @@ void UsageTest::refusesNonsenseWithAHintAndChangesNothing()
     QFETCH(const QByteArray, arguments);
     QFETCH(const QString, complaint);
     QFETCH(const QString, hint);
-    const QString before = alarmctl("list --json").output;
     const Run run = alarmctl(arguments);
     QCOMPARE(run.exitCode, 2);
     QCOMPARE(run.output, "");
     QCOMPARE(run.errorLines().size(), 2);
     QVERIFY2(run.errorLines().first().contains(complaint), qPrintable(run.errors));
     QVERIFY2(run.errorLines().last().contains(hint), qPrintable(run.errors));
-    QCOMPARE(alarmctl("list --json").output, before);
+    QCOMPARE(alarmctl("list --json").output, "[]\n");
 }
 
 void UsageTest::refusesAToneThatIsNotThere()
