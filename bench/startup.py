@@ -5,7 +5,8 @@
 
 Prints the time from the start of the application to its mapped window (from the X server's MapNotify), its
 proportional set size once it is idle, the time that a second start takes to hand over and end, then the same start
-and sizes of application and daemon with that many alarms. Runs on a display, a bus and in a home of its own. Needs Xvfb, xev, dbus-daemon and python3-dbus.
+and sizes of application and daemon with that many alarms. Runs on a display, a bus and in a home of its own. Needs
+Xvfb, xev, dbus-daemon and python3-dbus.
 """
 
 import argparse
