@@ -23,7 +23,7 @@ class Utility : public QObject
 public:
     static Utility *instance();
 
-    /** Starts to follow the triggers; once in a process. */
+    /** Starts to follow the triggers, once more with each call: once is enough for a process. */
     void subscribeToContextFramework();
     /** Whether the snapshot has been read at least once. */
     bool isTriggerMapReceived() const;

@@ -7,6 +7,7 @@
 #include <QDBusMessage>
 #include <QDBusReply>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTest>
 
 namespace {
@@ -159,6 +160,8 @@ void TestStartup::theBackupParticipantIsKnownToOtherPrograms()
                             "restoreStarts(out y ); restoreFinished(out y ); signals: properties: };");
     const QString introspected = gdbus({"introspect", "/backupclient"});
     QVERIFY2(introspected.contains(interface), qPrintable(introspected));
+    static const QRegularExpression standard("interface org\\.freedesktop\\.DBus\\.");
+    QCOMPARE(introspected.count("interface "), introspected.count(standard) + 1);
     for (const char *method : {"backupStarts", "backupFinished", "restoreStarts", "restoreFinished"}) {
         const QString name = QString("com.korvo.backupclient.%1").arg(method);
         QCOMPARE(gdbus({"call", "/backupclient", "--method", name}), "(byte 0x00,)");

@@ -5,12 +5,14 @@
 #include "alarmlist/alarmswidget.h"
 #include "alarmlist/notices/informationbanner.h"
 #include "platform/clockwidgets/worldclock.h"
+#include "platform/locale/locale.h"
 #include "platform/timedclient/wire.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/banner.h"
 #include "platform/toolkit/layout.h"
 #include "platform/toolkit/linearlayoutpolicy.h"
 #include "platform/toolkit/pannableviewport.h"
+#include "platform/toolkit/theme.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/look/items.h"
 #include "tests/support/look/look.h"
@@ -21,6 +23,7 @@
 #include <QMetaMethod>
 #include <QPainter>
 #include <QPointer>
+#include <QTemporaryFile>
 #include <QTest>
 
 using Touch::ApplicationPage;
@@ -34,6 +37,7 @@ private slots:
     void init();
     void aNewPageHasNoContentAndNoChrome();
     void itsCataloguesAreInstalledSoundsAfterCountries();
+    void theDefaultLocaleBecomesThatOfTheSystem();
     void contentIsCreatedOnceWhenItAppears();
     void eachArrangementHoldsItsItemsWithoutMargins();
     void theAlarmsTakeTheRoomThatIsLeft();
@@ -45,6 +49,7 @@ private slots:
     void resettingResetsTheAlarmList();
     void everySettingsChangeReadsTheAlarmsOnce();
     void theSlotKeepsItsSignature();
+    void onlyThePortraitsSpacingIsTheStyles();
     void theBannerEndsWithThePage();
 
 private:
@@ -105,6 +110,16 @@ void TestMashupPage::itsCataloguesAreInstalledSoundsAfterCountries()
     QCOMPARE(qtTrId("test_countries"), "from countries");
     QCOMPARE(qtTrId("test_sounds"), "from sounds");
     QCOMPARE(qtTrId("test_both"), "sounds first");
+}
+
+void TestMashupPage::theDefaultLocaleBecomesThatOfTheSystem()
+{
+    const Touch::Locale system;
+    const Touch::Locale other(system.language() == "fi" ? QStringLiteral("de") : QStringLiteral("fi"));
+    Touch::Locale::setDefault(other);
+    QCOMPARE(Touch::Locale::getDefault().language(), other.language());
+    m_page->appear(m_window.get());
+    QCOMPARE(Touch::Locale::getDefault().language(), system.language());
 }
 
 void TestMashupPage::contentIsCreatedOnceWhenItAppears()
@@ -236,7 +251,7 @@ void TestMashupPage::everySettingsChangeReadsTheAlarmsOnce()
     for (int count = 1; count <= 2; ++count) {
         auto changed
             = QDBusMessage::createSignal(Astel::Timed::Wire::Path, Astel::Timed::Wire::Interface, "settings_changed");
-        changed << QVariant::fromValue(Astel::Timed::WallClock::Info{"Europe/Berlin", 3600, false}) << true;
+        changed << QVariant::fromValue(Astel::Timed::WallClock::Info{"Europe/Berlin", 3600, false}) << (count == 1);
         QVERIFY(QDBusConnection::sessionBus().send(changed));
         QTRY_COMPARE(log.lines().filter("AlarmsWidget::updateContent() entered").size(), count);
     }
@@ -251,6 +266,24 @@ void TestMashupPage::theSlotKeepsItsSignature()
     QCOMPARE(slot.parameterNames().value(1), "timechanged");
 }
 
+// Late, as a theme file stays.
+void TestMashupPage::onlyThePortraitsSpacingIsTheStyles()
+{
+    m_page->appear(m_window.get());
+    QTemporaryFile theme;
+    QVERIFY(theme.open());
+    theme.write(R"({ "styles": { "ClockMainViewLayout": { "spacing": 12, "padding": [1, 2, 3, 4] } } })");
+    theme.close();
+    QString error;
+    QVERIFY2(Touch::Theme::instance().load(theme.fileName(), &error), qPrintable(error));
+    const auto *layout = static_cast<Touch::Layout *>(m_page->centralWidget()->layout());
+    QCOMPARE(layout->portraitPolicy()->spacing(), 12.0);
+    QCOMPARE(layout->landscapePolicy()->spacing(), 0.0);
+    QCOMPARE(layout->portraitPolicy()->contentsMargins(), QMarginsF());
+    QCOMPARE(layout->landscapePolicy()->contentsMargins(), QMarginsF());
+}
+
+// Last, as no page may end after it.
 void TestMashupPage::theBannerEndsWithThePage()
 {
     m_page->appear(m_window.get());
