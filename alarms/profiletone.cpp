@@ -3,13 +3,12 @@
 #include "alarms/profiletone_p.h"
 
 #include "app/settings.h"
-#include "platform/sound/profile/soundprofile.h"
 
 namespace Clock {
 
-QString profileTone(const QString &customProfile, const QString &vendorProfile)
+QString profileTone(const ProfileReader &read)
 {
-    const auto named = Sound::profileValue({customProfile, vendorProfile}, Settings::ProfileToneKey);
+    const auto named = read({Settings::CustomProfile, Settings::VendorProfile}, Settings::ProfileToneKey);
     return named.value_or(Settings::BuiltInTone);
 }
 

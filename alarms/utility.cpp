@@ -7,6 +7,7 @@
 #include "app/settings.h"
 #include "platform/context/contextproperty.h"
 #include "platform/locale/locale.h"
+#include "platform/sound/profile/soundprofile.h"
 
 #include <QDebug>
 
@@ -109,7 +110,7 @@ void Utility::timeLeftForAlarmToTrigger(const time_t &alarmTime, QString &text)
 
 QString Utility::defaultAlertTone()
 {
-    return profileTone(Settings::CustomProfile, Settings::VendorProfile);
+    return profileTone(&Sound::profileValue);
 }
 
 } // namespace Clock

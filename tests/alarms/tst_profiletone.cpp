@@ -2,16 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "alarms/profiletone_p.h"
 #include "alarms/utility.h"
+#include "platform/sound/profile/soundprofile.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
-
-namespace {
-
-const char BuiltIn[] = "/usr/share/sounds/ring-tones/Clock alert 1.aac";
-
-} // namespace
 
 /** In which order it asks, and what it falls back to; how a profile is read is tests/sound/tst_soundprofile's. */
 class ProfileToneTest : public QObject
@@ -19,44 +12,44 @@ class ProfileToneTest : public QObject
     Q_OBJECT
 
 private slots:
-    void isTheFirstThatIsNamed_data();
-    void isTheFirstThatIsNamed();
-    void comesFromTheProfilesOfTheSystem();
+    void asksTheCustomisationBeforeTheVendor();
+    void isWhatTheProfileNames_data();
+    void isWhatTheProfileNames();
+    void isWhatTheSystemsProfileSays();
 };
 
-void ProfileToneTest::isTheFirstThatIsNamed_data()
+void ProfileToneTest::asksTheCustomisationBeforeTheVendor()
 {
-    QTest::addColumn<QByteArray>("custom"); // null: there is no such file
-    QTest::addColumn<QByteArray>("vendor");
+    QStringList asked;
+    Clock::profileTone([&](const QStringList &files, const QString &key) {
+        asked = files + QStringList{key};
+        return std::optional<QString>();
+    });
+    QCOMPARE(asked,
+             QStringList({"/etc/profiled/97.custom.ini", "/etc/profiled/93.korvo.ini", "fallback/clock.alert.tone"}));
+}
+
+void ProfileToneTest::isWhatTheProfileNames_data()
+{
+    QTest::addColumn<std::optional<QString>>("named");
     QTest::addColumn<QString>("tone");
 
-    const QByteArray own = "[fallback]\nclock.alert.tone=/tones/Own tone.aac\n";
-    const QByteArray theirs = "[fallback]\nclock.alert.tone=/tones/Theirs.aac\n";
-    QTest::newRow("the customisation wins") << own << theirs << "/tones/Own tone.aac";
-    QTest::newRow("only the vendor") << QByteArray() << theirs << "/tones/Theirs.aac";
-    QTest::newRow("the customisation names it empty") << QByteArray("[fallback]\nclock.alert.tone=\n") << theirs << "";
-    QTest::newRow("no files") << QByteArray() << QByteArray() << BuiltIn;
+    using Named = std::optional<QString>;
+    QTest::newRow("a tone") << Named("/tones/Own tone.aac") << "/tones/Own tone.aac";
+    QTest::newRow("an empty text") << Named("") << "";
+    QTest::newRow("nothing") << Named() << "/usr/share/sounds/ring-tones/Clock alert 1.aac";
 }
 
-void ProfileToneTest::isTheFirstThatIsNamed()
+void ProfileToneTest::isWhatTheProfileNames()
 {
-    QFETCH(const QByteArray, custom);
-    QFETCH(const QByteArray, vendor);
+    QFETCH(const std::optional<QString>, named);
     QFETCH(const QString, tone);
-    const QTemporaryDir folder;
-    const auto write = [&](const QString &name, const QByteArray &content) {
-        QFile file(folder.filePath(name));
-        if (!content.isNull() && file.open(QIODevice::WriteOnly))
-            file.write(content);
-        return file.fileName();
-    };
-    QCOMPARE(Clock::profileTone(write("custom.ini", custom), write("vendor.ini", vendor)), tone);
+    QCOMPARE(Clock::profileTone([&](const QStringList &, const QString &) { return named; }), tone);
 }
 
-void ProfileToneTest::comesFromTheProfilesOfTheSystem()
+void ProfileToneTest::isWhatTheSystemsProfileSays()
 {
-    QCOMPARE(Clock::Utility::defaultAlertTone(),
-             Clock::profileTone("/etc/profiled/97.custom.ini", "/etc/profiled/93.korvo.ini"));
+    QCOMPARE(Clock::Utility::defaultAlertTone(), Clock::profileTone(&Sound::profileValue));
 }
 
 QTEST_APPLESS_MAIN(ProfileToneTest)
