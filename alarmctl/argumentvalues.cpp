@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "alarmctl/argumentvalues.h"
 
+#include "alarmctl/texts.h"
+
 #include <QDateTime>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -37,7 +39,6 @@ Result<QTime> parseTime(const QString &text)
 
 Result<QList<int>> parseDays(const QString &text)
 {
-    static const QStringList names{"sun", "mon", "tue", "wed", "thu", "fri", "sat"};
     const QString lower = text.toLower();
     if (lower == "never")
         return QList<int>();
@@ -47,10 +48,10 @@ Result<QList<int>> parseDays(const QString &text)
         return QList<int>{1, 2, 3, 4, 5};
     QList<int> days;
     for (const QString &name : lower.split(',')) {
-        const auto day = int(names.indexOf(name));
+        const auto day = int(dayNames().indexOf(name));
         if (day < 0)
             return wrongUsage(QStringLiteral("\"%1\" is not a day; days are %2, or daily, weekdays or never")
-                                  .arg(name, names.join(',')));
+                                  .arg(name, dayNames().join(',')));
         if (!days.contains(day))
             days.append(day);
     }

@@ -88,7 +88,7 @@ QList<Command> momentCommands()
          {"next", "next --count 5 --json"},
          runNext},
         {"when",
-         "HH:MM",
+         "HH:MM --zone ZONE --after EPOCH",
          "Computes, without the daemon, when an alarm rings: seconds since the epoch.",
          rule,
          {"when 02:30 --zone Europe/Berlin --after 1774699200",

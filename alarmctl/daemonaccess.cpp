@@ -5,6 +5,7 @@
 #include "alarmctl/trace.h"
 #include "alarms/qmalarm.h"
 #include "alarms/utility.h"
+#include "platform/timedclient/interface.h"
 
 #include <QDBusConnection>
 #include <QEventLoop>
@@ -101,4 +102,20 @@ Result<> removeAlarm(quint32 cookie)
     if (!Clock::QmAlarm().deleteEvent(cookie))
         return because(QStringLiteral("alarm %1 was not removed").arg(cookie));
     return Done();
+}
+
+QMap<quint32, QString> titlesOf(const QList<RingRecord> &records)
+{
+    QMap<quint32, QDBusPendingReply<QVariantMap>> replies;
+    Astel::Timed::Interface timed;
+    for (const RingRecord &record : records) {
+        if (!replies.contains(record.cookie))
+            replies.insert(record.cookie, timed.query_attributes(record.cookie));
+    }
+    QMap<quint32, QString> titles;
+    for (auto reply = replies.cbegin(); reply != replies.cend(); ++reply) {
+        if (const auto attributes = answerOf(*reply); attributes && attributes->contains("TITLE"))
+            titles.insert(reply.key(), attributes->value("TITLE").toString());
+    }
+    return titles;
 }

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "alarmctl/ringrecord.h"
 #include "alarms/qmalarmevent.h"
 #include "platform/commandline/result.h"
 
 #include <QDBusPendingReply>
 #include <QList>
+#include <QMap>
 
 /** Succeeds once the daemon answered and the triggers it publishes are known. */
 Result<> reachDaemon();
@@ -21,6 +23,9 @@ Result<quint32> addAlarm(Clock::QmAlarmEvent &alarm);
 /** The new cookie of the alarm. */
 Result<quint32> replaceAlarm(Clock::QmAlarmEvent &alarm);
 Result<> removeAlarm(quint32 cookie);
+
+/** The titles of the alarms that rang; those that are not stored, or cannot be asked for, are left out. */
+QMap<quint32, QString> titlesOf(const QList<RingRecord> &records);
 
 /** What a call of the daemon answered, waited for. */
 template <typename Value>

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr qint64 NanosecondsOfMillisecond = 1000000;
 // The timer is read back some time after it was armed, and tells its remaining time.
 constexpr qint64 ArmingTolerance = 2000;
 constexpr uint QuietVolume = 25;
@@ -23,7 +22,7 @@ std::optional<qint64> momentIn(const QVariantMap &facts, const char *name)
     const auto fact = facts.constFind(QLatin1String(name));
     if (fact == facts.cend())
         return {};
-    return qint64(fact->toULongLong()) / NanosecondsOfMillisecond;
+    return millisecondsOf(fact->toULongLong());
 }
 
 QString textIn(const QVariantMap &facts, const char *name)

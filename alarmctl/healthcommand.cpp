@@ -72,7 +72,7 @@ void printAll(const HealthFacts &facts, const Verdict &verdict, const QList<Find
 
 Result<> runHealth(const CommandLine &line)
 {
-    if (Result<> plain = line.withoutPositionals(); !plain)
+    if (const Result<> plain = line.withoutPositionals(); !plain)
         return plain;
     const HealthFacts facts = gatherHealthFacts();
     const QList<Finding> findings = findingsOf(facts);

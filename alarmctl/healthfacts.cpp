@@ -3,6 +3,7 @@
 #include "alarmctl/healthfacts.h"
 
 #include "alarmctl/daemonaccess.h"
+#include "alarmctl/texts.h"
 #include "platform/timedclient/interface.h"
 #include "platform/timedclient/ringerclient.h"
 
@@ -15,13 +16,7 @@ namespace Wire = Astel::Timed::Wire;
 
 namespace {
 
-constexpr quint64 NanosecondsOfMillisecond = 1000000;
 constexpr qsizetype ShownRings = 5;
-
-qint64 milliseconds(const Wire::Trigger &trigger)
-{
-    return qint64(trigger.moment / NanosecondsOfMillisecond);
-}
 
 QString text(const QVariantMap &attributes, const char *name)
 {
@@ -35,7 +30,7 @@ std::optional<Wire::Trigger> nextTrigger(Interface &timed, const HealthFacts &fa
     const auto triggers = answerOf(timed.next_triggers(ringing + 1));
     if (!triggers)
         return {};
-    const auto isAhead = [&facts](const Wire::Trigger &trigger) { return milliseconds(trigger) > facts.now; };
+    const auto isAhead = [&facts](const Wire::Trigger &trigger) { return millisecondsOf(trigger.moment) > facts.now; };
     const auto next = std::find_if(triggers->begin(), triggers->end(), isAhead);
     return next != triggers->end() ? std::optional(*next) : std::nullopt;
 }
@@ -47,7 +42,7 @@ std::optional<NextAlarm> nextAlarm(Interface &timed, const HealthFacts &facts)
         return {};
     const auto attributes = answerOf(timed.query_attributes(trigger->cookie));
     const QVariantMap known = attributes ? *attributes : QVariantMap();
-    return NextAlarm{trigger->cookie, milliseconds(*trigger), text(known, "TITLE"), text(known, "sound"),
+    return NextAlarm{trigger->cookie, millisecondsOf(trigger->moment), text(known, "TITLE"), text(known, "sound"),
                      text(known, "PLUGIN")};
 }
 
@@ -87,20 +82,4 @@ HealthFacts gatherHealthFacts()
     askDaemon(facts);
     askRinger(facts);
     return facts;
-}
-
-QMap<quint32, QString> titlesOf(const QList<RingRecord> &records)
-{
-    QMap<quint32, QDBusPendingReply<QVariantMap>> replies;
-    Interface timed;
-    for (const RingRecord &record : records) {
-        if (!replies.contains(record.cookie))
-            replies.insert(record.cookie, timed.query_attributes(record.cookie));
-    }
-    QMap<quint32, QString> titles;
-    for (auto reply = replies.cbegin(); reply != replies.cend(); ++reply) {
-        if (const auto attributes = answerOf(*reply); attributes && attributes->contains("TITLE"))
-            titles.insert(reply.key(), text(*attributes, "TITLE"));
-    }
-    return titles;
 }

@@ -34,6 +34,3 @@ struct HealthFacts
 
 /** Asks the daemon and the ringer; what does not answer is told in the facts. Takes some seconds at most. */
 HealthFacts gatherHealthFacts();
-
-/** The titles of these alarms; those that are not stored, or cannot be asked for, are left out. */
-QMap<quint32, QString> titlesOf(const QList<RingRecord> &records);

@@ -3,8 +3,8 @@
 #include "alarmctl/argumentvalues.h"
 #include "alarmctl/command.h"
 #include "alarmctl/daemonaccess.h"
-#include "alarmctl/healthfacts.h"
 #include "alarmctl/output.h"
+#include "alarmctl/ringrecord.h"
 #include "platform/timedclient/interface.h"
 
 #include <algorithm>
@@ -17,10 +17,10 @@ constexpr qint64 MillisecondsOfSecond = 1000;
 
 Result<QList<RingRecord>> recordsOf(const CommandLine &line)
 {
-    const Result<qint64> since = parseMoment(line.has("since") ? line.value("since") : "0");
+    const Result<qint64> since = parseMoment(line.value("since", "0"));
     if (!since)
         return since.problem();
-    const Result<quint32> count = parseCount(line.has("count") ? line.value("count") : "1");
+    const Result<quint32> count = parseCount(line.value("count", "1"));
     if (!count)
         return count.problem();
     const auto entries = answerOf(Astel::Timed::Interface().journal(*since * MillisecondsOfSecond));
@@ -52,7 +52,7 @@ QJsonArray jsonOf(const QList<RingRecord> &records)
 
 Result<> runJournal(const CommandLine &line)
 {
-    if (Result<> plain = line.withoutPositionals(); !plain)
+    if (const Result<> plain = line.withoutPositionals(); !plain)
         return plain;
     const Result<QList<RingRecord>> records = recordsOf(line);
     if (!records)

@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr quint64 NanosecondsOfMillisecond = 1000000;
-
 void printText(const QByteArray &text)
 {
     std::fputs(text.constData(), stdout);
@@ -23,10 +21,9 @@ void printText(const QByteArray &text)
 
 QString daysText(const QList<int> &days)
 {
-    static const QStringList names{"sun", "mon", "tue", "wed", "thu", "fri", "sat"};
     QStringList texts;
     for (const int day : days)
-        texts.append(names.value(day, "?"));
+        texts.append(dayNames().value(day, "?"));
     return texts.isEmpty() ? QStringLiteral("once") : texts.join(',');
 }
 
@@ -79,13 +76,14 @@ void printJson(const QJsonObject &object)
     printText(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
-void printCookies(const QList<quint32> &cookies, bool json)
+void printNumbers(const QList<qint64> &numbers, bool json)
 {
     QJsonArray array;
-    for (const quint32 cookie : cookies) {
-        array.append(qint64(cookie));
-        if (!json)
-            printLine(QString::number(cookie));
+    for (const qint64 number : numbers) {
+        if (json)
+            array.append(number);
+        else
+            printLine(QString::number(number));
     }
     if (json)
         printJson(array);
@@ -102,9 +100,4 @@ void printAlarms(const QList<Clock::QmAlarmEvent> &alarms, bool json)
     }
     if (json)
         printJson(array);
-}
-
-QString momentText(quint64 nanoseconds)
-{
-    return localMoment(qint64(nanoseconds / NanosecondsOfMillisecond));
 }

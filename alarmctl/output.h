@@ -15,9 +15,6 @@ void printLine(const QString &line);
 void printJson(const QJsonArray &array);
 void printJson(const QJsonObject &object);
 
-/** Cookies, one on a line, or as an array of numbers. */
-void printCookies(const QList<quint32> &cookies, bool json);
+/** One on a line, or as an array. */
+void printNumbers(const QList<qint64> &numbers, bool json);
 void printAlarms(const QList<Clock::QmAlarmEvent> &alarms, bool json);
-
-/** "2026-11-20 07:30:00", local. */
-QString momentText(quint64 nanoseconds);

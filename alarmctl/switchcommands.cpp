@@ -20,7 +20,7 @@ Result<> switchAlarms(const CommandLine &line, bool on)
     const Result<QList<Clock::QmAlarmEvent>> alarms = namedAlarms(line);
     if (!alarms)
         return alarms.problem();
-    QList<quint32> cookies;
+    QList<qint64> cookies;
     for (Clock::QmAlarmEvent alarm : *alarms) {
         if (alarm.isEnabled() == on) {
             cookies.append(alarm.cookie());
@@ -34,7 +34,7 @@ Result<> switchAlarms(const CommandLine &line, bool on)
             return cookie.problem();
         cookies.append(*cookie);
     }
-    printCookies(cookies, line.has("json"));
+    printNumbers(cookies, line.has("json"));
     return Done();
 }
 

@@ -4,6 +4,18 @@
 
 #include <QDateTime>
 
+const QStringList &dayNames()
+{
+    static const QStringList names{"sun", "mon", "tue", "wed", "thu", "fri", "sat"};
+    return names;
+}
+
+qint64 millisecondsOf(quint64 nanoseconds)
+{
+    constexpr quint64 nanosecondsOfMillisecond = 1000000;
+    return qint64(nanoseconds / nanosecondsOfMillisecond);
+}
+
 QString localMoment(qint64 milliseconds)
 {
     return QDateTime::fromMSecsSinceEpoch(milliseconds).toString("yyyy-MM-dd HH:mm:ss");

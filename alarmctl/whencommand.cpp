@@ -29,7 +29,7 @@ Result<Rule> ruleOf(const CommandLine &line)
     const Result<QTime> time = parseTime(line.positionals().first());
     if (!time)
         return time.problem();
-    const Result<QList<int>> days = parseDays(line.has("days") ? line.value("days") : "daily");
+    const Result<QList<int>> days = parseDays(line.value("days", "daily"));
     if (!days)
         return days.problem();
     if (days->isEmpty())
@@ -45,18 +45,6 @@ Result<Rule> ruleOf(const CommandLine &line)
     return rule;
 }
 
-void printMoments(const QList<qint64> &moments, bool json)
-{
-    QJsonArray array;
-    for (const qint64 moment : moments) {
-        array.append(moment);
-        if (!json)
-            printLine(QString::number(moment));
-    }
-    if (json)
-        printJson(array);
-}
-
 } // namespace
 
 Result<> runWhen(const CommandLine &line)
@@ -69,7 +57,7 @@ Result<> runWhen(const CommandLine &line)
     const Result<qint64> after = parseEpoch(line.value("after"));
     if (!after)
         return after.problem();
-    const Result<quint32> count = parseCount(line.has("count") ? line.value("count") : "1");
+    const Result<quint32> count = parseCount(line.value("count", "1"));
     if (!count)
         return count.problem();
     QString error;
@@ -80,7 +68,7 @@ Result<> runWhen(const CommandLine &line)
     std::optional<qint64> moment = *after;
     while (moments.size() < *count && (moment = Astel::Timed::Rules::nextMoment(*rule, *zone, *moment)))
         moments.append(*moment);
-    printMoments(moments, line.has("json"));
+    printNumbers(moments, line.has("json"));
     if (moments.isEmpty())
         return failure("there is no such moment");
     if (moments.size() < *count)

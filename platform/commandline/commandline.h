@@ -22,7 +22,11 @@ public:
     static Result<CommandLine> parse(const QStringList &arguments, const QList<Option> &options);
 
     bool has(const QString &option) const { return m_options.contains(option); }
-    QString value(const QString &option) const { return m_options.value(option); }
+    /** What was given for an option, or else the fallback. */
+    QString value(const QString &option, const QString &fallback = {}) const
+    {
+        return m_options.value(option, fallback);
+    }
     const QStringList &positionals() const { return m_positionals; }
     /** A problem if there is a positional argument. */
     Result<> withoutPositionals() const;

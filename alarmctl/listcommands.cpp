@@ -4,6 +4,7 @@
 #include "alarmctl/command.h"
 #include "alarmctl/daemonaccess.h"
 #include "alarmctl/output.h"
+#include "alarmctl/texts.h"
 #include "app/settings.h"
 #include "platform/context/contextproperty.h"
 #include "platform/timedclient/interface.h"
@@ -18,7 +19,7 @@ void printTriggers(const QVariantMap &triggers, bool json)
 {
     QStringList texts;
     for (auto trigger = triggers.cbegin(); trigger != triggers.cend(); ++trigger)
-        texts.append(trigger.key() + ' ' + momentText(trigger->toULongLong()));
+        texts.append(trigger.key() + ' ' + localMoment(millisecondsOf(trigger->toULongLong())));
     if (json)
         printJson(QJsonObject::fromVariantMap(triggers));
     else
@@ -29,7 +30,7 @@ void printTriggers(const QVariantMap &triggers, bool json)
 
 Result<> runList(const CommandLine &line)
 {
-    if (Result<> plain = line.withoutPositionals(); !plain)
+    if (const Result<> plain = line.withoutPositionals(); !plain)
         return plain;
     const Result<QList<Clock::QmAlarmEvent>> alarms = loadAlarms();
     if (!alarms)
@@ -40,9 +41,9 @@ Result<> runList(const CommandLine &line)
 
 Result<> runNext(const CommandLine &line)
 {
-    if (Result<> plain = line.withoutPositionals(); !plain)
+    if (const Result<> plain = line.withoutPositionals(); !plain)
         return plain;
-    const Result<quint32> count = parseCount(line.has("count") ? line.value("count") : "1");
+    const Result<quint32> count = parseCount(line.value("count", "1"));
     if (!count)
         return count.problem();
     const auto triggers = answerOf(Astel::Timed::Interface().next_triggers(*count));
@@ -52,7 +53,7 @@ Result<> runNext(const CommandLine &line)
     for (const Astel::Timed::Wire::Trigger &trigger : *triggers) {
         array.append(QJsonObject{{"cookie", qint64(trigger.cookie)}, {"nextTrigger", qint64(trigger.moment)}});
         if (!line.has("json"))
-            printLine(QStringLiteral("%1  %2").arg(trigger.cookie, 5).arg(momentText(trigger.moment)));
+            printLine(QStringLiteral("%1  %2").arg(trigger.cookie, 5).arg(localMoment(millisecondsOf(trigger.moment))));
     }
     if (line.has("json"))
         printJson(array);
@@ -61,9 +62,9 @@ Result<> runNext(const CommandLine &line)
 
 Result<> runWatch(const CommandLine &line)
 {
-    if (Result<> plain = line.withoutPositionals(); !plain)
+    if (const Result<> plain = line.withoutPositionals(); !plain)
         return plain;
-    if (Result<> reached = reachDaemon(); !reached)
+    if (const Result<> reached = reachDaemon(); !reached)
         return reached;
     ContextProperty triggers(Settings::TriggerProperty);
     const bool json = line.has("json");
