@@ -20,19 +20,19 @@ Result<> applyAlarmOptions(const CommandLine &line, Clock::QmAlarmEvent &alarm)
     if (line.has("days")) {
         const Result<QList<int>> days = parseDays(line.value("days"));
         if (!days)
-            return days.problem();
+            return days.error();
         changed.setRepeatDays(*days);
     }
     if (line.has("snooze")) {
         const Result<int> snooze = parseSnooze(line.value("snooze"));
         if (!snooze)
-            return snooze.problem();
+            return snooze.error();
         changed.setSnooze(*snooze);
     }
     if (line.has("tone")) {
         const Result<QString> tone = parseTone(line.value("tone"));
         if (!tone)
-            return tone.problem();
+            return tone.error();
         changed.setTone(*tone);
     }
     alarm = changed;

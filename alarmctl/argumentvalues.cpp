@@ -91,7 +91,7 @@ Result<QList<quint32>> parseCookies(const QStringList &texts)
     for (const QString &text : texts) {
         const Result<quint32> cookie = parseCookie(text);
         if (!cookie)
-            return cookie.problem();
+            return cookie.error();
         if (!cookies.contains(*cookie))
             cookies.append(*cookie);
     }

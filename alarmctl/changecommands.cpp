@@ -41,7 +41,7 @@ Result<> applyEdits(const CommandLine &line, Clock::QmAlarmEvent &alarm)
     if (line.has("time")) {
         const Result<QTime> wanted = parseTime(line.value("time"));
         if (!wanted)
-            return wanted.problem();
+            return wanted.error();
         time = *wanted;
     }
     if (const Result<> applied = applyAlarmOptions(line, alarm); !applied)
@@ -73,7 +73,7 @@ Result<> runAdd(const CommandLine &line)
         return wrongUsage("add takes one time, HH:MM");
     const Result<QTime> time = parseTime(line.positionals().first());
     if (!time)
-        return time.problem();
+        return time.error();
     Clock::QmAlarmEvent alarm = newAlarm();
     if (const Result<> applied = applyAlarmOptions(line, alarm); !applied)
         return applied;
@@ -81,7 +81,7 @@ Result<> runAdd(const CommandLine &line)
     alarm.setEnabled(!line.has("off"));
     const Result<quint32> cookie = addAlarm(alarm);
     if (!cookie)
-        return cookie.problem();
+        return cookie.error();
     printCookie(*cookie, line.has("json"));
     return Done();
 }
@@ -92,18 +92,18 @@ Result<> runEdit(const CommandLine &line)
         return wrongUsage("edit takes one cookie");
     const Result<quint32> cookie = parseCookie(line.positionals().first());
     if (!cookie)
-        return cookie.problem();
+        return cookie.error();
     if (const Result<> sensible = checkEdits(line); !sensible)
         return sensible;
     const Result<QList<Clock::QmAlarmEvent>> alarms = loadAlarms({*cookie});
     if (!alarms)
-        return alarms.problem();
+        return alarms.error();
     Clock::QmAlarmEvent alarm = alarms->first();
     if (const Result<> applied = applyEdits(line, alarm); !applied)
         return applied;
     const Result<quint32> replaced = replaceAlarm(alarm);
     if (!replaced)
-        return replaced.problem();
+        return replaced.error();
     printCookie(*replaced, line.has("json"));
     return Done();
 }

@@ -49,7 +49,7 @@ Result<> reachDaemon()
         return failure("there is no session bus");
     // Refused at once where there is no daemon; waiting for its triggers would take longer to tell.
     if (const Result<QList<quint32>> cookies = queryCookies(); !cookies)
-        return cookies.problem();
+        return cookies.error();
     if (!receiveTriggers())
         return failure("the alarm daemon does not publish its triggers");
     return Done();
@@ -58,7 +58,7 @@ Result<> reachDaemon()
 Result<QList<Clock::QmAlarmEvent>> loadAlarms()
 {
     if (const Result<> reached = reachDaemon(); !reached)
-        return reached.problem();
+        return reached.error();
     QList<Clock::QmAlarmEvent> alarms;
     if (Clock::QmAlarm().queryAndSortAlarmCookies(alarms))
         return because("the alarms cannot be read");
@@ -68,10 +68,10 @@ Result<QList<Clock::QmAlarmEvent>> loadAlarms()
 Result<QList<Clock::QmAlarmEvent>> loadAlarms(const QList<quint32> &cookies)
 {
     if (const Result<> reached = reachDaemon(); !reached)
-        return reached.problem();
+        return reached.error();
     const Result<QList<quint32>> known = queryCookies();
     if (!known)
-        return known.problem();
+        return known.error();
     QList<Clock::QmAlarmEvent> alarms;
     for (const quint32 cookie : cookies) {
         if (!known->contains(cookie))

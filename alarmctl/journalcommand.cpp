@@ -19,13 +19,13 @@ Result<QList<RingRecord>> recordsOf(const CommandLine &line)
 {
     const Result<qint64> since = parseMoment(line.value("since", "0"));
     if (!since)
-        return since.problem();
+        return since.error();
     const Result<quint32> count = parseCount(line.value("count", "1"));
     if (!count)
-        return count.problem();
+        return count.error();
     const auto entries = answerOf(Astel::Timed::Interface().journal(*since * MillisecondsOfSecond));
     if (!entries)
-        return entries.problem();
+        return entries.error();
     QList<RingRecord> records = ringRecords(*entries);
     if (line.has("count") && records.size() > *count)
         records = records.last(*count);
@@ -56,7 +56,7 @@ Result<> runJournal(const CommandLine &line)
         return plain;
     const Result<QList<RingRecord>> records = recordsOf(line);
     if (!records)
-        return records.problem();
+        return records.error();
     if (line.has("json")) {
         printJson(jsonOf(*records));
         return Done();

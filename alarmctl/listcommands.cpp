@@ -34,7 +34,7 @@ Result<> runList(const CommandLine &line)
         return plain;
     const Result<QList<Clock::QmAlarmEvent>> alarms = loadAlarms();
     if (!alarms)
-        return alarms.problem();
+        return alarms.error();
     printAlarms(*alarms, line.has("json"));
     return Done();
 }
@@ -45,10 +45,10 @@ Result<> runNext(const CommandLine &line)
         return plain;
     const Result<quint32> count = parseCount(line.value("count", "1"));
     if (!count)
-        return count.problem();
+        return count.error();
     const auto triggers = answerOf(Astel::Timed::Interface().next_triggers(*count));
     if (!triggers)
-        return triggers.problem();
+        return triggers.error();
     QJsonArray array;
     for (const Astel::Timed::Wire::Trigger &trigger : *triggers) {
         array.append(QJsonObject{{"cookie", qint64(trigger.cookie)}, {"nextTrigger", qint64(trigger.moment)}});

@@ -11,7 +11,7 @@ Result<QList<Clock::QmAlarmEvent>> namedAlarms(const CommandLine &line)
 {
     const Result<QList<quint32>> cookies = parseCookies(line.positionals());
     if (!cookies)
-        return cookies.problem();
+        return cookies.error();
     return loadAlarms(*cookies);
 }
 
@@ -19,7 +19,7 @@ Result<> switchAlarms(const CommandLine &line, bool on)
 {
     const Result<QList<Clock::QmAlarmEvent>> alarms = namedAlarms(line);
     if (!alarms)
-        return alarms.problem();
+        return alarms.error();
     QList<qint64> cookies;
     for (Clock::QmAlarmEvent alarm : *alarms) {
         if (alarm.isEnabled() == on) {
@@ -31,7 +31,7 @@ Result<> switchAlarms(const CommandLine &line, bool on)
         alarm.setEnabled(on);
         const Result<quint32> cookie = replaceAlarm(alarm);
         if (!cookie)
-            return cookie.problem();
+            return cookie.error();
         cookies.append(*cookie);
     }
     printNumbers(cookies, line.has("json"));
@@ -54,7 +54,7 @@ Result<> runRemove(const CommandLine &line)
 {
     const Result<QList<Clock::QmAlarmEvent>> alarms = namedAlarms(line);
     if (!alarms)
-        return alarms.problem();
+        return alarms.error();
     for (const Clock::QmAlarmEvent &alarm : *alarms) {
         if (const Result<> removed = removeAlarm(alarm.cookie()); !removed)
             return removed;

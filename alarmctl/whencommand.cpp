@@ -28,10 +28,10 @@ Result<Rule> ruleOf(const CommandLine &line)
 {
     const Result<QTime> time = parseTime(line.positionals().first());
     if (!time)
-        return time.problem();
+        return time.error();
     const Result<QList<int>> days = parseDays(line.value("days", "daily"));
     if (!days)
-        return days.problem();
+        return days.error();
     if (days->isEmpty())
         return wrongUsage("an alarm that never repeats has no days to be computed");
     Rule rule;
@@ -53,13 +53,13 @@ Result<> runWhen(const CommandLine &line)
         return complete;
     const Result<Rule> rule = ruleOf(line);
     if (!rule)
-        return rule.problem();
+        return rule.error();
     const Result<qint64> after = parseEpoch(line.value("after"));
     if (!after)
-        return after.problem();
+        return after.error();
     const Result<quint32> count = parseCount(line.value("count", "1"));
     if (!count)
-        return count.problem();
+        return count.error();
     QString error;
     const std::optional<Zone> zone = Zone::create(line.value("zone").toUtf8(), &error);
     if (!zone)

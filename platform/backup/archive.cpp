@@ -136,17 +136,17 @@ Result<Archive> decode(const QByteArray &bytes)
 {
     const auto members = readTar(bytes);
     if (!members)
-        return members.problem();
+        return members.error();
     const auto manifest = manifestOf(*members);
     if (!manifest)
-        return manifest.problem();
+        return manifest.error();
     Contents contents;
     for (const TarMember &member : *members)
         contents.insert(member.name, member.content);
 
     const auto records = decodeRecords(contents.value(EventsName));
     if (!records)
-        return records.problem();
+        return records.error();
     Archive archive{QDateTime::fromString((*manifest)["created"].toString(), Qt::ISODate), *records, {}, {}};
     const QJsonArray settings = (*manifest)["settings"].toArray();
     for (const auto &value : settings) {

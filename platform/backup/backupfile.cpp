@@ -57,7 +57,7 @@ Result<Archive> readBackup(const QString &path)
         return problemWith(path, "it is too large for a backup");
     auto archive = decode(file.readAll());
     if (!archive)
-        return problemWith(path, archive.problem().text);
+        return problemWith(path, archive.error().text);
     return archive;
 }
 

@@ -76,10 +76,10 @@ Result<Archive> collect(const QList<Participant> &participants, OwnTones ownTone
     Astel::Timed::Interface timed;
     const auto records = answerOf(timed.backup_events());
     if (!records)
-        return records.problem();
+        return records.error();
     const auto settings = settingsOf(participants);
     if (!settings)
-        return settings.problem();
+        return settings.error();
     Archive archive{QDateTime::currentDateTimeUtc(), records->records, *settings, {}};
     const QStringList named = namedTones(archive.records, participants);
     for (const QString &path : named) {

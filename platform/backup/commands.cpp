@@ -64,7 +64,7 @@ Result<> runCreate(const CommandLine &line)
 {
     const auto request = requestOf(line);
     if (!request)
-        return request.problem();
+        return request.error();
     if (auto free = mayBeWritten(request->file); !free)
         return free;
     const QList<Participant> participants = installedParticipants();
@@ -73,7 +73,7 @@ Result<> runCreate(const CommandLine &line)
                                              request->patience);
     const auto archive = collect(participants, ownTones);
     if (!archive)
-        return archive.problem();
+        return archive.error();
     if (auto written = writeBackup(request->file, *archive); !written)
         return written;
     announcement.reset();
@@ -102,10 +102,10 @@ Result<> runRestore(const CommandLine &line)
 {
     const auto request = requestOf(line);
     if (!request)
-        return request.problem();
+        return request.error();
     const auto archive = readBackup(request->file);
     if (!archive)
-        return archive.problem();
+        return archive.error();
     const QList<Participant> participants = installedParticipants();
     Restoration restoration(*archive);
     if (auto prepared = restoration.prepare(participants); !prepared)
@@ -115,7 +115,7 @@ Result<> runRestore(const CommandLine &line)
     const auto restored = restoration.commit();
     announcement.reset();
     if (!restored)
-        return restored.problem();
+        return restored.error();
     tellOf(*restored);
     return Done();
 }

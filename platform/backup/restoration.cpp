@@ -148,14 +148,14 @@ Result<Restored> Restoration::commit()
 {
     const auto others = countOthers();
     if (!others)
-        return others.problem();
+        return others.error();
     m_restored.others = *others;
     Astel::Timed::Interface timed;
     const auto cookies = answerOf(timed.restore_events({m_archive.records}));
     if (!cookies)
-        return cookies.problem();
+        return cookies.error();
     if (const auto named = nameFiles(); !named)
-        return named.problem();
+        return named.error();
     countAlarms(*cookies);
     return m_restored;
 }
@@ -177,7 +177,7 @@ Result<int> Restoration::countOthers() const
     Astel::Timed::Interface timed;
     const auto here = answerOf(timed.backup_events());
     if (!here)
-        return here.problem();
+        return here.error();
     QHash<QString, int> inBackup;
     for (const Wire::Record &record : m_archive.records)
         ++inBackup[Astel::Timed::encodeEvent(record.event)];

@@ -98,9 +98,9 @@ int run(const Program &program, const Command &command, const QStringList &argum
     const QString hint = program.name + ' ' + command.name + " --help";
     const Result<CommandLine> line = CommandLine::parse(arguments, command.options);
     if (!line)
-        return report(program, line.problem(), hint);
+        return report(program, line.error(), hint);
     const Result<> done = command.run(*line);
-    return done ? int(Exit::Done) : report(program, done.problem(), hint);
+    return done ? int(Exit::Done) : report(program, done.error(), hint);
 }
 
 int runWhatIsAsked(const Program &program, const QStringList &arguments)

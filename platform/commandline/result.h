@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <QString>
+#include "platform/expected/expected.h"
 
-#include <variant>
+#include <QString>
 
 /** How the program ends. */
 enum class Exit { Done = 0, Failed = 1, WrongUsage = 2 };
@@ -26,27 +26,6 @@ inline Problem wrongUsage(const QString &text)
     return {Exit::WrongUsage, text};
 }
 
-struct Done
-{
-};
-
-/** A value, or the reason why there is none. */
+/** What a function that can fail answers. */
 template <typename Value = Done>
-class [[nodiscard]] Result
-{
-public:
-    Result(const Value &value)
-        : m_content(value)
-    { }
-    Result(const Problem &problem)
-        : m_content(problem)
-    { }
-
-    explicit operator bool() const { return std::holds_alternative<Value>(m_content); }
-    const Value &operator*() const { return std::get<Value>(m_content); }
-    const Value *operator->() const { return &std::get<Value>(m_content); }
-    const Problem &problem() const { return std::get<Problem>(m_content); }
-
-private:
-    std::variant<Value, Problem> m_content;
-};
+using Result = Expected<Value, Problem>;

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "platform/expected/expected.h"
+
 #include <QString>
-#include <utility>
-#include <variant>
 
 namespace Astel::Timed {
 
@@ -15,30 +15,8 @@ struct Error
     QString text;
 };
 
-struct Done
-{
-};
-
-/** What a function that can fail answers: a value or the error. */
-template <typename T = Done>
-class [[nodiscard]] Result
-{
-public:
-    Result(T value)
-        : m_content(std::move(value))
-    { }
-    Result(Error error)
-        : m_content(std::move(error))
-    { }
-
-    explicit operator bool() const { return std::holds_alternative<T>(m_content); }
-    T &operator*() { return std::get<T>(m_content); }
-    const T &operator*() const { return std::get<T>(m_content); }
-    T *operator->() { return &std::get<T>(m_content); }
-    const Error &error() const { return std::get<Error>(m_content); }
-
-private:
-    std::variant<T, Error> m_content;
-};
+/** What a function that can fail answers. */
+template <typename Value = Done>
+using Result = Expected<Value, Error>;
 
 } // namespace Astel::Timed

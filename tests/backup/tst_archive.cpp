@@ -174,8 +174,8 @@ void ArchiveTest::saysWhatIsWrong()
     QFETCH(const QString, what);
     const auto decoded = decode(bytes);
     QVERIFY(!decoded);
-    QVERIFY2(decoded.problem().text.contains(what), qPrintable(decoded.problem().text));
-    QCOMPARE(decoded.problem().exit, Exit::Failed);
+    QVERIFY2(decoded.error().text.contains(what), qPrintable(decoded.error().text));
+    QCOMPARE(decoded.error().exit, Exit::Failed);
 }
 
 QTEST_GUILESS_MAIN(ArchiveTest)

@@ -79,7 +79,7 @@ void TarTest::refusesWhatOtherProgramsWrite()
     QVERIFY(tar.waitForFinished());
     const auto read = readTar(tar.readAllStandardOutput());
     QVERIFY(!read);
-    QVERIFY(read.problem().text.contains("not a backup"));
+    QVERIFY(read.error().text.contains("not a backup"));
 }
 
 void TarTest::refusesWhatIsNoPlainFile_data()
@@ -114,7 +114,7 @@ void TarTest::refusesWhatIsNoPlainFile()
     bytes.replace(1024, 512, header);
     const auto read = readTar(bytes);
     QVERIFY(!read);
-    QCOMPARE(read.problem().text, "it is damaged");
+    QCOMPARE(read.error().text, "it is damaged");
 }
 
 void TarTest::refusesASizeThatIsNone_data()
