@@ -3,10 +3,13 @@
 #include "alarmctl/argumentvalues.h"
 
 #include "alarmctl/texts.h"
+#include "app/settings.h"
 
 #include <QDateTime>
 #include <QFileInfo>
 #include <QRegularExpression>
+
+#include <algorithm>
 
 namespace {
 
@@ -60,9 +63,10 @@ Result<QList<int>> parseDays(const QString &text)
 
 Result<int> parseSnooze(const QString &text)
 {
-    static const QList<qint64> choices{5, 10, 15, 20, 30};
+    const auto &choices = Settings::SnoozeChoices;
     qint64 minutes = 0;
-    if (!readNumber(text, 1, 60, minutes) || !choices.contains(minutes))
+    if (!readNumber(text, choices.front(), choices.back(), minutes)
+        || std::find(choices.begin(), choices.end(), minutes) == choices.end())
         return wrongUsage(QStringLiteral("a snooze of \"%1\" is not one of 5, 10, 15, 20, 30 minutes").arg(text));
     return int(minutes);
 }

@@ -4,6 +4,8 @@
 
 #include <QLatin1StringView>
 
+#include <array>
+
 /**
  * Names that the folders of the application share: the preferences with their defaults, the files of the sound
  * profile, and what other services call things. Each user of a preference opens its own QSettings(Organisation,
@@ -18,8 +20,11 @@ inline constexpr QLatin1StringView Application("Clock");
 // Preferences.
 inline constexpr QLatin1StringView DefaultAlarmTimeKey("Clock/DefaultAlarmTime"); ///< a QTime with seconds 0
 inline constexpr QLatin1StringView DefaultAlarmTime("08:00:00");
-inline constexpr QLatin1StringView SnoozeTimeKey("Clock/SnoozeTime");   ///< minutes; 5, 10, 15, 20 or 30
+inline constexpr QLatin1StringView SnoozeTimeKey("Clock/SnoozeTime");   ///< minutes; one of SnoozeChoices
 inline constexpr QLatin1StringView DefaultToneKey("Clock/DefaultTone"); ///< absolute path
+
+/** The snooze times that can be chosen, in minutes and ascending; the place of each is that in the list of choices. */
+inline constexpr std::array<int, 5> SnoozeChoices{5, 10, 15, 20, 30};
 
 // What an alarm starts with where no preference says otherwise.
 inline constexpr int DefaultSnooze = 10; ///< minutes

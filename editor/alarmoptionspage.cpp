@@ -8,7 +8,6 @@
 #include "editor/alarmeditorlistitem.h"
 #include "editor/repeatingrules.h"
 #include "editor/repeatsummary.h"
-#include "editor/snoozechoices.h"
 #include "platform/clockwidgets/alerttonebrowsersheet.h"
 #include "platform/toolkit/applicationwindow.h"
 #include "platform/toolkit/combobox.h"
@@ -17,6 +16,7 @@
 
 using Clock::QmAlarmEvent;
 using Clock::Utility;
+using Settings::SnoozeChoices;
 
 void AlarmOptionsPage::load(quint32 cookie, const QString &tone, unsigned int snooze)
 {

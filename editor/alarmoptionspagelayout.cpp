@@ -4,7 +4,6 @@
 
 #include "app/settings.h"
 #include "editor/alarmeditorlistitem.h"
-#include "editor/snoozechoices.h"
 #include "platform/clockwidgets/alerttone.h"
 #include "platform/clockwidgets/alerttonebrowsersheet.h"
 #include "platform/toolkit/applicationwindow.h"
@@ -18,6 +17,7 @@
 
 #include <algorithm>
 
+using Settings::SnoozeChoices;
 using Touch::ApplicationWindow;
 
 namespace {

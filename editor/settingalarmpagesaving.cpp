@@ -7,7 +7,6 @@
 #include "alarms/utility.h"
 #include "app/settings.h"
 #include "editor/alarmoptionspage.h"
-#include "editor/snoozechoices.h"
 #include "platform/clockwidgets/timepicker.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/messagebox.h"
@@ -18,6 +17,7 @@
 using Clock::QmAlarm;
 using Clock::QmAlarmEvent;
 using Clock::Utility;
+using Settings::SnoozeChoices;
 using Touch::Locale;
 
 namespace {

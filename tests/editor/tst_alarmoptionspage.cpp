@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "editor/snoozechoices.h"
+#include "app/settings.h"
 #include "platform/toolkit/basicsheetheader.h"
 #include "tests/editor/optionstest.h"
 
 #include <QAction>
 #include <QMetaMethod>
 #include <QTranslator>
+
+using Settings::SnoozeChoices;
 
 namespace {
 
