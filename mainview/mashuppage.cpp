@@ -19,8 +19,6 @@ using Touch::LinearLayoutPolicy;
 
 namespace {
 
-constexpr int AllComponents = 7;
-
 LinearLayoutPolicy *arrangement(Touch::Layout *layout, Qt::Orientation orientation)
 {
     auto *policy = new LinearLayoutPolicy(layout, orientation);
