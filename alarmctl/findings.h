@@ -27,5 +27,5 @@ struct Verdict
 
 /** What the facts say, the most important first; depends on nothing else. */
 QList<Finding> findingsOf(const HealthFacts &facts);
-/** Bad where a finding keeps the next alarm from being heard. Without an alarm only the daemon and its storage count. */
+/** Bad where a finding keeps the next alarm from being heard; without an alarm only daemon and storage count. */
 Verdict verdictOf(const HealthFacts &facts, const QList<Finding> &findings);

@@ -26,7 +26,7 @@ void press(const QString &key);
 
 /** The window in front: one that is chained to the application's, or that itself. */
 Touch::Window *frontWindow();
-/** A point of an item of the front window on the screen, given as parts of its width and height from the top left corner. */
+/** Where on the screen a point of an item of the front window is, given in parts of its width and height. */
 QPoint pointOf(const QGraphicsObject *item, double across = 0.5, double down = 0.5);
 /** The topmost item of this object name that is visible and stands still, or null. */
 QGraphicsObject *itemNamed(const QString &objectName);

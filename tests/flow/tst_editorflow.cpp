@@ -13,13 +13,13 @@
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/combobox.h"
 #include "platform/toolkit/textedit.h"
+#include "tests/flow/alarmscreen.h"
 #include "tests/flow/finger.h"
 #include "tests/flow/wholeprogram.h"
 #include "tests/support/places.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTest>
 
 using Clock::QmAlarm;
@@ -83,14 +83,10 @@ QList<quint32> cookies()
     return QmAlarm().query(failed);
 }
 
-QGraphicsObject *row()
+/** The alarm on the main page, or null. */
+AlarmListItem *row()
 {
-    const auto items = applicationWindow->scene()->items();
-    for (QGraphicsItem *item : items) {
-        if (auto *found = qobject_cast<AlarmListItem *>(item->toGraphicsObject()); found && found->isVisible())
-            return found;
-    }
-    return nullptr;
+    return Flow::rows().value(0);
 }
 
 /** The weekdays of two places in the list of days. */
@@ -108,7 +104,7 @@ class TestEditorFlow : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { QVERIFY(Flow::prepareWindow()); }
     void anAlarmIsNamedAndItsTimeTapped();
     void itsOptionsOpenInTheirOwnWindow();
     void itsDaysAreChosen();
@@ -124,14 +120,6 @@ private:
     QTime m_time;
     QString m_snooze; ///< in the language that is tested
 };
-
-void TestEditorFlow::initTestCase()
-{
-    QVERIFY(QTest::qWaitForWindowExposed(applicationWindow));
-    // There is no window manager that would give the focus.
-    QCOMPARE(QProcess::execute("xdotool", {"windowfocus", QString::number(applicationWindow->winId())}), 0);
-    QVERIFY(QTest::qWaitForWindowActive(applicationWindow));
-}
 
 void TestEditorFlow::anAlarmIsNamedAndItsTimeTapped()
 {

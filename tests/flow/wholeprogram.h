@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <QStringList>
-
 #include <functional>
 #include <memory>
 
@@ -18,8 +16,8 @@ enum class Daemon { Running, Absent };
 
 /**
  * Runs a test inside the real program: a private bus, a virtual display and the real daemon around an inner
- * process, in which the program's own start-up runs, and there the test as soon as the window is on the screen. The program ends with the test.
- * Called from main() with that one's arguments; returns the exit status.
+ * process, in which the program's own start-up runs, and there the test as soon as the window is on the screen. The
+ * program ends with the test. Called from main() with that one's arguments; returns the exit status.
  */
 int runInProgram(int argc, char **argv, MakeTest makeTest, Daemon daemon = Daemon::Running);
 
