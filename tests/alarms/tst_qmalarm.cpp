@@ -4,6 +4,7 @@
 
 #include "alarms/qmalarmevent.h"
 #include "alarms/utility.h"
+#include "tests/support/alarms.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/privatebus.h"
 
@@ -17,23 +18,6 @@ using Clock::QmAlarmEvent;
 namespace {
 
 constexpr quint32 NotStored = 4294967295u;
-
-QmAlarmEvent sampleAlarm(const QTime &time, bool enabled = true)
-{
-    QmAlarmEvent alarm;
-    alarm.setApplication("clock");
-    alarm.setTitle("Work");
-    alarm.setTone("/tone.aac");
-    alarm.setAlarmTime(time);
-    alarm.setEnabled(enabled);
-    return alarm;
-}
-
-quint32 add(const QTime &time, bool enabled = true)
-{
-    QmAlarmEvent alarm = sampleAlarm(time, enabled);
-    return QmAlarm().add(alarm);
-}
 
 QList<quint32> storedCookies()
 {
@@ -81,23 +65,20 @@ void QmAlarmTest::initTestCase()
 
 void QmAlarmTest::cleanup()
 {
-    for (const quint32 cookie : storedCookies()) {
-        if (cookie != NotStored)
-            QVERIFY(QmAlarm().deleteEvent(cookie));
-    }
+    QVERIFY(Support::removeAllAlarms());
 }
 
 void QmAlarmTest::addsAnAlarm()
 {
     const Support::LogCapture log;
-    const quint32 cookie = add(QTime(7, 5));
+    const quint32 cookie = Support::addAlarm(QTime(7, 5));
     const QStringList lines = log.lines(QtDebugMsg);
     QVERIFY(cookie >= 1 && cookie <= 2147483647u);
     QCOMPARE(lines.first(), "QmAlarm::add entered");
     QCOMPARE(lines.last(), "QmAlarm::add exited");
     const QmAlarmEvent alarm(cookie);
     QCOMPARE(alarm.alarmTime(), QTime(7, 5));
-    QCOMPARE(alarm.title(), "Work");
+    QCOMPARE(alarm.title(), "Alarm");
     QVERIFY(alarm.isEnabled());
     QTRY_VERIFY(QmAlarmEvent(cookie).nextTrigger() > Q_UINT64_C(1000000000000000000));
 }
@@ -105,7 +86,7 @@ void QmAlarmTest::addsAnAlarm()
 void QmAlarmTest::movesTheTriggerTimeOfTheRecordItAdds()
 {
     const int today = QDate::currentDate().dayOfWeek() % 7;
-    QmAlarmEvent alarm = sampleAlarm(QTime(7, 5));
+    QmAlarmEvent alarm = Support::alarmAt(QTime(7, 5));
     alarm.setRepeatDays({(today + 2) % 7});
     const QDateTime before = alarm.triggerTime();
     QVERIFY(QmAlarm().add(alarm) != NotStored);
@@ -115,7 +96,7 @@ void QmAlarmTest::movesTheTriggerTimeOfTheRecordItAdds()
 
 void QmAlarmTest::replacesAnAlarmUnderANewCookie()
 {
-    const quint32 cookie = add(QTime(7, 5));
+    const quint32 cookie = Support::addAlarm(QTime(7, 5));
     QmAlarmEvent alarm(cookie);
     alarm.setAlarmTime(QTime(8, 10));
     const quint32 replaced = QmAlarm().replace(alarm, cookie);
@@ -127,7 +108,7 @@ void QmAlarmTest::replacesAnAlarmUnderANewCookie()
 
 void QmAlarmTest::failsToReplaceAnUnknownAlarm()
 {
-    QmAlarmEvent alarm = sampleAlarm(QTime(7, 5));
+    QmAlarmEvent alarm = Support::alarmAt(QTime(7, 5));
     const Support::LogCapture log;
     QCOMPARE(QmAlarm().replace(alarm, 2147483647u), NotStored);
     static const QRegularExpression line("^Failed to replace event\\. Reason : \".+\"$");
@@ -136,7 +117,7 @@ void QmAlarmTest::failsToReplaceAnUnknownAlarm()
 
 void QmAlarmTest::deletesAnAlarm()
 {
-    const quint32 cookie = add(QTime(7, 5));
+    const quint32 cookie = Support::addAlarm(QTime(7, 5));
     const Support::LogCapture log;
     QVERIFY(QmAlarm().deleteEvent(cookie));
     QCOMPARE(log.lines(QtDebugMsg), QStringList{QString("Delete cookie %1 successfully").arg(cookie)});
@@ -150,12 +131,12 @@ void QmAlarmTest::deletesAnUnknownAlarmWithoutComplaint()
 
 void QmAlarmTest::queriesItsOwnAlarmsInTheirOrder()
 {
-    const quint32 first = add(QTime(9, 0));
-    QmAlarmEvent foreign = sampleAlarm(QTime(8, 0));
+    const quint32 first = Support::addAlarm(QTime(9, 0));
+    QmAlarmEvent foreign = Support::alarmAt(QTime(8, 0));
     foreign.setApplication("calendar");
     const quint32 other = QmAlarm().add(foreign);
     QVERIFY(other != NotStored);
-    const quint32 second = add(QTime(7, 0), false);
+    const quint32 second = Support::addSwitchedOffAlarm(QTime(7, 0));
     const Support::LogCapture log;
     bool failed = true;
     QCOMPARE(QmAlarm().query(failed), QList<quint32>({first, second}));
@@ -166,7 +147,7 @@ void QmAlarmTest::queriesItsOwnAlarmsInTheirOrder()
 
 void QmAlarmTest::keepsWhatWasStoredWhenTheDaemonDies()
 {
-    const quint32 cookie = add(QTime(7, 5));
+    const quint32 cookie = Support::addAlarm(QTime(7, 5));
     m_daemon.kill();
     QVERIFY(m_daemon.start());
     QCOMPARE(storedCookies(), QList<quint32>{cookie});
@@ -187,11 +168,11 @@ void QmAlarmTest::sortsAlarmsForTheList()
     const QTime now = QTime::currentTime();
     const QTime soon = QTime(now.hour(), now.minute()).addSecs(3600);
     const QTime later = soon.addSecs(3600);
-    const quint32 onLater = add(later);
-    const quint32 offSix = add(QTime(6, 0), false);
-    const quint32 onSoon = add(soon);
-    const quint32 offFive = add(QTime(5, 0), false);
-    const QmAlarmEvent unstored = sampleAlarm(QTime(7, 5));
+    const quint32 onLater = Support::addAlarm(later);
+    const quint32 offSix = Support::addSwitchedOffAlarm(QTime(6, 0));
+    const quint32 onSoon = Support::addAlarm(soon);
+    const quint32 offFive = Support::addSwitchedOffAlarm(QTime(5, 0));
+    const QmAlarmEvent unstored = Support::alarmAt(QTime(7, 5));
     const QList<quint32> expected{onSoon, onLater, offFive, offSix};
     const auto sorted = [&unstored] {
         QList<QmAlarmEvent> alarms{unstored};
@@ -207,7 +188,7 @@ void QmAlarmTest::sortsAlarmsForTheList()
 
 void QmAlarmTest::logsTheSorting()
 {
-    const quint32 cookie = add(QTime(5, 0), false);
+    const quint32 cookie = Support::addSwitchedOffAlarm(QTime(5, 0));
     const quint64 trigger = QmAlarmEvent(cookie).nextTrigger();
     const Support::LogCapture log;
     QList<QmAlarmEvent> alarms;
@@ -223,7 +204,7 @@ void QmAlarmTest::failsWithoutADaemon()
 {
     m_daemon.kill();
     const Support::LogCapture log;
-    QmAlarmEvent alarm = sampleAlarm(QTime(7, 5));
+    QmAlarmEvent alarm = Support::alarmAt(QTime(7, 5));
     QCOMPARE(QmAlarm().add(alarm), NotStored);
     QCOMPARE(QmAlarm().replace(alarm, 1), NotStored);
     QVERIFY(!QmAlarm().deleteEvent(1));
@@ -243,14 +224,14 @@ void QmAlarmTest::failsWithoutADaemon()
 void QmAlarmTest::sortingWithoutADaemonLeavesTheList()
 {
     m_daemon.kill();
-    QmAlarmEvent alarm = sampleAlarm(QTime(7, 5));
+    QmAlarmEvent alarm = Support::alarmAt(QTime(7, 5));
     alarm.setCookie(7);
     QList<QmAlarmEvent> alarms{alarm};
     const Support::LogCapture log;
     QVERIFY(QmAlarm().queryAndSortAlarmCookies(alarms));
     QCOMPARE(alarms.size(), 1);
     QCOMPARE(alarms.first().cookie(), 7u);
-    QCOMPARE(alarms.first().title(), "Work");
+    QCOMPARE(alarms.first().title(), "Alarm");
     QCOMPARE(log.lines(QtDebugMsg).last(), "QmAlarm::query exited");
     QVERIFY(m_daemon.start());
 }
