@@ -11,6 +11,7 @@
 
 #include <optional>
 #include <QCoreApplication>
+#include <QDBusConnection>
 #include <utility>
 
 namespace {
@@ -24,6 +25,13 @@ void printTriggers(const QVariantMap &triggers, bool json)
         printJson(QJsonObject::fromVariantMap(triggers));
     else
         printLine(texts.isEmpty() ? QStringLiteral("nothing ahead") : texts.join(", "));
+}
+
+/** Ends the event loop with the bus, after which nothing would be heard any more. */
+void followEndOfBus()
+{
+    QDBusConnection::sessionBus().connect({}, "/org/freedesktop/DBus/Local", "org.freedesktop.DBus.Local",
+                                          "Disconnected", QCoreApplication::instance(), SLOT(quit()));
 }
 
 } // namespace
@@ -77,6 +85,7 @@ Result<> runWatch(const CommandLine &line)
             printTriggers(now, json);
     });
     triggers.subscribe();
+    followEndOfBus();
     QCoreApplication::exec();
-    return Done();
+    return failure("the session bus is gone");
 }

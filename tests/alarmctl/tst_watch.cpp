@@ -12,6 +12,22 @@ namespace {
 
 constexpr int MaximalOutput = 100000;
 
+/**
+ * Nothing tells from outside when it has begun to follow, so there are changes until it shows one. Returns the cookie
+ * of the alarm that is left.
+ */
+QByteArray changeUntilSeen(QProcess &process)
+{
+    QByteArray cookie;
+    const auto isSeen = [&] {
+        if (!cookie.isEmpty())
+            alarmctl("remove " + cookie);
+        cookie = alarmctl("add 12:00").output.trimmed().toUtf8();
+        return process.bytesAvailable() > 0;
+    };
+    return QTest::qWaitFor(isSeen) ? cookie : QByteArray();
+}
+
 } // namespace
 
 class WatchTest : public QObject
@@ -23,18 +39,20 @@ private slots:
     void printsALineForEachChange();
     void printsNothingForADaemonThatIsBack();
     void tellsMomentsInWords();
+    void endsWithTheBus();
 
 private:
     /** Starts watching, and returns when changes are seen. */
     void watch(QProcess &process, const QStringList &options);
 
-    Support::PrivateBus m_bus;
+    std::unique_ptr<Support::PrivateBus> m_bus;
     Support::TimedProcess m_daemon;
 };
 
 void WatchTest::initTestCase()
 {
-    QVERIFY(m_bus.isRunning());
+    m_bus = std::make_unique<Support::PrivateBus>();
+    QVERIFY(m_bus->isRunning());
     QVERIFY(m_daemon.start());
 }
 
@@ -42,14 +60,7 @@ void WatchTest::watch(QProcess &process, const QStringList &options)
 {
     process.start(alarmctlPath(), QStringList("watch") + options);
     QVERIFY(process.waitForStarted());
-    // Nothing tells from outside when it has begun to follow, so there are changes until it shows one.
-    QByteArray cookie;
-    QTRY_VERIFY([&] {
-        if (!cookie.isEmpty())
-            alarmctl("remove " + cookie);
-        cookie = alarmctl("add 12:00").output.trimmed().toUtf8();
-        return process.bytesAvailable() > 0;
-    }());
+    const QByteArray cookie = changeUntilSeen(process);
     QTRY_VERIFY(process.peek(MaximalOutput).contains('"' + cookie + "\":"));
     QCOMPARE(alarmctl("remove " + cookie).exitCode, 0);
     QTRY_VERIFY(process.peek(MaximalOutput).endsWith("{}\n"));
@@ -103,15 +114,24 @@ void WatchTest::tellsMomentsInWords()
     QProcess process;
     process.start(alarmctlPath(), {"watch"});
     QVERIFY(process.waitForStarted());
-    QString cookie;
-    QTRY_VERIFY([&] {
-        cookie = alarmctl("add 12:00").output.trimmed();
-        return process.bytesAvailable() > 0;
-    }());
-    QTRY_VERIFY(process.canReadLine());
-    QVERIFY(QString(process.readLine()).contains(QRegularExpression("^[0-9]+ [0-9-]{10} 12:00:00(, |$)")));
+    const QByteArray cookie = changeUntilSeen(process);
+    const QRegularExpression line("^[0-9]+ [0-9-]{10} 12:00:00(, |$)", QRegularExpression::MultilineOption);
+    QTRY_VERIFY(QString(process.peek(MaximalOutput)).contains(line));
+    QCOMPARE(alarmctl("remove " + cookie).exitCode, 0);
     process.kill();
     process.waitForFinished();
+}
+
+// Last, as there is no bus afterwards.
+void WatchTest::endsWithTheBus()
+{
+    QProcess process;
+    watch(process, {"--json"});
+    m_daemon.terminate();
+    m_bus.reset();
+    QTRY_COMPARE(process.state(), QProcess::NotRunning);
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(process.readAllStandardError(), "alarmctl: the session bus is gone\n");
 }
 
 QTEST_GUILESS_MAIN(WatchTest)
