@@ -105,6 +105,9 @@ QSizeF PreparedText::naturalSize(qreal width) const
         tabularGlyphs(m_text, m_font, &natural);
     else
         natural = widthOf(m_text, m_font);
+    // Lines are broken in fractions of a pixel, and must not be in a place as wide as was asked for.
+    if (m_fit == Fit::Wrap)
+        natural += 1;
     return {std::ceil(natural), std::ceil(QFontMetricsF(m_font).height())};
 }
 

@@ -44,6 +44,7 @@ private slots:
     void elidesWhatDoesNotFit();
     void wrapsIntoTheLinesThatItNeeds_data();
     void wrapsIntoTheLinesThatItNeeds();
+    void staysOnOneLineInItsOwnWidth();
     void beginsWhereALineBegins_data();
     void beginsWhereALineBegins();
     void asksForTheWidthOfItsText_data();
@@ -148,6 +149,21 @@ void TestLabel::wrapsIntoTheLinesThatItNeeds()
     QVERIFY(!label->showsWholeText());
     label->resize(200, height);
     QVERIFY(label->showsWholeText());
+}
+
+void TestLabel::staysOnOneLineInItsOwnWidth()
+{
+    const qreal line = makeLabel(english, {400, 40})->effectiveSizeHint(Qt::PreferredSize).height();
+    for (const QString &text : {QString::fromUtf8("Budík za asi 12 dní"), english, arabic}) {
+        for (qsizetype length = 1; length <= text.size(); ++length) {
+            Label *label = makeLabel(text.left(length), {400, 40});
+            label->setWordWrap(true);
+            const qreal width = label->effectiveSizeHint(Qt::PreferredSize).width();
+            const qreal height = label->effectiveSizeHint(Qt::PreferredSize, {width, -1}).height();
+            QVERIFY2(height < 1.7 * line, qPrintable(label->text()));
+            delete label;
+        }
+    }
 }
 
 void TestLabel::beginsWhereALineBegins_data()
