@@ -39,7 +39,7 @@
     <message id="qtn_cloc_time_left_alarm">
         <source>Alarm in %1</source>
         <extracomment>%1 is a span of time, "07:05" or "about 3 days".</extracomment>
-        <translation>Wekker gaat af over %1</translation>
+        <translation>Wekker over %1</translation>
     </message>
     <message id="qtn_cloc_about_days" numerus="yes">
         <source>about %n day(s)</source>

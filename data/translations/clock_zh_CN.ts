@@ -39,7 +39,7 @@
     <message id="qtn_cloc_time_left_alarm">
         <source>Alarm in %1</source>
         <extracomment>%1 is a span of time, "07:05" or "about 3 days".</extracomment>
-        <translation>闹钟将在 %1 后响起</translation>
+        <translation>闹钟将在%1后响起</translation>
     </message>
     <message id="qtn_cloc_about_days" numerus="yes">
         <source>about %n day(s)</source>
