@@ -28,11 +28,6 @@ constexpr auto NoCard = "# nothing\n";
 // What it plays goes into a file.
 constexpr auto Card = "pcm.sysdefault { type file slave.pcm { type null } file \"FOLDER/heard.raw\" format raw }\n";
 
-PulseSink sink(const char *id, Place place, bool isDefault = false)
-{
-    return {QString::fromLatin1(id), {}, place, 100, false, false, isDefault};
-}
-
 QString namesOf(const QList<PulseSink> &sinks)
 {
     QStringList names;
@@ -51,8 +46,6 @@ class TestAlarmTone : public QObject
 private slots:
     void initTestCase();
     void init();
-    void outputsFollowWhereTheDefaultIsWorn_data();
-    void outputsFollowWhereTheDefaultIsWorn();
     void theServerTellsWhereASinkIs();
     void theStreamIsAnAlarm();
     void aMutedOutputIsOpenedForTheTone();
@@ -132,41 +125,6 @@ bool TestAlarmTone::addSink(const QString &name, const QString &formFactor)
 int TestAlarmTone::streams()
 {
     return int(m_server.query({"list", "short", "sink-inputs"}).count('\n'));
-}
-
-void TestAlarmTone::outputsFollowWhereTheDefaultIsWorn_data()
-{
-    QTest::addColumn<QList<PulseSink>>("sinks");
-    QTest::addColumn<QString>("outputs");
-    QTest::addColumn<QStringList>("shut");
-    const auto speaker = sink("speaker", Place::Room);
-    const QStringList none;
-    QTest::newRow("no sink") << QList<PulseSink>() << "" << none;
-    QTest::newRow("none is the default") << QList{speaker} << "" << none;
-    QTest::newRow("one of which nothing is known") << QList{sink("a", Place::Unknown, true), speaker} << "a" << none;
-    QTest::newRow("the loudspeaker") << QList{sink("a", Place::Room, true), sink("ears", Place::Ears)} << "a" << none;
-    QTest::newRow("headphones alone") << QList{sink("ears", Place::Ears, true), sink("b", Place::Unknown)} << "ears"
-                                      << none;
-    QTest::newRow("headphones") << QList{speaker, sink("ears", Place::Ears, true)} << "ears speaker" << none;
-
-    const auto unknown = sink("b", Place::Unknown);
-    const auto ears = sink("ears", Place::Ears);
-    const auto shut = sink("shut", Place::Room, true);
-    QTest::newRow("shut, alone") << QList{shut} << "shut" << QStringList{"shut"};
-    QTest::newRow("shut, beside others") << QList{ears, unknown, shut, speaker} << "shut speaker"
-                                         << QStringList{"shut"};
-    QTest::newRow("shut, as the loudspeaker is")
-        << QList{ears, unknown, shut, speaker} << "shut b" << QStringList{"shut", "speaker"};
-    QTest::newRow("shut, but for the ears") << QList{shut, ears} << "shut ears" << QStringList{"shut"};
-    QTest::newRow("headphones, and the loudspeaker is shut")
-        << QList{speaker, sink("ears", Place::Ears, true)} << "ears" << QStringList{"speaker"};
-}
-
-void TestAlarmTone::outputsFollowWhereTheDefaultIsWorn()
-{
-    QFETCH(QList<PulseSink>, sinks);
-    QFETCH(QStringList, shut);
-    QTEST(namesOf(Sound::outputsOf(sinks, shut)), "outputs");
 }
 
 void TestAlarmTone::theServerTellsWhereASinkIs()
