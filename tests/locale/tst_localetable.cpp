@@ -23,6 +23,8 @@ private Q_SLOTS:
     void writesTimesAndDates();
     void writesNumbersAndLetters_data();
     void writesNumbersAndLetters();
+    void writesMinutes_data();
+    void writesMinutes();
 };
 
 void tst_LocaleTable::writesTimesAndDates_data()
@@ -137,6 +139,23 @@ void tst_LocaleTable::writesNumbersAndLetters()
     QTEST(locale.textDirection(), "direction");
     QCOMPARE(locale.categoryCountry(Locale::TimeCategory), name.right(2));
     QCOMPARE(locale.language(), name.left(2));
+}
+
+void tst_LocaleTable::writesMinutes_data()
+{
+    QTest::addColumn<QString>("minutes");
+    QTest::newRow("en_US") << "5 min";
+    QTest::newRow("de_DE") << "5 Min.";
+    QTest::newRow("ar_EG") << u"٥ د"_qs;
+    QTest::newRow("fa_IR") << u"۵ دقیقه"_qs;
+    QTest::newRow("ja_JP") << u"5 分"_qs;
+    QTest::newRow("zh_CN") << u"5分钟"_qs;
+    QTest::newRow("ru_RU") << u"5 мин"_qs;
+}
+
+void tst_LocaleTable::writesMinutes()
+{
+    QTEST(Locale(QString::fromLatin1(QTest::currentDataTag())).formatMinutes(5), "minutes");
 }
 
 QTEST_GUILESS_MAIN(tst_LocaleTable)
