@@ -169,6 +169,7 @@ void RingPage::applyStyles()
     m_alarmTitle->setStyleName(QLatin1String("RingTitle") + suffix);
     m_snooze->setStyleName(QLatin1String("RingSnooze") + suffix);
     m_stop->setStyleName(QLatin1String("RingStop") + suffix);
+    m_choice->setCompact(isCompact);
     fit();
 }
 

@@ -9,6 +9,7 @@
 #include "platform/toolkit/linearlayoutpolicy.h"
 
 #include <array>
+#include <utility>
 
 using Touch::Button;
 
@@ -38,6 +39,12 @@ SnoozeChoice::SnoozeChoice(QGraphicsItem *parent)
 }
 
 SnoozeChoice::~SnoozeChoice() = default;
+
+void SnoozeChoice::setCompact(bool isCompact)
+{
+    for (auto *button : std::as_const(m_buttons))
+        button->setStyleName(isCompact ? QStringLiteral("RingMinutesCompact") : QStringLiteral("RingMinutes"));
+}
 
 void SnoozeChoice::refresh(int ownSeconds)
 {

@@ -21,6 +21,8 @@ public:
 
     /** Of an alarm that snoozes so long; with the texts in the user's language and digits. */
     void refresh(int ownSeconds);
+    /** Smaller letters, so that all lengths are written in one size. */
+    void setCompact(bool isCompact);
 
 signals:
     void chosen(int seconds);
