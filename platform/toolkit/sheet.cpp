@@ -7,6 +7,7 @@
 #include "platform/toolkit/sheetswipe_p.h"
 
 #include <QAction>
+#include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
 #include <QGraphicsSceneResizeEvent>
 #include <QPointer>
