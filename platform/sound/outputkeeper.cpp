@@ -131,9 +131,10 @@ bool OutputKeeper::open(PulseServer &server, const PulseSink &sink)
 
 void OutputKeeper::remember(const QString &sink, const OutputBefore &before)
 {
-    if (m_before.value(sink) == before)
+    const auto known = m_before.constFind(sink);
+    if (known != m_before.constEnd() && *known == before)
         return;
-    m_before[sink] = before;
+    m_before.insert(sink, before);
     OutputRecord::write(m_before);
 }
 
