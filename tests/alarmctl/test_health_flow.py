@@ -16,6 +16,7 @@ import unittest
 
 import dbus
 
+import household
 import phone
 
 BUILD = sys.argv.pop(1)
@@ -143,4 +144,4 @@ class HealthFlow(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main(verbosity=2)
+    household.keep(lambda: unittest.main(verbosity=2))

@@ -9,6 +9,7 @@ import time
 import unittest
 
 import desktop
+import household
 import phone
 from phonecase import PhoneCase
 
@@ -129,4 +130,4 @@ class DesktopWithoutScreenSaver(DesktopCase):
 
 
 if __name__ == "__main__":
-    unittest.main(verbosity=2)
+    household.keep(lambda: unittest.main(verbosity=2))

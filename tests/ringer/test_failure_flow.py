@@ -15,6 +15,7 @@ import unittest
 import dbus
 
 import desktop
+import household
 import phone
 from phonecase import BUILD, PhoneCase
 
@@ -58,6 +59,7 @@ class FailureFlow(PhoneCase):
         self.phone.run("pactl", "set-sink-mute", "null", "1")
         cookie = self.ring()
         phone.wait_for(lambda: muted() == "Mute: no", 15, "opened for the alarm")
+        phone.wait_for(lambda: self.sounded(cookie), 15, "heard")
         self.phone.kill("com.astel.ringer")
         phone.wait_for(lambda: len(self.sounded(cookie)) == 2, 15, "heard again")
         phone.wait_for(lambda: muted() == "Mute: no", 5, "opened again")
@@ -158,4 +160,4 @@ class FailureFlow(PhoneCase):
 
 
 if __name__ == "__main__":
-    unittest.main(verbosity=2)
+    household.keep(lambda: unittest.main(verbosity=2))

@@ -15,6 +15,7 @@ import unittest
 import dbus
 import dbusmock
 
+import household
 import phone
 from phonecase import PhoneCase
 
@@ -107,4 +108,4 @@ class FallbackWithoutSound(FallbackCase):
 
 
 if __name__ == "__main__":
-    unittest.main(verbosity=2)
+    household.keep(lambda: unittest.main(verbosity=2))

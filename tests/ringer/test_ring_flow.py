@@ -12,6 +12,7 @@ import time
 import unittest
 import wave
 
+import household
 import phone
 from phonecase import PhoneCase
 
@@ -141,4 +142,4 @@ class RingFlow(PhoneCase):
 
 
 if __name__ == "__main__":
-    unittest.main(verbosity=2)
+    household.keep(lambda: unittest.main(verbosity=2))

@@ -9,6 +9,7 @@ import signal
 import threading
 
 SET_DEATH_SIGNAL, SET_CHILD_SUBREAPER = 1, 36  # of prctl()
+ENOUGH = 340  # seconds, before the end that whoever runs the tests sets
 
 
 def children():
@@ -39,7 +40,7 @@ def give_up(*_):
     raise KeyboardInterrupt
 
 
-def keep(run, seconds):
+def keep(run, seconds=ENOUGH):
     """Runs something. Afterwards, or after so many seconds, or when whoever runs us is gone, all processes end."""
     library = ctypes.CDLL(None)
     library.prctl(SET_CHILD_SUBREAPER, 1, 0, 0, 0)
