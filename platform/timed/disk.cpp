@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <QFile>
 #include <QFileInfo>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace Astel::Timed::Disk {
@@ -40,6 +41,15 @@ Result<> replace(const QString &from, const QString &to)
         return Error{Wire::StorageError, QStringLiteral("cannot replace %1: %2").arg(to, qt_error_string(errno))};
     syncOne(QFileInfo(to).absolutePath());
     return Done{};
+}
+
+std::optional<qint64> room(const QString &path)
+{
+    // Qt asks the list of mounts first, which need not tell of the disk: in a chroot it does not.
+    struct statvfs disk;
+    if (statvfs(QFile::encodeName(path).constData(), &disk) != 0)
+        return std::nullopt;
+    return qint64(disk.f_bavail) * qint64(disk.f_frsize);
 }
 
 } // namespace Astel::Timed::Disk

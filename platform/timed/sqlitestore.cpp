@@ -3,15 +3,14 @@
 #include "platform/timed/sqlitestore.h"
 
 #include "platform/timed/database.h"
+#include "platform/timed/disk.h"
 #include "platform/timed/logging.h"
 #include "platform/timed/moments.h"
 #include "platform/timedclient/eventcodec.h"
 
 #include <cstdlib>
-#include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlError>
-#include <QStorageInfo>
 
 namespace Astel::Timed {
 
@@ -171,8 +170,9 @@ QVariantMap SqliteStore::facts() const
     QVariantMap facts{{"store_path", m_database->path()},
                       {"store_integrity", m_snapshots.integrity()},
                       {"store_writable", !m_database->isReadOnly()},
-                      {"store_free", QStorageInfo(QFileInfo(m_database->path()).path()).bytesAvailable()},
                       {"store_restored", m_database->wasRestored()}};
+    if (const auto room = Disk::room(m_database->path()))
+        facts.insert("store_free", *room);
     QSqlQuery query("SELECT restored FROM counter", m_database->connection());
     if (query.next() && !query.value(0).isNull())
         facts.insert("store_restored_moment", toNanoseconds(query.value(0).toLongLong()));
