@@ -202,7 +202,7 @@ void tst_SqliteStore::snapshotMovesTheLogIntoTheFile()
     QVERIFY(store->commit(change));
     QVERIFY(store->commit(change));
     // More than SQLite leaves in the log by itself, and nobody who adds an alarm waits for that.
-    QVERIFY(QFileInfo(path + "-wal").size() > 1000 * 4096);
+    QVERIFY(QFileInfo(path + "-wal").size() > Q_INT64_C(4096) * 1000);
     QCOMPARE(QFileInfo(path).size(), before);
     store->takeSnapshot(Now);
     store->waitForSnapshot();
