@@ -44,6 +44,8 @@ FullDisk::FullDisk()
 {
     // What is written beyond the limit ends the process otherwise.
     signal(SIGXFSZ, SIG_IGN);
+    // A program that counts its lines cannot write the counts either, and would say so among what it has to say.
+    qputenv("GCOV_ERROR_FILE", "/dev/null");
     getrlimit(RLIMIT_FSIZE, &m_before);
     const rlimit none{0, m_before.rlim_max};
     setrlimit(RLIMIT_FSIZE, &none);
@@ -52,6 +54,7 @@ FullDisk::FullDisk()
 FullDisk::~FullDisk()
 {
     setrlimit(RLIMIT_FSIZE, &m_before);
+    qunsetenv("GCOV_ERROR_FILE");
 }
 
 ReadOnlyDisk::ReadOnlyDisk(const QString &path)
