@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/commandline/program.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cstdio>
 
@@ -122,6 +124,8 @@ int runWhatIsAsked(const Program &program, const QStringList &arguments)
 int run(const Program &program, const QStringList &arguments)
 {
     const int status = runWhatIsAsked(program, arguments);
+    // What was to be deleted later may have been left behind by the event loop of a command that waited.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     // Of what is written to a full disk or to nobody, the first to hear is whoever asked.
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
         return status;

@@ -22,8 +22,12 @@ Run run(const QString &program, const QStringList &arguments, const QStringList 
     process.start(Places::program(program), arguments);
     const auto isOver = [&] { return process.state() == QProcess::NotRunning; };
     const bool ended = QTest::qWaitFor(isOver, Patience) && process.exitStatus() == QProcess::NormalExit;
-    return {ended ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
+    const Run run{ended ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
+                  QString::fromUtf8(process.readAllStandardError())};
+    // What a test that fails because of it shows is often the exit code alone.
+    if (run.exitCode != 0)
+        qInfo().noquote() << program << arguments << "ended with" << run.exitCode << run.errors;
+    return run;
 }
 
 } // namespace Support
