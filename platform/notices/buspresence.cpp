@@ -4,8 +4,6 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 
 namespace Notices {
 
@@ -18,13 +16,9 @@ BusPresence::BusPresence(const QString &service, const QDBusConnection &bus)
     auto question = QDBusMessage::createMethodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
                                                    "org.freedesktop.DBus", "NameHasOwner");
     question.setArguments({service});
-    auto *call = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
-    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
-        const QDBusPendingReply<bool> reply = *call;
-        if (reply.isValid() && reply.value())
-            setPresent(true);
-        call->deleteLater();
-    });
+    // Not with a watcher: one that is made after the answer came tells of it behind the answers that followed it, and
+    // what has been shown to a server would be shown again because it is said to appear.
+    bus.callWithCallback(question, this, SLOT(setPresent(bool)));
 }
 
 void BusPresence::setPresent(bool present)

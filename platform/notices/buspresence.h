@@ -20,9 +20,10 @@ signals:
     void appeared();
     void vanished();
 
-private:
+private slots:
     void setPresent(bool present);
 
+private:
     QDBusServiceWatcher m_watcher;
     bool m_present = false;
 };
