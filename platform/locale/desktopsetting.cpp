@@ -4,8 +4,6 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 
 namespace Touch {
@@ -42,13 +40,13 @@ void DesktopSetting::ask()
 {
     QDBusMessage read = QDBusMessage::createMethodCall(portal, portalPath, settingsInterface, QStringLiteral("Read"));
     read << m_group << m_key;
-    auto *answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(read), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        answer->deleteLater();
-        const QDBusPendingReply<QDBusVariant> reply = *answer;
-        if (reply.isValid())
-            take(reply.value().variant());
-    });
+    // Not with a watcher: one that is made after the answer came tells of it behind the changes that followed it.
+    QDBusConnection::sessionBus().callWithCallback(read, this, SLOT(answered(QDBusVariant)));
+}
+
+void DesktopSetting::answered(const QDBusVariant &value)
+{
+    take(value.variant());
 }
 
 void DesktopSetting::changed(const QString &, const QString &, const QDBusVariant &value)

@@ -23,6 +23,7 @@ Q_SIGNALS:
     void received(const QVariant &value);
 
 private Q_SLOTS:
+    void answered(const QDBusVariant &value);
     void changed(const QString &group, const QString &key, const QDBusVariant &value);
 
 private:

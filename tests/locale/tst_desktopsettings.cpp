@@ -1,18 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "platform/locale/desktopsetting.h"
 #include "platform/locale/locale.h"
+#include "tests/support/answersfirst.h"
 #include "tests/support/privatebus.h"
 #include "tests/support/settingsportal.h"
 
 #include <memory>
+#include <optional>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTest>
+#include <QThread>
 
 using Touch::Locale;
 
@@ -40,13 +45,23 @@ private Q_SLOTS:
     void tellsEachChangeOnce();
     void asksAPortalThatStartsAgain();
     void theFileWins();
+    void anAnswerIsOlderThanTheChangesBehindIt();
 
 private:
+    static QDBusMessage read(const QString &group, const QString &key);
     static bool write(const QByteArray &settings);
 
     Support::PrivateBus m_bus;
     std::unique_ptr<Support::SettingsPortal> m_portal;
 };
+
+QDBusMessage tst_DesktopSettings::read(const QString &group, const QString &key)
+{
+    auto result = QDBusMessage::createMethodCall(portalName, u"/org/freedesktop/portal/desktop"_qs,
+                                                 u"org.freedesktop.portal.Settings"_qs, u"Read"_qs);
+    result << group << key;
+    return result;
+}
 
 bool tst_DesktopSettings::write(const QByteArray &settings)
 {
@@ -117,10 +132,7 @@ void tst_DesktopSettings::theFileWins()
     m_portal->set(desktop, clockFormat, u"other"_qs);
     m_portal->set(desktop, clockFormat, u"12h"_qs);
     // An answer comes after all that the portal has said before.
-    QDBusMessage read = QDBusMessage::createMethodCall(portalName, u"/org/freedesktop/portal/desktop"_qs,
-                                                       u"org.freedesktop.portal.Settings"_qs, u"Read"_qs);
-    read << u"org.example"_qs << u"key"_qs;
-    const QDBusPendingCallWatcher answer(QDBusConnection::sessionBus().asyncCall(read));
+    const QDBusPendingCallWatcher answer(QDBusConnection::sessionBus().asyncCall(read(u"org.example"_qs, u"key"_qs)));
     QVERIFY(QSignalSpy(&answer, &QDBusPendingCallWatcher::finished).wait());
     QCOMPARE(spy.count(), 1);
     QCOMPARE(time(), u"13:05"_qs);
@@ -129,6 +141,39 @@ void tst_DesktopSettings::theFileWins()
     QVERIFY(spy.wait());
     QCOMPARE(spy.count(), 2);
     QCOMPARE(Locale().timeFormat24h(), Locale::TwelveHour);
+}
+
+void tst_DesktopSettings::anAnswerIsOlderThanTheChangesBehindIt()
+{
+    QVERIFY(m_portal->stop());
+    QVERIFY(Support::PrivateBus::waitForService(portalName, false));
+    auto *portal
+        = new Support::SettingsPortal(QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"another"_qs));
+    portal->set(desktop, clockFormat, u"12h"_qs);
+    QThread thread;
+    portal->moveToThread(&thread);
+    connect(&thread, &QThread::finished, portal, &QObject::deleteLater);
+    const auto end = qScopeGuard([&thread] {
+        thread.quit();
+        thread.wait();
+    });
+    thread.start();
+    QMetaObject::invokeMethod(
+        portal, [portal] { QVERIFY(portal->start()); }, Qt::BlockingQueuedConnection);
+
+    std::optional<Support::AnswersFirst> busyMachine(std::in_place);
+    const Touch::DesktopSetting setting(desktop, clockFormat);
+    busyMachine.reset();
+    QSignalSpy received(&setting, &Touch::DesktopSetting::received);
+    // When a call is answered, all that the portal has said before has come as well.
+    QCOMPARE(QDBusConnection::sessionBus().call(read(desktop, clockFormat)).type(), QDBusMessage::ReplyMessage);
+    QMetaObject::invokeMethod(
+        portal, [portal] { portal->set(desktop, clockFormat, u"24h"_qs); }, Qt::BlockingQueuedConnection);
+    QCOMPARE(QDBusConnection::sessionBus().call(read(desktop, clockFormat)).type(), QDBusMessage::ReplyMessage);
+    QVERIFY(received.isEmpty());
+    QTRY_COMPARE(received.count(), 2);
+    QCOMPARE(received[0][0].toString(), u"12h"_qs);
+    QCOMPARE(received[1][0].toString(), u"24h"_qs);
 }
 
 QTEST_GUILESS_MAIN(tst_DesktopSettings)
