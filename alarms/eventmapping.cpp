@@ -140,10 +140,15 @@ void QmAlarmEvent::moveTriggerToNextRepeatDay()
 
 void QmAlarmEvent::fromAstelTimedEvent(const quint32 &cookie)
 {
+    Astel::Timed::Interface timed;
+    fromAstelTimedEvent(cookie, timed.query_attributes(cookie));
+}
+
+void QmAlarmEvent::fromAstelTimedEvent(const quint32 &cookie, const QDBusPendingCall &asked)
+{
     qDebug() << "QmAlarmEvent::fromAstelTimedEvent entered";
     m_cookie = cookie;
-    Astel::Timed::Interface timed;
-    QDBusPendingReply<QVariantMap> reply = timed.query_attributes(m_cookie);
+    QDBusPendingReply<QVariantMap> reply = asked;
     reply.waitForFinished();
     if (reply.isError())
         qDebug() << "Failed in getting attributes for cookie :" << m_cookie;

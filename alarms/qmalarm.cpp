@@ -5,6 +5,7 @@
 #include "alarms/alarmproperties.h"
 
 #include <QDebug>
+#include <QQueue>
 
 #include <algorithm>
 
@@ -16,6 +17,35 @@ AlarmProperties propertiesOf(const QmAlarmEvent &record)
 {
     return {record.cookie(), record.nextTrigger(), record.isEnabled(), record, record.alarmTime()};
 }
+
+/**
+ * Asks the daemon for one alarm after the other, some of them ahead of the one that is read: where every question waited
+ * for the answer before, each would wake the bus, the daemon and this process anew.
+ */
+class Questions
+{
+public:
+    Questions(Astel::Timed::Interface &timed, const QList<quint32> &cookies)
+        : m_timed(timed)
+        , m_unasked(cookies)
+    { }
+
+    /** The daemon's answer for the next cookie, on its way. */
+    QDBusPendingCall next()
+    {
+        while (!m_unasked.isEmpty() && m_asked.size() < AskedAhead)
+            m_asked.enqueue(m_timed.query_attributes(m_unasked.takeFirst()));
+        return m_asked.dequeue();
+    }
+
+private:
+    // A bus may let a program wait for no more than 128 answers, and refuse the questions beyond.
+    static constexpr qsizetype AskedAhead = 32;
+
+    Astel::Timed::Interface &m_timed;
+    QList<quint32> m_unasked;
+    QQueue<QDBusPendingCall> m_asked;
+};
 
 } // namespace
 
@@ -84,9 +114,12 @@ bool QmAlarm::queryAndSortAlarmCookies(QList<QmAlarmEvent> &alarms)
     const QList<quint32> cookies = query(failed);
     if (failed)
         return true;
+    Questions questions(m_interface, cookies);
     QList<AlarmProperties> entries;
     for (const quint32 cookie : cookies) {
-        entries.append(propertiesOf(QmAlarmEvent(cookie)));
+        QmAlarmEvent record;
+        record.fromAstelTimedEvent(cookie, questions.next());
+        entries.append(propertiesOf(record));
         qDebug() << "trigger time is :" << entries.last().nextTrigger;
     }
     std::sort(entries.begin(), entries.end(), SortTrigger());

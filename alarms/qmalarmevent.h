@@ -8,6 +8,8 @@
 #include <QList>
 #include <QString>
 
+class QDBusPendingCall;
+
 namespace Astel::Timed {
 class Event;
 }
@@ -78,6 +80,8 @@ public:
     void toAstelTimedEvent(Astel::Timed::Event &event);
     /** Fills the record from the daemon and waits for it; a failure is logged and leaves all but the cookie. */
     void fromAstelTimedEvent(const quint32 &cookie);
+    /** The same where the daemon has been asked for the attributes of the cookie already. */
+    void fromAstelTimedEvent(const quint32 &cookie, const QDBusPendingCall &asked);
 
 private:
     void fillEvent(Astel::Timed::Event &event);

@@ -38,6 +38,18 @@ void FakeDaemon::setAttributes(quint32 cookie, const QVariantMap &attributes)
     m_attributes.insert(cookie, attributes);
 }
 
+void FakeDaemon::forget(quint32 cookie)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_attributes.remove(cookie);
+}
+
+qsizetype FakeDaemon::stored() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_attributes.size();
+}
+
 void FakeDaemon::refuse(const QString &method, const QString &text)
 {
     const QMutexLocker lock(&m_mutex);

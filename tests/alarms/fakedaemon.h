@@ -19,6 +19,8 @@ public:
 
     bool isOnTheBus() const { return m_onTheBus; }
     void setAttributes(quint32 cookie, const QVariantMap &attributes);
+    void forget(quint32 cookie);
+    qsizetype stored() const;
     /** Answers every call of a method with this error; with an empty text no more. */
     void refuse(const QString &method, const QString &text);
     /** Answers one call of a method with an error: the first from now on is 1. */

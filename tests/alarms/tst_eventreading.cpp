@@ -17,6 +17,7 @@ namespace {
 
 constexpr quint32 Listed = 7; // in the map of triggers
 constexpr quint32 Unlisted = 8;
+constexpr quint32 FirstOfMany = 100;
 constexpr quint64 ListedTrigger = 1298448000000000000;
 
 QVariantMap sampleAttributes()
@@ -49,6 +50,9 @@ private slots:
     void logsTheAttributes();
     void isReadByTheConstructor();
     void isListedWhenItsAttributesCannotBeRead();
+    void asksOnceForEachListedAlarm();
+    void readsTheOthersWhereOneCannotBeRead();
+    void logsOneListedAlarmAfterTheOther();
 
 private:
     Support::PrivateBus m_bus;
@@ -250,6 +254,63 @@ void EventReadingTest::isListedWhenItsAttributesCannotBeRead()
     QCOMPARE(alarms.size(), 2);
     QVERIFY(alarms.first().isEnabled());
     QVERIFY(alarms.first().title().isNull());
+}
+
+void EventReadingTest::asksOnceForEachListedAlarm()
+{
+    constexpr int Count = 300; // more than a bus lets wait for an answer at once
+    for (int number = 0; number < Count; ++number) {
+        QVariantMap attributes = sampleAttributes();
+        attributes.insert("TITLE", QString::number(FirstOfMany + number));
+        m_daemon->setAttributes(FirstOfMany + number, attributes);
+    }
+    const qsizetype stored = m_daemon->stored();
+    const qsizetype before = m_daemon->calls().size();
+    QList<QmAlarmEvent> alarms;
+    QVERIFY(!Clock::QmAlarm().queryAndSortAlarmCookies(alarms));
+    const QStringList calls = m_daemon->calls().mid(before);
+    QCOMPARE(calls.first(), "query");
+    QCOMPARE(calls.count("query_attributes"), stored);
+    QCOMPARE(calls.size(), 1 + stored);
+    QCOMPARE(alarms.size(), stored);
+    int named = 0;
+    for (const QmAlarmEvent &alarm : std::as_const(alarms))
+        named += alarm.title() == QString::number(alarm.cookie());
+    QCOMPARE(named, Count);
+    for (int number = 0; number < Count; ++number)
+        m_daemon->forget(FirstOfMany + number);
+}
+
+void EventReadingTest::readsTheOthersWhereOneCannotBeRead()
+{
+    for (const quint32 cookie : {Listed, Unlisted, FirstOfMany})
+        m_daemon->setAttributes(cookie, sampleAttributes());
+    m_daemon->refuseOne("query_attributes", 2);
+    QList<QmAlarmEvent> alarms;
+    QVERIFY(!Clock::QmAlarm().queryAndSortAlarmCookies(alarms));
+    QCOMPARE(alarms.size(), 3);
+    for (const QmAlarmEvent &alarm : std::as_const(alarms))
+        QCOMPARE(alarm.title().isNull(), alarm.cookie() == Unlisted);
+    m_daemon->forget(FirstOfMany);
+}
+
+void EventReadingTest::logsOneListedAlarmAfterTheOther()
+{
+    m_daemon->setAttributes(Listed, {{"STATE", "WAITING"}});
+    m_daemon->setAttributes(Unlisted, {{"trigger", "60"}});
+    const Support::LogCapture log;
+    QList<QmAlarmEvent> alarms;
+    QVERIFY(!Clock::QmAlarm().queryAndSortAlarmCookies(alarms));
+    const QString signature = "bool Clock::QmAlarm::queryAndSortAlarmCookies(QList<Clock::QmAlarmEvent>&)";
+    QCOMPARE(
+        log.lines(QtDebugMsg),
+        QStringList({signature + " entered", "QmAlarm::query entered", "QmAlarm::query exited",
+                     "QmAlarmEvent::fromAstelTimedEvent entered",
+                     "Attributes : QMap((\"STATE\", QVariant(QString, \"WAITING\")))",
+                     "QmAlarmEvent::fromAstelTimedEvent exited", QString("trigger time is : %1").arg(ListedTrigger),
+                     "QmAlarmEvent::fromAstelTimedEvent entered",
+                     "Attributes : QMap((\"trigger\", QVariant(QString, \"60\")))",
+                     "QmAlarmEvent::fromAstelTimedEvent exited", "trigger time is : 60", signature + " exited"}));
 }
 
 QTEST_GUILESS_MAIN(EventReadingTest)
