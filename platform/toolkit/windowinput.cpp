@@ -29,10 +29,14 @@ void Window::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Menu && openMenuOfFocus())
         return;
     QGraphicsView::keyPressEvent(event);
-    if (!event->isAccepted() && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Back)) {
-        event->accept();
+    if (event->isAccepted() || (event->key() != Qt::Key_Escape && event->key() != Qt::Key_Back))
+        return;
+    event->accept();
+    // Escape leaves what was opened; the page itself was not. The back key of a phone leaves that too.
+    if (event->key() == Qt::Key_Escape)
+        stepBack();
+    else
         close();
-    }
 }
 
 bool Window::openMenuOfFocus()

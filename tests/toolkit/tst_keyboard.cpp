@@ -331,6 +331,8 @@ void TestKeyboard::escapeGoesOneStepBackAtATime()
     QVERIFY(!editor.isOnDisplay());
     QVERIFY(m_page->isOnDisplay() && m_window->isVisible());
     press(Qt::Key_Escape);
+    QVERIFY2(m_window->isVisible(), "Escape closed the window");
+    press(Qt::Key_Back);
     QVERIFY(!m_window->isVisible());
 }
 

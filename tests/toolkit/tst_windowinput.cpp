@@ -26,7 +26,7 @@ private slots:
     void keepsInputFromWhatASheetCovers();
     void takesInputDuringItsTransition();
     void takesNoInputOnceItGoes();
-    void goesOneStepBackOnEscapeAndClose();
+    void goesOneStepBackOnEscapeBackAndClose();
     void leavesASheetAsItsNegativeAction();
     void closesAtOnceWhenTold();
     void givesTheSecondTapToNothingNew_data();
@@ -103,7 +103,7 @@ void TestWindowInput::takesNoInputOnceItGoes()
     QCOMPARE(below.count(), 1);
 }
 
-void TestWindowInput::goesOneStepBackOnEscapeAndClose()
+void TestWindowInput::goesOneStepBackOnEscapeBackAndClose()
 {
     Sheet first;
     Sheet second;
@@ -118,6 +118,8 @@ void TestWindowInput::goesOneStepBackOnEscapeAndClose()
     QTRY_COMPARE(firstDismissed.count(), 1);
     QVERIFY(m_window->isVisible());
     QTest::keyClick(m_window, Qt::Key_Escape);
+    QVERIFY2(m_window->isVisible(), "Escape closed the window");
+    QTest::keyClick(m_window, Qt::Key_Back);
     QVERIFY(!m_window->isVisible());
 }
 
