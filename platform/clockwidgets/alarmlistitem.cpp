@@ -10,13 +10,14 @@
 
 #include <cmath>
 #include <QPainter>
+#include <QWidget>
 
 using Touch::Locale;
 
 namespace {
 
 constexpr qreal LineGap = 2;
-/** How small, as a share of its designed size, the repeat text gets to fit. */
+/** How small, as a share of its size, the repeat text gets to fit: of the designed one beside the time. */
 constexpr qreal SmallestShare = 0.75;
 /** With larger text than that, what the alarm is called stands below its time. */
 constexpr qreal LargestScaleInLine = 1.25;
@@ -71,7 +72,7 @@ void AlarmListItem::setSubTitle(const QString &text)
     if (m_subTitle == text)
         return;
     m_subTitle = text;
-    update();
+    arrange();
     announceName();
 }
 
@@ -80,7 +81,7 @@ void AlarmListItem::setSubText(const QString &text)
     if (m_subText == text)
         return;
     m_subText = text;
-    update();
+    arrange();
     announceName();
 }
 
@@ -113,35 +114,43 @@ void AlarmListItem::setItemStyle(ItemStyle style)
     if (m_itemStyle == style)
         return;
     m_itemStyle = style;
-    update();
+    arrange();
 }
 
 void AlarmListItem::resizeEvent(QGraphicsSceneResizeEvent *event)
 {
     Pressable::resizeEvent(event);
-    placeSwitch();
+    arrange();
 }
 
 void AlarmListItem::changeEvent(QEvent *event)
 {
     Pressable::changeEvent(event);
     if (event->type() == QEvent::LayoutDirectionChange)
-        placeSwitch();
+        arrange();
 }
 
 void AlarmListItem::styleChanged()
 {
     Pressable::styleChanged();
-    placeSwitch();
+    // Else it would learn of its new size only after it was placed.
+    m_switch->refreshStyle();
+    arrange();
 }
 
-void AlarmListItem::placeSwitch()
+void AlarmListItem::arrange()
 {
-    const QSizeF toggle = m_switch->effectiveSizeHint(Qt::PreferredSize);
-    const QMarginsF padding = style().padding;
-    const QRectF place(size().width() - padding.right() - toggle.width(), (size().height() - toggle.height()) / 2,
-                       toggle.width(), toggle.height());
-    m_switch->setGeometry(mirroredIn(*this, place));
+    const QRectF line = topLine();
+    QRectF place(QPointF(), switchSize());
+    place.moveCenter(line.center());
+    place.moveRight(line.right());
+    m_switch->setGeometry(mirroredIn(*this, place.translated(0, qRound(place.top()) - place.top())));
+    update();
+}
+
+QSizeF AlarmListItem::switchSize() const
+{
+    return m_switch->effectiveSizeHint(Qt::PreferredSize);
 }
 
 QString AlarmListItem::partName(const char *part) const
@@ -177,36 +186,71 @@ QSizeF AlarmListItem::sizeHint(Qt::SizeHint which, const QSizeF &constraint) con
     QSizeF size = Pressable::sizeHint(which, constraint);
     if (which == Qt::MaximumSize || !isStacked())
         return size;
-    const qreal texts = lineHeight("Title") + LineGap + lineHeight("Repeat");
+    const qreal texts = lineHeight("Title") + LineGap + twoRepeatLines();
     const QMarginsF padding = style().padding;
     size.setHeight(qMax(size.height(), lineHeight("Time") + texts + padding.top() + padding.bottom()));
     return size;
 }
 
-// What the alarm is called and how it repeats, between the time and the switch or below the time.
+// As many as a row with large texts has room for.
+qreal AlarmListItem::twoRepeatLines() const
+{
+    return std::ceil(wrappedHeight(*partStyle(*this, "AlarmItemRepeat"), "0\n0", QWIDGETSIZE_MAX));
+}
+
+// What time and switch stand in; stacked, the texts and the line above them stand in the middle together.
+QRectF AlarmListItem::topLine() const
+{
+    QRectF line = rect().marginsRemoved(style().padding);
+    if (isStacked()) {
+        line.setTop(line.top() + qMax(0.0, (line.height() - lineHeight("Time") - textsHeight()) / 2));
+        line.setHeight(lineHeight("Time"));
+    }
+    return line;
+}
+
+// What the alarm is called and how it repeats, between the time and the switch or below them.
 QRectF AlarmListItem::textsRect() const
 {
-    const qreal spacing = style().spacing;
-    QRectF texts = rect().marginsRemoved(style().padding);
-    texts.setRight(texts.right() - m_switch->size().width() - spacing);
-    if (!isStacked()) {
-        texts.setLeft(texts.left() + widestTime() + spacing);
-        return texts;
-    }
-    // One line and the time above it stand together, in the middle.
-    if (m_itemStyle == OneLine) {
-        const qreal free = texts.height() - lineHeight("Time") - (m_subTitle.isEmpty() ? 0 : lineHeight("Title"));
-        texts.adjust(0, free / 2, 0, -free / 2);
-    }
-    texts.setTop(texts.top() + lineHeight("Time"));
-    return texts;
+    const QRectF line = topLine();
+    if (isStacked())
+        return {line.left(), line.bottom(), line.width(), textsHeight()};
+    return {line.left() + widestTime() + style().spacing, line.top(), textsRoom().width(), line.height()};
+}
+
+QSizeF AlarmListItem::textsRoom() const
+{
+    const QSizeF content = rect().marginsRemoved(style().padding).size();
+    if (isStacked())
+        return {content.width(), content.height() - lineHeight("Time")};
+    return {content.width() - widestTime() - switchSize().width() - 2 * style().spacing, content.height()};
 }
 
 QSizeF AlarmListItem::repeatRoom() const
 {
-    const QRectF texts = textsRect();
     const qreal above = m_subTitle.isEmpty() ? 0 : lineHeight("Title") + LineGap;
-    return {texts.width(), texts.height() - above};
+    return textsRoom() - QSizeF(0, above);
+}
+
+qreal AlarmListItem::textsHeight() const
+{
+    const qreal title = m_subTitle.isEmpty() ? 0 : lineHeight("Title");
+    if (m_itemStyle == OneLine)
+        return title;
+    return repeatHeight() + (title > 0 ? title + LineGap : 0);
+}
+
+qreal AlarmListItem::repeatHeight() const
+{
+    const Touch::Style repeat = repeatStyle();
+    const QSizeF room = repeatRoom();
+    const qreal wanted = wrappedHeight(repeat, m_subText, room.width());
+    return wanted <= room.height() ? wanted : QFontMetricsF(repeat.font()).height();
+}
+
+int AlarmListItem::subTextPixelSize() const
+{
+    return repeatStyle().pixelSize;
 }
 
 // Rather on two lines, and rather smaller, than cut off.
@@ -214,8 +258,8 @@ Touch::Style AlarmListItem::repeatStyle() const
 {
     Touch::Style style = *partStyle(*this, QStringLiteral("AlarmItemRepeat"));
     const QSizeF room = repeatRoom();
-    const int designed = style.designedPixelSize > 0 ? style.designedPixelSize : style.pixelSize;
-    const int smallest = qRound(SmallestShare * designed);
+    const bool isEnlarged = !isStacked() && style.designedPixelSize > 0;
+    const int smallest = qRound(SmallestShare * (isEnlarged ? style.designedPixelSize : style.pixelSize));
     while (style.pixelSize > smallest && wrappedHeight(style, m_subText, room.width()) > room.height())
         --style.pixelSize;
     return style;
@@ -233,13 +277,10 @@ void AlarmListItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, Q
     paintBackground(painter, isDown() ? look.pressedBackground : look.background);
     painter->save();
     painter->setLayoutDirection(layoutDirection());
-    const QRectF content = rect().marginsRemoved(look.padding);
-    const QRectF texts = textsRect();
-    QRectF time(content.left(), content.top(), widestTime(), content.height());
-    if (isStacked())
-        time = QRectF(content.left(), texts.top() - lineHeight("Time"), widestTime(), lineHeight("Time"));
+    QRectF time = topLine();
+    time.setWidth(widestTime());
     paintTime(*painter, mirroredIn(*this, time));
-    paintTexts(*painter, mirroredIn(*this, texts));
+    paintTexts(*painter, mirroredIn(*this, textsRect()));
     painter->restore();
     paintFocusRing(painter);
 }
@@ -263,21 +304,16 @@ void AlarmListItem::paintTexts(QPainter &painter, const QRectF &rect) const
         return;
     }
     const Touch::Style repeat = repeatStyle();
-    const QSizeF room = repeatRoom();
-    const qreal wanted = wrappedHeight(repeat, m_subText, room.width());
-    const bool isWhole = wanted <= room.height();
-    const qreal repeatHeight = isWhole ? wanted : QFontMetricsF(repeat.font()).height();
     QRectF place = rect;
     // Without a title nothing hangs below an empty line.
     if (!m_subTitle.isEmpty()) {
-        const qreal titleHeight = QFontMetricsF(title->font()).height();
-        place.setTop(rect.center().y() - (titleHeight + LineGap + repeatHeight) / 2);
-        place.setHeight(titleHeight);
+        place.setTop(rect.center().y() - textsHeight() / 2);
+        place.setHeight(lineHeight("Title"));
         drawPart(painter, place, Qt::AlignLeft | Qt::AlignVCenter, *title, m_subTitle);
         place.moveTop(place.bottom() + LineGap);
-        place.setHeight(repeatHeight);
+        place.setHeight(repeatHeight());
     }
-    const auto draw = isWhole ? drawWrapped : drawPart;
+    const auto draw = showsWholeSubText() ? drawWrapped : drawPart;
     draw(painter, place, Qt::AlignLeft | Qt::AlignVCenter, repeat, m_subText);
 }
 

@@ -40,6 +40,8 @@ public:
     void setSubText(const QString &text);
     /// The repeat text is not elided: it takes more lines and smaller letters first.
     bool showsWholeSubText() const;
+    /// Of the repeat text as it is drawn.
+    int subTextPixelSize() const;
     QString alarmTone() const { return m_alarmTone; }
     void setAlarmTone(const QString &path);
     bool enabled() const;
@@ -71,11 +73,17 @@ protected:
 private:
     bool isStacked() const;
     qreal lineHeight(const char *part) const;
-    void placeSwitch();
+    qreal twoRepeatLines() const;
+    QRectF topLine() const;
+    void arrange();
+    QSizeF switchSize() const;
     TimeLook timeLook() const;
     qreal widestTime() const;
     QRectF textsRect() const;
+    QSizeF textsRoom() const;
+    qreal textsHeight() const;
     QSizeF repeatRoom() const;
+    qreal repeatHeight() const;
     Touch::Style repeatStyle() const;
     void paintTime(QPainter &painter, const QRectF &rect) const;
     void paintTexts(QPainter &painter, const QRectF &rect) const;

@@ -72,6 +72,12 @@ void Switch::exitDisplay()
     Button::exitDisplay();
 }
 
+QSizeF Switch::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
+{
+    const QSizeF size = Button::sizeHint(which, constraint);
+    return which == Qt::MaximumSize ? size : size.expandedTo(style().iconSize + QSizeF(2 * knobGap, 0));
+}
+
 void Switch::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     const Style &look = style();

@@ -67,6 +67,8 @@ private Q_SLOTS:
     void showsTheLastOfManyDays();
     void tellsThatTheRepeatTextIsCutOff();
     void largeTextsStandTogetherInTheMiddle();
+    void theRepeatTextFollowsTheSizeOfText();
+    void theSwitchFollowsTheSizeOfText();
     void showsNothingForAnInvalidTime();
     void followsTheTimeFormat();
     void standsTheOtherWayRoundFromRightToLeft();
@@ -293,6 +295,37 @@ void tst_AlarmListItem::largeTextsStandTogetherInTheMiddle()
     const int below = 199 - inked.last();
     QVERIFY2(qAbs(above - below) <= 8, qPrintable(QStringLiteral("%1 above, %2 below").arg(above).arg(below)));
     QVERIFY2(inked.last() - inked.first() < 100, "the title hangs below the time");
+}
+
+void tst_AlarmListItem::theRepeatTextFollowsTheSizeOfText()
+{
+    Scene scene;
+    scene.item->setItemStyle(AlarmListItem::WithRepeatLine);
+    scene.item->setSubText("Mon, Tue, Wed");
+    scene.item->setGeometry(0, 100, 480, scene.item->effectiveSizeHint(Qt::PreferredSize).height());
+    const int usual = scene.item->subTextPixelSize();
+    Touch::Theme::instance().setTextScale(2);
+    const auto restore = qScopeGuard([] { Touch::Theme::instance().setTextScale(1); });
+    scene.item->setGeometry(0, 100, 360, scene.item->effectiveSizeHint(Qt::PreferredSize).height());
+    scene.item->setSubText("Mon, Tue, Wed, Thu, Fri, Sat");
+    QCOMPARE(scene.item->subTextPixelSize(), 2 * usual);
+    QVERIFY(scene.item->showsWholeSubText());
+    // What is longer than the room for it becomes smaller, but not as small as it was.
+    scene.item->setSubText("Monday, Tuesday, Wednesday, Thursday, Friday, Saturday");
+    QVERIFY(scene.item->subTextPixelSize() >= 1.5 * usual);
+}
+
+void tst_AlarmListItem::theSwitchFollowsTheSizeOfText()
+{
+    const Scene scene;
+    const QGraphicsItem *toggle = scene.item->childItems().constFirst();
+    const QRectF usual = toggle->boundingRect();
+    Touch::Theme::instance().setTextScale(2);
+    const auto restore = qScopeGuard([] { Touch::Theme::instance().setTextScale(1); });
+    scene.item->resize(360, scene.item->effectiveSizeHint(Qt::PreferredSize).height());
+    const QRectF large = toggle->boundingRect();
+    QVERIFY(large.width() > 1.3 * usual.width() && large.height() > 1.3 * usual.height());
+    QVERIFY(scene.item->rect().contains(toggle->mapRectToParent(large)));
 }
 
 void tst_AlarmListItem::showsNothingForAnInvalidTime()

@@ -16,7 +16,9 @@
 #include "platform/clockwidgets/tonefilesheet_p.h"
 #include "platform/ringer/plainscreen.h"
 #include "platform/toolkit/applicationwindow.h"
+#include "platform/toolkit/button.h"
 #include "platform/toolkit/combobox.h"
+#include "platform/toolkit/label.h"
 #include "platform/toolkit/objectmenu.h"
 #include "platform/toolkit/pannableviewport.h"
 #include "platform/toolkit/textedit.h"
@@ -38,6 +40,7 @@ using Touch::SceneWindow;
 namespace {
 
 constexpr QSize Narrow(360, 720);
+constexpr qreal LeastGap = 12;
 // On a busy machine.
 constexpr int Patience = 30'000;
 
@@ -152,10 +155,19 @@ void LanguageTour::visitMainPage()
     expect(QTest::qWaitFor([this] { return Support::countIn<AlarmListItem>(m_mainPage.get()) == 3; }, Patience),
            "alarms");
     look("main");
+    expectRoomBesideHeader();
     Touch::ObjectMenu::open(Support::itemIn<AlarmListItem>(m_mainPage.get()));
     expect(onTopOf<Touch::ObjectMenu>(m_window.get()), "menu of an alarm");
     look("menu");
     m_window->stepBack();
+}
+
+void LanguageTour::expectRoomBesideHeader()
+{
+    const QRectF header = Support::itemIn<Touch::Label>(m_mainPage.get(), "AlarmsHeader")->sceneBoundingRect();
+    const QRectF button = Support::itemIn<Touch::Button>(m_mainPage.get(), "newAlarmButton")->sceneBoundingRect();
+    const qreal gap = qMax(button.left() - header.right(), header.left() - button.right());
+    expect(gap >= LeastGap, "room between the header and the button beside it");
 }
 
 void LanguageTour::visitEditor()

@@ -45,6 +45,7 @@ private:
     void visitRingScreen(const QString &stopGesture);
     /** What rings where no plug-in does. */
     void visitPlainRingScreen();
+    void expectRoomBesideHeader();
     /** In the window that is in front. */
     void look(const QString &what);
     void look(const QString &what, QGraphicsView *window);
