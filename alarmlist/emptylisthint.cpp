@@ -12,6 +12,7 @@ namespace {
 
 /** Larger text needs the room of the picture. */
 constexpr qreal LargestScaleWithImage = 1.5;
+constexpr qreal LeastHeightWithImage = 180;
 
 Touch::Label *line(const QString &text, const QString &styleName)
 {
@@ -45,9 +46,21 @@ EmptyListHint::EmptyListHint(QGraphicsItem *parent)
     EmptyListHint::styleChanged();
 }
 
-// Words before pictures.
 void EmptyListHint::styleChanged()
 {
     StylableWidget::styleChanged();
-    m_image->setVisible(Touch::Theme::instance().textScale() <= LargestScaleWithImage);
+    fitImage();
+}
+
+void EmptyListHint::resizeEvent(QGraphicsSceneResizeEvent *event)
+{
+    StylableWidget::resizeEvent(event);
+    fitImage();
+}
+
+// Words before pictures.
+void EmptyListHint::fitImage()
+{
+    m_image->setVisible(Touch::Theme::instance().textScale() <= LargestScaleWithImage
+                        && size().height() >= LeastHeightWithImage);
 }

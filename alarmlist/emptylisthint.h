@@ -18,7 +18,10 @@ public:
 
 protected:
     void styleChanged() override;
+    void resizeEvent(QGraphicsSceneResizeEvent *event) override;
 
 private:
+    void fitImage();
+
     Touch::ImageWidget *m_image;
 };

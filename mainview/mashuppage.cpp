@@ -12,12 +12,17 @@
 #include "platform/toolkit/linearlayoutpolicy.h"
 #include "platform/toolkit/pannableviewport.h"
 #include "platform/toolkit/separator.h"
+#include "platform/toolkit/window.h"
 
 #include <QDebug>
+#include <QtMath>
 
 using Touch::LinearLayoutPolicy;
 
 namespace {
+
+/** The largest part of the height that the clock face takes above the alarms. */
+constexpr qreal ClockFaceShare = 0.45;
 
 LinearLayoutPolicy *arrangement(Touch::Layout *layout, Qt::Orientation orientation)
 {
@@ -52,6 +57,7 @@ void MashupPage::createContent()
     m_clockFace->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_dropShadow = new DropShadow;
     arrange(layout, createAlarmList());
+    fitClockFace();
     followDaemonSettings();
 }
 
@@ -103,6 +109,28 @@ void MashupPage::arrange(Touch::Layout *layout, Touch::PannableViewport *viewpor
     portrait->addItem(divider);
     portrait->addItem(viewport);
     layout->setPortraitPolicy(portrait);
+}
+
+void MashupPage::resizeEvent(QGraphicsSceneResizeEvent *event)
+{
+    fitClockFace();
+    Touch::ApplicationPage::resizeEvent(event);
+}
+
+void MashupPage::styleChanged()
+{
+    Touch::ApplicationPage::styleChanged();
+    fitClockFace();
+}
+
+// In a low window it becomes smaller, so that alarms are seen as well.
+void MashupPage::fitClockFace()
+{
+    if (!m_clockFace)
+        return;
+    const bool isAboveAlarms = !hostWindow() || hostWindow()->orientation() == Qt::Vertical;
+    const qreal room = paddedRect().height() * (isAboveAlarms ? ClockFaceShare : 1);
+    m_clockFace->setPreferredHeight(qMin<qreal>(m_clockFace->style().preferredSize.height(), qFloor(room)));
 }
 
 void MashupPage::followDaemonSettings()

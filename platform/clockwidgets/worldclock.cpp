@@ -17,6 +17,8 @@ namespace {
 
 constexpr qreal DateHeight = 28;
 constexpr qreal ZoneHeight = 20;
+constexpr auto DateStyle = "ClockDate";
+constexpr auto ZoneStyle = "ClockZone";
 
 constexpr auto FaceKey = "WorldClock/face";
 
@@ -36,11 +38,30 @@ WorldClock::Face rememberedFace()
     return settings().value(FaceKey).toString() == faceName(Face::Digital) ? Face::Digital : Face::Analogue;
 }
 
-/// A line's height that leaves room for the user's size of text.
-qreal lineHeight(const Touch::Style &style, qreal usual)
+/// A face lower than that has the date beside it.
+constexpr qreal SmallestHeightAboveDate = 128;
+
+/// A text in one line.
+struct Line
 {
-    return qMax(usual, QFontMetricsF(style.font()).height());
-}
+    std::shared_ptr<const Touch::Style> style;
+    QString text;
+    qreal height; ///< leaves room for the user's size of text
+
+    Line(const WorldClock &clock, const char *styleName, const QString &shown, qreal usualHeight)
+        : style(partStyle(clock, QLatin1String(styleName)))
+        , text(shown)
+        , height(qMax(usualHeight, QFontMetricsF(style->font()).height()))
+    { }
+
+    // Rather smaller than cut off.
+    void paint(QPainter &painter, const QRectF &rect, Qt::Alignment alignment) const
+    {
+        Touch::Style fitting = *style;
+        fitting.pixelSize = int(style->pixelSize * qMin(1.0, rect.width() / textWidth(*style, text)));
+        drawPart(painter, rect, alignment, fitting, text);
+    }
+};
 
 } // namespace
 
@@ -131,41 +152,67 @@ void WorldClock::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWid
         paintBackground(painter, style().pressedBackground, false);
     painter->save();
     painter->setLayoutDirection(layoutDirection());
-    QRectF area = paddedRect();
-    const QString dateStyle = QStringLiteral("ClockDate");
-    const QString zoneStyle = QStringLiteral("ClockZone");
-    QRectF zone = area;
-    zone.setTop(area.bottom() - lineHeight(*partStyle(*this, zoneStyle), ZoneHeight));
-    QRectF date(area.left(), 0, area.width(), lineHeight(*partStyle(*this, dateStyle), DateHeight));
-    date.moveBottom(zone.top());
-    area.setBottom(date.top() - style().spacing);
-    if (m_face == Face::Analogue)
-        m_clockFace->paint(*painter, area.center(), qMin(area.width(), area.height()), m_now.time(), isOnDisplay());
+    const QRectF area = paddedRect();
+    const qreal below = Line(*this, DateStyle, dateText(), DateHeight).height
+        + Line(*this, ZoneStyle, zoneText(), ZoneHeight).height + style().spacing;
+    if (area.height() - below >= SmallestHeightAboveDate || area.width() < 2 * area.height())
+        paintBelowEachOther(*painter, area);
     else
-        paintDigits(*painter, area);
-    paintLine(*painter, date, dateStyle, dateText());
-    paintLine(*painter, zone, zoneStyle, zoneText());
+        paintBesideEachOther(*painter, area);
     painter->restore();
     paintFocusRing(painter);
 }
 
+void WorldClock::paintBelowEachOther(QPainter &painter, const QRectF &area) const
+{
+    const Line date(*this, DateStyle, dateText(), DateHeight);
+    const Line zone(*this, ZoneStyle, zoneText(), ZoneHeight);
+    QRectF place(area.left(), area.bottom() - zone.height, area.width(), zone.height);
+    zone.paint(painter, place, Qt::AlignCenter);
+    place.setTop(place.top() - date.height);
+    place.setHeight(date.height);
+    date.paint(painter, place, Qt::AlignCenter);
+    paintFace(painter, QRectF(area.topLeft(), QPointF(area.right(), place.top() - style().spacing)));
+}
+
+// Face and texts stand in the middle together.
+void WorldClock::paintBesideEachOther(QPainter &painter, const QRectF &area) const
+{
+    const Line date(*this, DateStyle, dateText(), DateHeight);
+    const Line zone(*this, ZoneStyle, zoneText(), ZoneHeight);
+    const qreal gap = 1.5 * style().spacing;
+    const qreal faceWidth = m_face == Face::Analogue ? area.height() : area.width() / 2 - gap;
+    const qreal wanted = qMax(textWidth(*date.style, date.text), textWidth(*zone.style, zone.text)) + 1;
+    const qreal textsWidth = qMin(wanted, area.width() - faceWidth - gap);
+    const qreal left = area.center().x() - (faceWidth + gap + textsWidth) / 2;
+    paintFace(painter, mirroredIn(*this, QRectF(left, area.top(), faceWidth, area.height())));
+    QRectF place(left + faceWidth + gap, area.center().y() - (date.height + zone.height) / 2, textsWidth, date.height);
+    date.paint(painter, mirroredIn(*this, place), Qt::AlignLeft | Qt::AlignVCenter);
+    place.setTop(place.bottom());
+    place.setHeight(zone.height);
+    zone.paint(painter, mirroredIn(*this, place), Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void WorldClock::paintFace(QPainter &painter, const QRectF &rect) const
+{
+    if (m_face == Face::Analogue)
+        m_clockFace->paint(painter, rect.center(), qMin(rect.width(), rect.height()), m_now.time(), isOnDisplay());
+    else
+        paintDigits(painter, rect);
+}
+
 void WorldClock::paintDigits(QPainter &painter, const QRectF &rect) const
 {
-    const TimeLook look{partStyle(*this, QStringLiteral("ClockDigits")),
-                        partStyle(*this, QStringLiteral("ClockMarker"))};
+    Touch::Style digits = *partStyle(*this, QStringLiteral("ClockDigits"));
+    // Digits reach neither up nor down: their line has room to spare.
+    const qreal share = qMin(1.0, rect.height() / digits.pixelSize);
+    digits.pixelSize = int(digits.pixelSize * share);
+    const TimeLook look{std::make_shared<Touch::Style>(digits), partStyle(*this, QStringLiteral("ClockMarker"))};
     const TimeText text = timeText(Locale::getDefault(), m_now.time());
     QRectF place = rect;
     place.setWidth(timeWidth(look, text));
     place.moveCenter(rect.center());
     drawTime(painter, place, look, text);
-}
-
-void WorldClock::paintLine(QPainter &painter, const QRectF &rect, const QString &styleName, const QString &text) const
-{
-    Touch::Style style = *partStyle(*this, styleName);
-    // Rather smaller than cut off.
-    style.pixelSize = int(style.pixelSize * qMin(1.0, rect.width() / textWidth(style, text)));
-    drawPart(painter, rect, Qt::AlignCenter, style, text);
 }
 
 QString WorldClock::dateText() const

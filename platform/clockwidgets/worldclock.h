@@ -9,8 +9,8 @@
 
 class ClockFace;
 
-/// The time of day, analogue or digital, with the date and the zone's name under it, in the user's locale. A tap shows
-/// the other face, with which every clock then starts: it is kept in the settings of the clock widgets.
+/// The time of day, analogue or digital, with the date and the zone's name under it, or beside it where that leaves the
+/// face too little height, in the user's locale. A tap shows the other face, with which every clock then starts: it is kept in the settings of the clock widgets.
 /// It ticks only while it can be seen: every second with the seconds hand, every minute without.
 class WorldClock : public Touch::Pressable
 {
@@ -51,8 +51,10 @@ private:
     void localeChanged();
     QString dateText() const;
     QString zoneText() const;
+    void paintBelowEachOther(QPainter &painter, const QRectF &area) const;
+    void paintBesideEachOther(QPainter &painter, const QRectF &area) const;
+    void paintFace(QPainter &painter, const QRectF &rect) const;
     void paintDigits(QPainter &painter, const QRectF &rect) const;
-    void paintLine(QPainter &painter, const QRectF &rect, const QString &styleName, const QString &text) const;
 
     std::unique_ptr<ClockTicker> m_ticker;
     std::unique_ptr<ClockFace> m_clockFace;

@@ -80,6 +80,8 @@ private Q_SLOTS:
     void anotherFaceLooksDifferent();
     void followsTheUsersLocale();
     void takesAboutTwoFifthsOfThePage();
+    void inALowPlaceTheDateStandsBesideTheFace_data();
+    void inALowPlaceTheDateStandsBesideTheFace();
 };
 
 void tst_WorldClock::init()
@@ -287,6 +289,39 @@ void tst_WorldClock::takesAboutTwoFifthsOfThePage()
     const WorldClock clock;
     const qreal part = clock.preferredHeight() / 854;
     QVERIFY2(part >= 0.36 && part <= 0.40, qPrintable(QString::number(part)));
+}
+
+void tst_WorldClock::inALowPlaceTheDateStandsBesideTheFace_data()
+{
+    QTest::addColumn<WorldClock::Face>("face");
+    QTest::newRow("analogue") << WorldClock::Face::Analogue;
+    QTest::newRow("digital") << WorldClock::Face::Digital;
+}
+
+void tst_WorldClock::inALowPlaceTheDateStandsBesideTheFace()
+{
+    QFETCH(WorldClock::Face, face);
+    Scene scene;
+    scene.clock->setFace(face);
+    scene.clock->setGeometry(QRectF(0, 0, 480, 136));
+    QVERIFY(scene.stage.show());
+    const QImage picture = scene.stage.window.grab().toImage();
+    QRect inked;
+    QRect inkedAtLeft;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) == picture.pixel(0, 0))
+                continue;
+            inked |= QRect(x, y, 1, 1);
+            if (x < 200)
+                inkedAtLeft |= QRect(x, y, 1, 1);
+        }
+    }
+    QVERIFY(QRect(0, 0, 480, 136).contains(inked));
+    // A face that can be read, and all of the width that the date takes beside it.
+    const int least = face == WorldClock::Face::Analogue ? 90 : 40;
+    QVERIFY2(inkedAtLeft.height() >= least, qPrintable(QString::number(inkedAtLeft.height())));
+    QVERIFY2(inked.width() >= 250, qPrintable(QString::number(inked.width())));
 }
 
 QTEST_MAIN(tst_WorldClock)

@@ -45,6 +45,8 @@ private slots:
     void theDividerFollowsTheWidth();
     void theShadowFadesDownwards();
     void aLongListLeavesTheClockItsSize();
+    void aLowWindowHasRoomForAlarms_data();
+    void aLowWindowHasRoomForAlarms();
     void inLandscapeTheClockStandsBesideTheAlarms();
     void resettingResetsTheAlarmList();
     void everySettingsChangeReadsTheAlarmsOnce();
@@ -218,6 +220,31 @@ void TestMashupPage::aLongListLeavesTheClockItsSize()
     alarms->setPreferredHeight(5000);
     QTRY_VERIFY(viewport->range().y() > 0 || alarms->size().height() >= 5000);
     QCOMPARE(clock->size(), size);
+}
+
+void TestMashupPage::aLowWindowHasRoomForAlarms_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize size : {QSize(360, 640), QSize(854, 480), QSize(640, 360), QSize(900, 300)})
+        QTest::addRow("%dx%d", size.width(), size.height()) << size;
+}
+
+void TestMashupPage::aLowWindowHasRoomForAlarms()
+{
+    QFETCH(const QSize, size);
+    const QSize usual = m_window->size();
+    // As start-up has it.
+    m_window->setOrientationLocked(true);
+    m_page->appear(m_window.get());
+    m_window->resize(size);
+    const auto *clock = Support::itemIn<WorldClock>(m_page.get());
+    const auto *viewport = Support::itemIn<Touch::PannableViewport>(m_page.get());
+    QTRY_COMPARE(m_page->size(), QSizeF(size));
+    QTRY_VERIFY2(viewport->size().height() >= size.height() / 2, "the clock takes too much");
+    QVERIFY(clock->size().height() >= 116);
+    QCOMPARE(viewport->mapRectToScene(viewport->rect()).bottom(), qreal(size.height()));
+    m_window->resize(usual);
+    m_window->setOrientationLocked(false);
 }
 
 void TestMashupPage::inLandscapeTheClockStandsBesideTheAlarms()
