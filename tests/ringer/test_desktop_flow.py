@@ -5,6 +5,7 @@
 
     test_desktop_flow.py BUILD-FOLDER
 """
+import pathlib
 import time
 import unittest
 
@@ -38,6 +39,14 @@ class DesktopCase(PhoneCase):
 
     def wait_for_closed(self, number):
         phone.wait_for(lambda: number in self.desktop.closed(), 10, "notification gone")
+
+    def kill_once_it_knows(self, program, number):
+        """Kills a program that has shown a notification, once it was answered the number and has put it down. Nobody
+        after it can know the number of one that it was not answered yet."""
+        record = pathlib.Path(self.phone.environment["XDG_RUNTIME_DIR"], f"{program}.notices")
+        phone.wait_for(lambda: record.exists() and f" {number}\n" in record.read_text(encoding="ascii"), 10,
+                       f"{program} knows notification {number}")
+        self.phone.kill(f"com.astel.{program}")
 
 
 class DesktopFlow(DesktopCase):
@@ -84,7 +93,7 @@ class DesktopFlow(DesktopCase):
 
     def test_the_next_ringer_takes_back_what_a_killed_one_left(self):
         cookie, (number, _, _, _) = self.ring("Wake up")
-        self.phone.kill("com.astel.ringer")
+        self.kill_once_it_knows("ringer", number)
         self.wait_for_closed(number)
         again, _, keys, _ = self.wait_for_notices("Wake up", 2)
         self.desktop.choose(again, keys["Stop"])
@@ -95,7 +104,7 @@ class DesktopFlow(DesktopCase):
         cookie, (number, _, keys, _) = self.ring("Wake up")
         self.desktop.choose(number, keys["Snooze · 10 min"])
         snoozed, _, _, _ = self.wait_for_notices("Wake up", 2)
-        self.phone.kill("com.astel.timed")
+        self.kill_once_it_knows("timed", snoozed)
         self.assertEqual(self.state(cookie), "SNOOZED")
         self.wait_for_closed(snoozed)
         again, _, keys, _ = self.wait_for_notices("Wake up", 3)
