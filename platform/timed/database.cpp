@@ -152,7 +152,7 @@ Database::Condition Database::prepare()
 {
     QSqlQuery query(connection());
     for (const char *statement :
-         {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL", KeepLog, "PRAGMA integrity_check"}) {
+         {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL", KeepCacheSmall, KeepLog, "PRAGMA integrity_check"}) {
         if (!query.exec(statement))
             return conditionAfter(query.lastError());
     }

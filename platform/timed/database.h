@@ -31,6 +31,11 @@ public:
     /** Whether a damaged file was replaced when this one was opened. */
     bool wasRestored() const { return m_restored; }
     static QString snapshotOf(const QString &path) { return path + ".snapshot"; }
+    /**
+     * What every connection to the store runs first. A change touches a few pages, and a copy reads each page once: the
+     * usual cache would keep the whole file in memory beside the events.
+     */
+    static constexpr auto KeepCacheSmall = "PRAGMA cache_size=-256";
 
     /** The error that a failed statement ended with. */
     static Error failure(const QString &what, const QString &why);

@@ -26,7 +26,8 @@ public:
         QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", m_name);
         database.setDatabaseName(path);
         database.setConnectOptions("QSQLITE_BUSY_TIMEOUT=1000");
-        database.open();
+        if (database.open())
+            run(Database::KeepCacheSmall);
     }
     ~Connection() { QSqlDatabase::removeDatabase(m_name); }
     Q_DISABLE_COPY(Connection)

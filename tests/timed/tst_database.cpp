@@ -52,6 +52,7 @@ class tst_Database : public QObject
 private slots:
     void init() { m_folder = std::make_unique<StoreFolder>(); }
 
+    void keepsFewPagesInMemory();
     void secondStoreIsRefused();
     void newerSchemaIsRefusedAndLeftAlone();
     void folderThatCannotBeMadeIsRefused();
@@ -100,6 +101,16 @@ void tst_Database::writeVersionOne() const
          " detail TEXT NOT NULL)",
          "CREATE INDEX journal_moment ON journal (moment)",
          QStringLiteral("INSERT INTO journal VALUES (%1, 5, 'due', '0 ms late')").arg(Now), "PRAGMA user_version=1"}));
+}
+
+void tst_Database::keepsFewPagesInMemory()
+{
+    const auto database = Database::open(folder());
+    QVERIFY(database);
+    QSqlQuery query("PRAGMA cache_size", (*database)->connection());
+    QVERIFY(query.next());
+    // In KiB where it is negative.
+    QCOMPARE(query.value(0).toInt(), -256);
 }
 
 void tst_Database::secondStoreIsRefused()
