@@ -68,6 +68,22 @@ Result<quint32> EventBook::nextCookie(quint32 count) const
     return m_lastCookie + 1;
 }
 
+Wire::Attributes EventBook::sharing(const Wire::Attributes &attributes) const
+{
+    if (m_events.empty())
+        return attributes;
+    const Wire::Attributes &others = m_events.rbegin()->second.wire().attributes;
+    Wire::Attributes result;
+    for (auto it = attributes.begin(); it != attributes.end(); ++it) {
+        const auto other = others.find(it.key());
+        if (other == others.end())
+            result.insert(result.end(), it.key(), it.value());
+        else
+            result.insert(result.end(), other.key(), *other == *it ? *other : *it);
+    }
+    return result;
+}
+
 Result<> EventBook::commit(const Change &change)
 {
     auto committed = m_store.commit(change);

@@ -29,6 +29,8 @@ public:
     QList<Miss> untold() const;
     /** The first of the cookies for so many new events; fails when all have been given. */
     Result<quint32> nextCookie(quint32 count = 1) const;
+    /** The same attributes, of which those that the newest event has as well share its texts in memory. */
+    Wire::Attributes sharing(const Wire::Attributes &attributes) const;
     Result<> commit(const Change &change);
     QList<Wire::JournalEntry> journal(qint64 since) const { return m_store.journal(since); }
 

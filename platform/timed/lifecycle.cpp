@@ -55,7 +55,10 @@ void LifeCycle::start()
 
 AlarmEvent LifeCycle::fresh(quint32 cookie, const Wire::Event &wire) const
 {
-    AlarmEvent event(cookie, wire);
+    Wire::Event kept = wire;
+    // From the bus, every event comes with all its texts, which are most of what it takes.
+    kept.attributes = m_book.sharing(wire.attributes);
+    AlarmEvent event(cookie, kept);
     const qint64 now = m_clock.now();
     // A ticker that has just passed still rings, as any moment does.
     event.wait(momentAfter(wire, m_zone.zone(), wire.recurrences.isEmpty() ? now - MaximalLateness : now), now);

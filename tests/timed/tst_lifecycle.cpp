@@ -37,6 +37,7 @@ private slots:
     void comingTriggersRepeatRecurringEvents();
     void tooManyEventsAreRefused();
     void cookiesEndAtTheirLimit();
+    void textsThatTwoEventsHoldAreKeptOnce();
 };
 
 void tst_LifeCycle::newEventStandsAsItsTimesSay_data()
@@ -213,6 +214,26 @@ void tst_LifeCycle::cookiesEndAtTheirLimit()
     world.restart(Start);
     QCOMPARE(world.add(daily7()), 2147483647u);
     QCOMPARE(world.parts->service.add(daily7()).error().name, QLatin1String(Wire::LimitError));
+}
+
+void tst_LifeCycle::textsThatTwoEventsHoldAreKeptOnce()
+{
+    World world(Start);
+    Wire::Event one = daily7();
+    one.attributes = {{"APPLICATION", "clock"}, {"PLUGIN", "screen"}, {"TITLE", "One"}};
+    Wire::Event two = daily7();
+    two.attributes = {{"APPLICATION", "clock"}, {"NOTE", "more"}, {"TITLE", "Two"}};
+    const quint32 first = world.add(one);
+    const quint32 second = world.add(two);
+    const Wire::Attributes older = world.parts->book.find(first)->wire().attributes;
+    const Wire::Attributes newer = world.parts->book.find(second)->wire().attributes;
+    QCOMPARE(older, one.attributes);
+    QCOMPARE(newer, two.attributes);
+    const auto place = [](const QString &text) { return static_cast<const void *>(text.constData()); };
+    const auto application = newer.constFind("APPLICATION");
+    QCOMPARE(place(application.key()), place(older.constFind("APPLICATION").key()));
+    QCOMPARE(place(*application), place(older["APPLICATION"]));
+    QCOMPARE(place(newer.constFind("TITLE").key()), place(older.constFind("TITLE").key()));
 }
 
 QTEST_GUILESS_MAIN(tst_LifeCycle)
