@@ -6,6 +6,7 @@
 #include "platform/timed/moments.h"
 #include "platform/timed/signals.h"
 
+#include <malloc.h>
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QFile>
@@ -58,6 +59,8 @@ int run(QCoreApplication &application)
 
 int main(int argc, char *argv[])
 {
+    // One heap for its few threads: each of their own would keep what the thread once needed, for a snapshot say.
+    mallopt(M_ARENA_MAX, 1);
     // Its threads wait for nothing of GLib's, without whose loop each call is answered sooner.
     qputenv("QT_NO_GLIB", "1");
     QCoreApplication application(argc, argv);
