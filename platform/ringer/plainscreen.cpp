@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/ringer/plainscreen.h"
 
+#include "platform/locale/textscale.h"
 #include "platform/ringer/texts/ringtexts.h"
 
 #include <QCloseEvent>
@@ -16,15 +17,20 @@ namespace Ringer {
 
 namespace {
 
-QLabel *createLabel(int points)
+// In pixels, before they grow with the user's size of text.
+constexpr int TimeSize = 75;
+constexpr int TitleSize = 27;
+constexpr int ButtonSize = 24;
+constexpr int AnswersApart = 96;
+/** Between the text of a button and its edges, both together. */
+constexpr int ButtonPadding = 24;
+
+QLabel *createLabel()
 {
     auto *label = new QLabel;
     label->setTextFormat(Qt::PlainText);
-    label->setAlignment(Qt::AlignCenter);
+    label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     label->setWordWrap(true);
-    auto font = label->font();
-    font.setPointSize(points);
-    label->setFont(font);
     return label;
 }
 
@@ -33,10 +39,38 @@ QPushButton *createButton(const char *name)
     auto *button = new QPushButton;
     button->setObjectName(QLatin1String(name));
     button->setMinimumHeight(96);
-    auto font = button->font();
-    font.setPointSize(18);
-    button->setFont(font);
+    // However large its text, it is as wide as the screen.
+    button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return button;
+}
+
+QFont sized(QFont font, int pixelSize)
+{
+    font.setPixelSize(pixelSize);
+    return font;
+}
+
+bool fits(const QLabel *label, const QFont &font)
+{
+    const QRect room = label->contentsRect();
+    const QRect endless(0, 0, room.width(), QWIDGETSIZE_MAX);
+    const QSize needed = QFontMetrics(font).boundingRect(endless, Qt::TextWordWrap, label->text()).size();
+    return needed.width() <= room.width() && needed.height() <= room.height();
+}
+
+bool fits(const QPushButton *button, const QFont &font)
+{
+    return QFontMetrics(font).horizontalAdvance(button->text()) + ButtonPadding <= button->width();
+}
+
+/** As large as the user wants it or as fits, but not smaller than designed. */
+template <typename Widget>
+void fitText(Widget *widget, int designedSize, qreal scale)
+{
+    QFont font = sized(widget->font(), Touch::TextScale::pixelSize(designedSize, scale));
+    while (font.pixelSize() > designedSize && !fits(widget, font))
+        font.setPixelSize(font.pixelSize() - 1);
+    widget->setFont(font);
 }
 
 auto withCookie(quint32 cookie)
@@ -47,24 +81,30 @@ auto withCookie(quint32 cookie)
 } // namespace
 
 PlainScreen::PlainScreen()
-    : m_time(createLabel(56))
-    , m_title(createLabel(20))
+    : m_textScale(Touch::TextScale::bounded(1))
+    , m_time(createLabel())
+    , m_title(createLabel())
     , m_snooze(createButton("snooze"))
     , m_stop(createButton("stop"))
 {
+    m_time->setObjectName(QStringLiteral("time"));
+    m_title->setObjectName(QStringLiteral("title"));
+    // A long title never takes the answers off the screen.
+    m_title->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     setWindowFlag(Qt::WindowStaysOnTopHint);
     resize(480, 854);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->addStretch(1);
     layout->addWidget(m_time);
-    layout->addWidget(m_title);
-    layout->addStretch(1);
+    layout->addWidget(m_title, 2);
     layout->addWidget(m_snooze);
-    layout->addSpacing(96);
+    layout->addSpacing(AnswersApart);
     layout->addWidget(m_stop);
     connect(m_snooze, &QPushButton::clicked, this, &PlainScreen::snooze);
     connect(m_stop, &QPushButton::clicked, this, &PlainScreen::dismiss);
+    const auto *scale = new Touch::TextScale(this);
+    connect(scale, &Touch::TextScale::received, this, &PlainScreen::setTextScale);
 }
 
 PlainScreen::~PlainScreen() = default;
@@ -106,6 +146,28 @@ void PlainScreen::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
+void PlainScreen::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fitTexts();
+}
+
+void PlainScreen::setTextScale(qreal scale)
+{
+    m_textScale = scale;
+    fitTexts();
+}
+
+void PlainScreen::fitTexts()
+{
+    fitText(m_snooze, ButtonSize, m_textScale);
+    fitText(m_stop, ButtonSize, m_textScale);
+    // The time takes as much of the height as it needs, the title what is left.
+    m_time->setFont(sized(m_time->font(), Touch::TextScale::pixelSize(TimeSize, m_textScale)));
+    layout()->activate();
+    fitText(m_title, TitleSize, m_textScale);
+}
+
 void PlainScreen::refresh()
 {
     setVisible(!m_alarms.isEmpty());
@@ -119,6 +181,7 @@ void PlainScreen::refresh()
     m_snooze->setVisible(alarm.snoozeSeconds > 0);
     m_stop->setText(RingTexts::stop());
     showFullScreen();
+    fitTexts();
     raise();
     m_snooze->setFocus();
 }

@@ -3,6 +3,7 @@
 #include "platform/toolkit/desktoplook.h"
 
 #include "platform/locale/desktopsetting.h"
+#include "platform/locale/textscale.h"
 #include "platform/toolkit/theme.h"
 
 #include <optional>
@@ -31,10 +32,8 @@ DesktopLook::DesktopLook(QObject *parent)
         = new DesktopSetting(QStringLiteral("org.freedesktop.appearance"), QStringLiteral("color-scheme"), this);
     connect(scheme, &DesktopSetting::received, this,
             [](const QVariant &value) { Theme::instance().setDesktopVariant(variantFor(value.toUInt())); });
-    const auto *scale = new DesktopSetting(QStringLiteral("org.gnome.desktop.interface"),
-                                           QStringLiteral("text-scaling-factor"), this);
-    connect(scale, &DesktopSetting::received, this,
-            [](const QVariant &value) { Theme::instance().setTextScale(value.toDouble()); });
+    const auto *scale = new TextScale(this);
+    connect(scale, &TextScale::received, this, [](qreal factor) { Theme::instance().setTextScale(factor); });
 }
 
 DesktopLook::~DesktopLook() = default;

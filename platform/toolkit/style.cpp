@@ -2,21 +2,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/style.h"
 
+#include "platform/locale/textscale.h"
+
 #include <QFontMetricsF>
 #include <QtMath>
 
 namespace Touch {
 
 namespace {
-
-/** Text of this size, and smaller, takes the whole factor. */
-constexpr qreal fullyScaledSize = 20;
-
-/** Headings and clocks are read as they are: what they gain falls to nothing at five times the size above. */
-qreal gain(qreal pixelSize)
-{
-    return qMax(0.0, qMin(pixelSize, fullyScaledSize - (pixelSize - fullyScaledSize) / 4));
-}
 
 /** An icon beside a text keeps up with it, up to a point: it is a picture, not to be read. */
 constexpr qreal maxIconFactor = 1.5;
@@ -53,7 +46,7 @@ QFont Style::fittedFont(const QString &text, qreal width) const
 void Style::scaleText(qreal factor)
 {
     designedPixelSize = pixelSize;
-    pixelSize += qRound(gain(pixelSize) * (factor - 1));
+    pixelSize = TextScale::pixelSize(designedPixelSize, factor);
     if (!scalesWithText)
         return;
     // The room above and below the text stays as it is.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/toolkit/theme.h"
 
+#include "platform/locale/textscale.h"
 #include "platform/toolkit/themefile_p.h"
 
 #include <algorithm>
@@ -27,7 +28,6 @@ namespace {
 
 constexpr int maxExtends = 8;
 constexpr int maxIcons = 200;
-constexpr qreal maxTextScale = 2;
 
 /** ":Widget", ":Button", ":Switch" for a switch: base first, without namespaces. */
 QStringList classRules(const QMetaObject *type)
@@ -142,9 +142,7 @@ void Theme::followDesktop()
 
 void Theme::setTextScale(qreal factor)
 {
-    bool isGiven = false;
-    const qreal given = qEnvironmentVariable("CLOCK_TEXT_SCALE").toDouble(&isGiven);
-    const qreal scale = qBound(1.0, isGiven ? given : factor, maxTextScale);
+    const qreal scale = TextScale::bounded(factor);
     if (qFuzzyCompare(m_textScale, scale))
         return;
     m_textScale = scale;

@@ -84,7 +84,7 @@ bool showsWholeText(const QLabel *label)
 
 bool showsWholeText(const QPushButton *button)
 {
-    return button->size().expandedTo(button->sizeHint()) == button->size();
+    return button->fontMetrics().horizontalAdvance(button->text()) < button->width();
 }
 
 } // namespace
