@@ -4,6 +4,7 @@
 #include "platform/toolkit/banner.h"
 #include "platform/toolkit/button.h"
 #include "platform/toolkit/label.h"
+#include "platform/toolkit/switch.h"
 #include "platform/toolkit/textedit.h"
 #include "platform/toolkit/theme.h"
 #include "tests/support/look/look.h"
@@ -30,6 +31,8 @@ private slots:
     void everyTextCanBeRead();
     void everyPartOfATimePickerCanBeRead_data();
     void everyPartOfATimePickerCanBeRead();
+    void aSwitchThatIsOffStandsOut_data();
+    void aSwitchThatIsOffStandsOut();
 
 private:
     void check(const QString &what, const QColor &text, const QColor &ground) const;
@@ -38,6 +41,8 @@ private:
 namespace {
 
 constexpr double leastRatio = 4.5;
+/** What is not read but must be seen. */
+constexpr double leastRatioOfParts = 3;
 
 double luminance(const QColor &color)
 {
@@ -198,6 +203,23 @@ void TestContrast::everyPartOfATimePickerCanBeRead()
     const QColor text = Theme::instance().style(name, {}, &Touch::Widget::staticMetaObject, isInverted)->color;
     for (const char *ground : {"ring", "ringInner", "ringFill", "dialFace"})
         check(QLatin1String(ground), text, Theme::instance().color(QLatin1String(ground), isInverted));
+}
+
+void TestContrast::aSwitchThatIsOffStandsOut_data()
+{
+    addVariants({QStringLiteral("switch")});
+}
+
+void TestContrast::aSwitchThatIsOffStandsOut()
+{
+    QFETCH(const Theme::Variant, variant);
+    QFETCH(const bool, isInverted);
+    Theme::instance().setVariant(variant);
+    const QColor page = Theme::instance().color(QStringLiteral("background"), isInverted);
+    const auto look = Theme::instance().style({}, {}, &Touch::Switch::staticMetaObject, isInverted);
+    const QColor pill = over(look->background, page);
+    QVERIFY2(ratio(pill, page) >= leastRatioOfParts, "the pill on the page");
+    QVERIFY2(ratio(look->color, pill) >= leastRatioOfParts, "the knob on the pill");
 }
 
 QTEST_MAIN(TestContrast)
