@@ -89,13 +89,17 @@ qreal textWidth(const Style &style, const QString &text)
 
 void drawPart(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, const Style &style, const QString &text)
 {
-    painter.setFont(style.font());
+    // Rather as small as designed than cut off.
+    const bool isEnlarged = style.designedPixelSize > 0 && style.pixelSize > style.designedPixelSize;
+    const QFont font = isEnlarged ? style.fittedFont(text, rect.width()) : style.font();
+    painter.setFont(isTabular(style, text) ? style.font() : font);
     painter.setPen(style.color);
-    const QFontMetricsF metrics(style.font());
     if (!isTabular(style, text)) {
+        const QFontMetricsF metrics(font);
         drawText(painter, rect, alignment, Qt::TextSingleLine, metrics.elidedText(text, Qt::ElideRight, rect.width()));
         return;
     }
+    const QFontMetricsF metrics(style.font());
     QRectF cell(rect.center().x() - textWidth(style, text) / 2, rect.top(), 0, rect.height());
     for (const QChar c : text) {
         cell.setWidth(cellWidth(metrics, c));

@@ -43,6 +43,8 @@ void ToneFileItem::followKind()
     const bool isNote = m_kind == ToneFolderModel::Note;
     setImage(iconOf(m_kind));
     titleLabel()->setStyleName(isNote ? QStringLiteral("CommonSubTitle") : QStringLiteral("CommonSingleTitle"));
+    // A sentence, not a name: it takes a second line rather than become small.
+    titleLabel()->setWordWrap(isNote);
     setAcceptedMouseButtons(isNote ? Qt::NoButton : Qt::LeftButton);
     setFocusPolicy(isNote ? Qt::NoFocus : Qt::TabFocus);
 }

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr qreal MarkSize = 24;
 constexpr qreal MarkLine = 2;
 constexpr qreal BarWidth = 4;
 
@@ -56,8 +55,9 @@ void ToneItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidge
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setLayoutDirection(layoutDirection());
     const QRectF content = rect().marginsRemoved(look.padding);
-    const QRectF mark(content.left(), content.center().y() - MarkSize / 2, MarkSize, MarkSize);
-    const QRectF bars(content.right() - MarkSize, mark.top(), MarkSize, MarkSize);
+    const qreal markSize = look.iconSize.height();
+    const QRectF mark(content.left(), content.center().y() - markSize / 2, markSize, markSize);
+    const QRectF bars(content.right() - markSize, mark.top(), markSize, markSize);
     const qreal textsLeft = mark.right() + look.spacing;
     paintMark(*painter, mirroredIn(*this, mark));
     paintTexts(*painter,
@@ -78,7 +78,7 @@ void ToneItem::paintMark(QPainter &painter, const QRectF &rect) const
         return;
     painter.setPen(Qt::NoPen);
     painter.setBrush(style().accentColor);
-    painter.drawEllipse(rect.center(), MarkSize / 4, MarkSize / 4);
+    painter.drawEllipse(rect.center(), rect.width() / 4, rect.height() / 4);
 }
 
 void ToneItem::paintTexts(QPainter &painter, const QRectF &rect) const
