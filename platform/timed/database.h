@@ -35,7 +35,7 @@ public:
      * What every connection to the store runs first. A change touches a few pages, and a copy reads each page once: the
      * usual cache would keep the whole file in memory beside the events.
      */
-    static constexpr auto KeepCacheSmall = "PRAGMA cache_size=-256";
+    static constexpr auto KeepCacheSmall = "PRAGMA cache_size=-64";
 
     /** The error that a failed statement ended with. */
     static Error failure(const QString &what, const QString &why);

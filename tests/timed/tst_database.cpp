@@ -110,7 +110,7 @@ void tst_Database::keepsFewPagesInMemory()
     QSqlQuery query("PRAGMA cache_size", (*database)->connection());
     QVERIFY(query.next());
     // In KiB where it is negative.
-    QCOMPARE(query.value(0).toInt(), -256);
+    QCOMPARE(query.value(0).toInt(), -64);
 }
 
 void tst_Database::secondStoreIsRefused()
