@@ -7,8 +7,8 @@
 #include "platform/backup/archive.h"
 #include "tests/backup/household.h"
 #include "tests/support/alarms.h"
+#include "tests/support/fulldisk.h"
 #include "tests/support/places.h"
-#include "tests/timed/storefolder.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -258,7 +258,7 @@ void RoundTripTest::aFullDiskLeavesTheEarlierBackup()
     QCOMPARE(m_household.backUp({"create", m_household.file()}).exitCode, 0);
     const QByteArray early = contentOf(m_household.file());
     QVERIFY(Household::add(dailyAlarm(8, "Now")));
-    const FullDisk full;
+    const Support::FullDisk full;
     for (const QString &file : {m_household.file(), m_household.file("new.backup")}) {
         const Support::Run run = m_household.backUp({"create", file});
         QCOMPARE(run.exitCode, 1);
@@ -275,7 +275,7 @@ void RoundTripTest::aFullDiskStopsTheRestore()
     writeSettings();
     QCOMPARE(m_household.backUp({"create", m_household.file()}).exitCode, 0);
     QVERIFY(m_household.startAfresh());
-    const FullDisk full;
+    const Support::FullDisk full;
     const Support::Run run = m_household.backUp({"restore", m_household.file()});
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(run.output, "");

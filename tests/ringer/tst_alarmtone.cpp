@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/sound/alarmtone.h"
 
+#include "tests/ringer/sinknames.h"
 #include "tests/ringer/soundserver.h"
 
 #include <QElapsedTimer>
@@ -27,14 +28,6 @@ constexpr auto Heard = 0.1f;
 constexpr auto NoCard = "# nothing\n";
 // What it plays goes into a file.
 constexpr auto Card = "pcm.sysdefault { type file slave.pcm { type null } file \"FOLDER/heard.raw\" format raw }\n";
-
-QString namesOf(const QList<PulseSink> &sinks)
-{
-    QStringList names;
-    for (const auto &each : sinks)
-        names += each.id;
-    return names.join(' ');
-}
 
 } // namespace
 

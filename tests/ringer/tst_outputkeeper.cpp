@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/sound/outputkeeper.h"
+#include "tests/ringer/sinknames.h"
 
 #include <QFile>
 #include <QStandardPaths>
@@ -16,14 +17,6 @@ namespace {
 PulseSink sink(const char *id, Place place, bool isDefault = false)
 {
     return {QString::fromLatin1(id), {}, place, 100, false, false, isDefault};
-}
-
-QString namesOf(const QList<PulseSink> &sinks)
-{
-    QStringList names;
-    for (const auto &each : sinks)
-        names += each.id;
-    return names.join(' ');
 }
 
 } // namespace

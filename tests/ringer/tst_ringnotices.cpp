@@ -5,9 +5,9 @@
 #include "platform/notices/noticerecord.h"
 #include "platform/ringer/texts/ringtexts.h"
 #include "platform/timedclient/wire.h"
+#include "tests/support/fulldisk.h"
 #include "tests/support/logcapture.h"
 #include "tests/timed/fakes.h"
-#include "tests/timed/storefolder.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -149,7 +149,7 @@ void TestRingNotices::aFullDiskLeavesTheRecordOfBefore()
     Notices::NoticeRecord("full").add(":1.5", 12);
     {
         const Support::LogCapture log;
-        const FullDisk full;
+        const Support::FullDisk full;
         Notices::NoticeRecord("full").add(":1.6", 13);
         QCOMPARE(log.lines(QtWarningMsg).size(), 1);
     }

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/timed/storefolder.h"
 
-#include <csignal>
 #include <QFile>
 #include <QFileInfo>
 #include <sys/mount.h>
@@ -38,23 +37,6 @@ bool StoreFolder::overwrite(const QString &path, qint64 offset, const QByteArray
 {
     QFile target(path);
     return target.open(QIODevice::ReadWrite) && target.seek(offset) && target.write(bytes) == bytes.size();
-}
-
-FullDisk::FullDisk()
-{
-    // What is written beyond the limit ends the process otherwise.
-    signal(SIGXFSZ, SIG_IGN);
-    // A program that counts its lines cannot write the counts either, and would say so among what it has to say.
-    qputenv("GCOV_ERROR_FILE", "/dev/null");
-    getrlimit(RLIMIT_FSIZE, &m_before);
-    const rlimit none{0, m_before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &none);
-}
-
-FullDisk::~FullDisk()
-{
-    setrlimit(RLIMIT_FSIZE, &m_before);
-    qunsetenv("GCOV_ERROR_FILE");
 }
 
 ReadOnlyDisk::ReadOnlyDisk(const QString &path)

@@ -6,7 +6,6 @@
 
 #include <memory>
 #include <QTemporaryDir>
-#include <sys/resource.h>
 
 /** The moment at which the stores of the tests are opened. */
 inline constexpr qint64 Now = Q_INT64_C(1795150800000);
@@ -29,18 +28,6 @@ public:
 
 private:
     QTemporaryDir m_home;
-};
-
-/** While it lives no file can grow, as on a full disk. */
-class FullDisk
-{
-public:
-    FullDisk();
-    ~FullDisk();
-    Q_DISABLE_COPY(FullDisk)
-
-private:
-    rlimit m_before = {};
 };
 
 /** While it lives a folder, or a file, cannot be written, not even by root. */

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clock authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/bootmoment.h"
+#include "tests/support/fulldisk.h"
 #include "tests/support/logcapture.h"
 #include "tests/timed/storefolder.h"
 #include "tests/timed/world.h"
@@ -116,7 +117,7 @@ void tst_BootMoment::fullDiskIsReportedAndLeavesTheMomentOfBefore()
     world.add(daily(6, 30, Boots));
     {
         const Support::LogCapture log;
-        const FullDisk full;
+        const Support::FullDisk full;
         boot.update();
         QCOMPARE(log.lines(QtWarningMsg).size(), 1);
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/database.h"
 #include "platform/timed/schema.h"
+#include "tests/support/fulldisk.h"
 #include "tests/support/logcapture.h"
 #include "tests/timed/storefolder.h"
 
@@ -347,7 +348,7 @@ void tst_Database::fullDiskIsReadAndTakesNoChange()
         QVERIFY(StoreFolder::overwrite(file(), 0, Garbage));
     const Support::LogCapture log;
     {
-        const FullDisk full;
+        const Support::FullDisk full;
         const auto store = open();
         // With no room for a copy either there is no store, and no empty one in its place.
         if (store) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "platform/timed/database.h"
 #include "platform/timed/validator.h"
+#include "tests/support/fulldisk.h"
 #include "tests/support/logcapture.h"
 #include "tests/timed/storefolder.h"
 
@@ -104,7 +105,7 @@ void tst_SqliteStore::fullDiskFailsAndKeepsWhatIsStored()
         const auto store = open();
         QVERIFY(store->commit({{stored(1)}, {}, {}}));
         {
-            const FullDisk full;
+            const Support::FullDisk full;
             const auto failed = store->commit({{stored(2)}, {1}, {}});
             QVERIFY(!failed);
             QCOMPARE(failed.error().name, QLatin1String(Wire::StorageError));
