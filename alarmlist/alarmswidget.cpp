@@ -113,7 +113,7 @@ bool AlarmsWidget::event(QEvent *event)
 
 void AlarmsWidget::placeEmptyHint()
 {
-    m_emptyHint->setGeometry(QRectF(QPointF(0, m_list->y()), rect().bottomRight()));
+    m_emptyHint->fitInto(QRectF(QPointF(0, m_list->y()), rect().bottomRight()));
 }
 
 void AlarmsWidget::updateContent()

@@ -12,7 +12,7 @@ namespace {
 
 /** Larger text needs the room of the picture. */
 constexpr qreal LargestScaleWithImage = 1.5;
-constexpr qreal LeastHeightWithImage = 180;
+constexpr qreal LeastHeightWithImage = 200;
 
 Touch::Label *line(const QString &text, const QString &styleName)
 {
@@ -52,15 +52,17 @@ void EmptyListHint::styleChanged()
     fitImage();
 }
 
-void EmptyListHint::resizeEvent(QGraphicsSceneResizeEvent *event)
+// Its own height says less: with the picture it is never lower than both need.
+void EmptyListHint::fitInto(const QRectF &place)
 {
-    StylableWidget::resizeEvent(event);
+    m_room = place.height();
     fitImage();
+    setGeometry(place);
 }
 
 // Words before pictures.
 void EmptyListHint::fitImage()
 {
     m_image->setVisible(Touch::Theme::instance().textScale() <= LargestScaleWithImage
-                        && size().height() >= LeastHeightWithImage);
+                        && m_room >= LeastHeightWithImage);
 }

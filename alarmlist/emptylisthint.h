@@ -16,12 +16,15 @@ class EmptyListHint : public Touch::StylableWidget
 public:
     explicit EmptyListHint(QGraphicsItem *parent = nullptr);
 
+    /** Stands there; where that is low, without its picture. */
+    void fitInto(const QRectF &place);
+
 protected:
     void styleChanged() override;
-    void resizeEvent(QGraphicsSceneResizeEvent *event) override;
 
 private:
     void fitImage();
 
     Touch::ImageWidget *m_image;
+    qreal m_room = 0; ///< the height of its place
 };

@@ -2,12 +2,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "alarmlist/alarmswidget.h"
 
+#include "alarmlist/emptylisthint.h"
 #include "alarms/qmalarm.h"
+#include "platform/toolkit/imagewidget.h"
 #include "tests/alarmlist/alarmsection.h"
 #include "tests/alarmlist/announcements.h"
 #include "tests/support/alarms.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/look/items.h"
 
+#include <algorithm>
+#include <QGraphicsScene>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -50,6 +55,7 @@ private slots:
     void deletingTheLastRowRemovesIt();
     void panningNeedsAnAlarm();
     void theHintShowsWhileThereIsNoAlarm();
+    void theHintIsReadInALowWindow();
     void aReloadWritesEveryColumnOfEveryRowOnce();
     void changesOfTheModelAreLoggedWithinTheUpdate_data();
     void changesOfTheModelAreLoggedWithinTheUpdate();
@@ -243,6 +249,27 @@ void TestAlarmsWidget::theHintShowsWhileThereIsNoAlarm()
     QVERIFY(m_section.isHintShown());
     addAlarm(QTime(5, 0));
     QTRY_VERIFY(!m_section.isHintShown());
+}
+
+void TestAlarmsWidget::theHintIsReadInALowWindow()
+{
+    m_section.widget()->updateContent();
+    auto *hint = Support::itemIn<EmptyListHint>(m_section.widget());
+    const auto *image = Support::itemIn<Touch::ImageWidget>(hint);
+    QTRY_VERIFY(hint->isVisible() && image->isVisible());
+    const QSize usual = m_section.window()->size();
+    m_section.window()->resize(640, 220);
+    QTRY_VERIFY(!image->isVisible());
+    const auto isSeen = [hint] {
+        const QRectF window = hint->scene()->sceneRect();
+        const auto children = hint->childItems();
+        return std::all_of(children.begin(), children.end(), [window](const QGraphicsItem *child) {
+            return !child->isVisible() || window.contains(child->sceneBoundingRect());
+        });
+    };
+    QTRY_VERIFY2(isSeen(), "the words are below the window");
+    m_section.window()->resize(usual);
+    QTRY_VERIFY(image->isVisible());
 }
 
 void TestAlarmsWidget::resettingReadsTheAlarmsOnlyWhileVisible()
