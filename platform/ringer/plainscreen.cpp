@@ -19,6 +19,7 @@ namespace {
 
 // In pixels, before they grow with the user's size of text.
 constexpr int TimeSize = 75;
+constexpr int SmallestTimeSize = 30;
 constexpr int TitleSize = 27;
 constexpr int ButtonSize = 24;
 constexpr int AnswersApart = 96;
@@ -30,7 +31,6 @@ QLabel *createLabel()
     auto *label = new QLabel;
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    label->setWordWrap(true);
     return label;
 }
 
@@ -54,7 +54,8 @@ bool fits(const QLabel *label, const QFont &font)
 {
     const QRect room = label->contentsRect();
     const QRect endless(0, 0, room.width(), QWIDGETSIZE_MAX);
-    const QSize needed = QFontMetrics(font).boundingRect(endless, Qt::TextWordWrap, label->text()).size();
+    const int lines = label->wordWrap() ? Qt::TextWordWrap : Qt::TextSingleLine;
+    const QSize needed = QFontMetrics(font).boundingRect(endless, lines, label->text()).size();
     return needed.width() <= room.width() && needed.height() <= room.height();
 }
 
@@ -63,12 +64,12 @@ bool fits(const QPushButton *button, const QFont &font)
     return QFontMetrics(font).horizontalAdvance(button->text()) + ButtonPadding <= button->width();
 }
 
-/** As large as the user wants it or as fits, but not smaller than designed. */
+/** As large as it shall be or as fits, within these bounds. */
 template <typename Widget>
-void fitText(Widget *widget, int designedSize, qreal scale)
+void fitText(Widget *widget, int smallest, int largest)
 {
-    QFont font = sized(widget->font(), Touch::TextScale::pixelSize(designedSize, scale));
-    while (font.pixelSize() > designedSize && !fits(widget, font))
+    QFont font = sized(widget->font(), largest);
+    while (font.pixelSize() > smallest && !fits(widget, font))
         font.setPixelSize(font.pixelSize() - 1);
     widget->setFont(font);
 }
@@ -90,7 +91,9 @@ PlainScreen::PlainScreen()
     m_time->setObjectName(QStringLiteral("time"));
     m_title->setObjectName(QStringLiteral("title"));
     // A long title never takes the answers off the screen.
-    m_title->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    m_title->setWordWrap(true);
+    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    m_time->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setWindowFlag(Qt::WindowStaysOnTopHint);
     resize(480, 854);
     auto *layout = new QVBoxLayout(this);
@@ -160,12 +163,15 @@ void PlainScreen::setTextScale(qreal scale)
 
 void PlainScreen::fitTexts()
 {
-    fitText(m_snooze, ButtonSize, m_textScale);
-    fitText(m_stop, ButtonSize, m_textScale);
-    // The time takes as much of the height as it needs, the title what is left.
-    m_time->setFont(sized(m_time->font(), Touch::TextScale::pixelSize(TimeSize, m_textScale)));
+    const auto enlarged = [this](int designed) { return Touch::TextScale::pixelSize(designed, m_textScale); };
+    fitText(m_snooze, ButtonSize, enlarged(ButtonSize));
+    fitText(m_stop, ButtonSize, enlarged(ButtonSize));
+    // The time takes as much of the height as it needs, in one line, the title what is left.
+    m_time->setFont(sized(m_time->font(), enlarged(TimeSize)));
     layout()->activate();
-    fitText(m_title, TitleSize, m_textScale);
+    fitText(m_time, SmallestTimeSize, enlarged(TimeSize));
+    layout()->activate();
+    fitText(m_title, TitleSize, enlarged(TitleSize));
 }
 
 void PlainScreen::refresh()

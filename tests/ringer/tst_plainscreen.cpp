@@ -30,6 +30,7 @@ private slots:
     void init();
     void itsTextsFollowTheSizeOfText();
     void aTextThatDoesNotFitIsSmallerButNotCutOff();
+    void theTimeStandsInOneLineOnANarrowScreen();
     void aLongTitleLeavesTheAnswersOnTheScreen_data();
     void aLongTitleLeavesTheAnswersOnTheScreen();
 
@@ -81,6 +82,18 @@ void TestPlainScreen::aTextThatDoesNotFitIsSmallerButNotCutOff()
     m_screen->resize(359, 640);
     QTRY_VERIFY(stop->fontMetrics().horizontalAdvance(stop->text()) < stop->width());
     QVERIFY(pixelSize("stop") >= usual);
+}
+
+void TestPlainScreen::theTimeStandsInOneLineOnANarrowScreen()
+{
+    qputenv("CLOCK_TEXT_SCALE", "2");
+    ring("Tea", QSize(320, 640));
+    auto *time = m_screen->findChild<QLabel *>("time");
+    time->setText("10:28 PM");
+    m_screen->resize(319, 640);
+    QTRY_COMPARE(m_screen->width(), 319);
+    QTRY_VERIFY(time->fontMetrics().horizontalAdvance(time->text()) <= time->width());
+    QVERIFY(time->height() < 2 * time->fontMetrics().height());
 }
 
 void TestPlainScreen::aLongTitleLeavesTheAnswersOnTheScreen_data()
