@@ -140,10 +140,34 @@ bool Button::showsText() const
     return m_viewType != QLatin1String("icon") && !m_text->text().isEmpty();
 }
 
+/** The width that the icon takes from the text. */
+qreal Button::besideText() const
+{
+    return m_iconId.isEmpty() ? 0 : style().iconSize.width() + style().spacing;
+}
+
 bool Button::showsWholeText() const
 {
-    const qreal beside = m_iconId.isEmpty() ? 0 : style().iconSize.width() + style().spacing;
-    return !showsText() || prepared().fits(paddedRect().size() - QSizeF(beside, 0));
+    return !showsText() || prepared().fits(paddedRect().size() - QSizeF(besideText(), 0));
+}
+
+int Button::fittedTextSize() const
+{
+    return prepared().fittedPixelSize(paddedRect().width() - besideText());
+}
+
+int Button::shownTextSize() const
+{
+    return m_largestTextSize > 0 ? qMin(m_largestTextSize, fittedTextSize()) : fittedTextSize();
+}
+
+void Button::setLargestTextSize(int pixels)
+{
+    if (m_largestTextSize == pixels)
+        return;
+    m_largestTextSize = pixels;
+    m_text->setLargestPixelSize(pixels);
+    update();
 }
 
 QSizeF Button::contentSize() const

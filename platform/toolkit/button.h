@@ -20,6 +20,7 @@ class Button : public Pressable
     Q_PROPERTY(bool checkable READ isCheckable WRITE setCheckable)
     Q_PROPERTY(bool checked READ isChecked WRITE setChecked NOTIFY toggled)
     Q_PROPERTY(bool showsWholeText READ showsWholeText)
+    Q_PROPERTY(int shownTextSize READ shownTextSize)
 
 public:
     explicit Button(const QString &text = QString(), QGraphicsItem *parent = nullptr);
@@ -31,6 +32,11 @@ public:
     /** Whether a text too long gets smaller before it is elided, as it does unless this is set to false. */
     bool textShrinks() const { return m_shrinks; }
     void setTextShrinks(bool shrinks);
+    /** How large, in pixels, its text is drawn; and how large it would be, were it not for the limit below. */
+    int shownTextSize() const;
+    int fittedTextSize() const;
+    /** A limit, so that it looks like buttons beside it whose longer texts get smaller; 0 for none. */
+    void setLargestTextSize(int pixels);
     QString iconID() const { return m_iconId; }
     void setIconID(const QString &iconId);
     /** "icon" shows the icon alone, the text is then only read out; empty shows both. */
@@ -70,6 +76,7 @@ protected:
 private:
     bool showsText() const;
     QSizeF contentSize() const;
+    qreal besideText() const;
     PreparedText &prepared() const;
 
     std::unique_ptr<PreparedText> m_text;
@@ -77,6 +84,7 @@ private:
     QString m_iconId;
     QString m_viewType;
     bool m_shrinks = true;
+    int m_largestTextSize = 0;
     bool m_isCheckable = false;
     bool m_isChecked = false;
 };

@@ -89,6 +89,12 @@ void PreparedText::setFit(Fit fit, Qt::Alignment lines)
     m_width = -1;
 }
 
+void PreparedText::setLargestPixelSize(int pixels)
+{
+    m_largestPixelSize = pixels;
+    m_width = -1;
+}
+
 bool PreparedText::isTabular() const
 {
     return m_hasTabularDigits && m_fit != Fit::Wrap && !m_text.isEmpty() && isPlain(m_text);
@@ -151,6 +157,8 @@ void PreparedText::prepare(qreal width) const
     m_width = width;
     m_glyphs = {};
     m_fittedFont = fittedFont(width);
+    if (m_largestPixelSize > 0)
+        m_fittedFont.setPixelSize(qMin(m_fittedFont.pixelSize(), m_largestPixelSize));
     const QFontMetricsF metrics(m_fittedFont);
     if (isTabular()) {
         qreal natural = 0;

@@ -31,6 +31,11 @@ public:
     /** For Wrap, how the lines lie in the text's width. */
     void setFit(Fit fit, Qt::Alignment lines = {});
 
+    /** It is drawn no larger than that, whatever room there is; 0 for no limit. */
+    void setLargestPixelSize(int pixels);
+    /** How large it would be drawn in this width without that limit. */
+    int fittedPixelSize(qreal width) const { return fittedFont(width).pixelSize(); }
+
     const QString &text() const { return m_text; }
     bool isRightToLeft() const { return m_text.isRightToLeft(); }
     /** The size of the whole text; wrapped if the width is 0 or more and it wraps. */
@@ -51,6 +56,7 @@ private:
     QFont m_font;
     qreal m_designedShare = 1;
     bool m_hasTabularDigits = false;
+    int m_largestPixelSize = 0;
     Fit m_fit = Fit::Elide;
     Qt::Alignment m_lines;
 

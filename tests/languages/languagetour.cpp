@@ -31,6 +31,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QSet>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTest>
@@ -78,7 +79,8 @@ bool showsWholeText(const QLabel *label)
 {
     const QRect room = label->contentsRect();
     const QRect endless(0, 0, room.width(), QWIDGETSIZE_MAX);
-    const QSize needed = label->fontMetrics().boundingRect(endless, Qt::TextWordWrap, label->text()).size();
+    const int lines = label->wordWrap() ? Qt::TextWordWrap : Qt::TextSingleLine;
+    const QSize needed = label->fontMetrics().boundingRect(endless, lines, label->text()).size();
     return needed.width() <= room.width() && needed.height() <= room.height();
 }
 
@@ -293,6 +295,10 @@ void LanguageTour::visitRingScreen(const QString &stopGesture)
            "narrow ring screen");
     QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     look("ring-" + stopGesture, window);
+    QSet<int> sizes;
+    for (const char *name : {"snooze5", "snooze10", "snooze15", "snooze20"})
+        sizes << RingScreen::item(name)->property("shownTextSize").toInt();
+    expect(sizes.size() == 1, "one size of text for all lengths of a snooze");
     for (quint32 cookie = 1; cookie <= 3; ++cookie)
         plugin->hide(cookie);
     expect(QTest::qWaitFor([] { return RingScreen::window() == nullptr; }, Patience), "end of the ring screen");

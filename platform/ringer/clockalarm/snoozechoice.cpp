@@ -9,6 +9,7 @@
 #include "platform/toolkit/linearlayoutpolicy.h"
 
 #include <array>
+#include <limits>
 #include <utility>
 
 using Touch::Button;
@@ -33,6 +34,8 @@ SnoozeChoice::SnoozeChoice(QGraphicsItem *parent)
         button->setObjectName(QStringLiteral("snooze%1").arg(minutes));
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         connect(button, &Button::clicked, this, [this, minutes] { emit chosen(60 * minutes); });
+        connect(button, &Button::widthChanged, this, &SnoozeChoice::evenTexts);
+        connect(button, &Button::heightChanged, this, &SnoozeChoice::evenTexts);
         row->addItem(button);
         m_buttons.append(button);
     }
@@ -55,4 +58,17 @@ void SnoozeChoice::refresh(int ownSeconds)
         button->setVisible(60 * Minutes[index] != ownSeconds);
     }
     layout()->invalidate();
+    evenTexts();
+}
+
+// All as large as fits the longest.
+void SnoozeChoice::evenTexts()
+{
+    int size = std::numeric_limits<int>::max();
+    for (const auto *button : std::as_const(m_buttons)) {
+        if (button->isVisible())
+            size = qMin(size, button->fittedTextSize());
+    }
+    for (auto *button : std::as_const(m_buttons))
+        button->setLargestTextSize(size);
 }

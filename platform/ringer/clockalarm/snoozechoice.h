@@ -28,5 +28,7 @@ signals:
     void chosen(int seconds);
 
 private:
+    void evenTexts();
+
     QList<Touch::Button *> m_buttons;
 };
