@@ -42,7 +42,7 @@ QByteArray number(int cookie)
 
 } // namespace
 
-class AlarmCommandsTest : public QObject
+class TestAlarmCommands : public QObject
 {
     Q_OBJECT
 
@@ -74,7 +74,7 @@ private:
     QTemporaryDir m_tones;
 };
 
-void AlarmCommandsTest::initTestCase()
+void TestAlarmCommands::initTestCase()
 {
     QVERIFY(m_bus.isRunning());
     QVERIFY(m_daemon.start());
@@ -82,14 +82,14 @@ void AlarmCommandsTest::initTestCase()
     QVERIFY(tone.open(QIODevice::WriteOnly));
 }
 
-void AlarmCommandsTest::cleanup()
+void TestAlarmCommands::cleanup()
 {
     for (const QJsonValue alarm : listed())
         QCOMPARE(alarmctl("remove " + number(alarm["cookie"].toInt())).exitCode, 0);
     QCOMPARE(listed(), QJsonArray());
 }
 
-void AlarmCommandsTest::listsNothingAtFirst()
+void TestAlarmCommands::listsNothingAtFirst()
 {
     const Run run = alarmctl("list");
     QCOMPARE(run.exitCode, 0);
@@ -98,7 +98,7 @@ void AlarmCommandsTest::listsNothingAtFirst()
     QCOMPARE(alarmctl("list --json").output, "[]\n");
 }
 
-void AlarmCommandsTest::addsAnAlarmWithDefaults()
+void TestAlarmCommands::addsAnAlarmWithDefaults()
 {
     const Run run = alarmctl("add 7:05");
     QCOMPARE(run.exitCode, 0);
@@ -125,7 +125,7 @@ void AlarmCommandsTest::addsAnAlarmWithDefaults()
     QVERIFY(trigger < QDateTime::currentDateTime().addDays(1).addSecs(60));
 }
 
-void AlarmCommandsTest::addsAnAlarmWithEverything()
+void TestAlarmCommands::addsAnAlarmWithEverything()
 {
     const QString tone = m_tones.filePath("My tone.aac");
     const QString title = QString::fromUtf8("Früh \"auf\" 🐓");
@@ -141,7 +141,7 @@ void AlarmCommandsTest::addsAnAlarmWithEverything()
     QCOMPARE(alarm["tone"].toString(), tone);
 }
 
-void AlarmCommandsTest::addsASwitchedOffAlarm()
+void TestAlarmCommands::addsASwitchedOffAlarm()
 {
     QVERIFY(add("06:00 --off --days daily") > 0);
     const QJsonObject alarm = onlyAlarm();
@@ -151,7 +151,7 @@ void AlarmCommandsTest::addsASwitchedOffAlarm()
     QVERIFY(alarm.contains("nextTrigger"));
 }
 
-void AlarmCommandsTest::startsFromThePreferences()
+void TestAlarmCommands::startsFromThePreferences()
 {
     const QString tone = m_tones.filePath("My tone.aac");
     QSettings settings("Korvo", "Clock");
@@ -172,7 +172,7 @@ void AlarmCommandsTest::startsFromThePreferences()
     settings.sync();
 }
 
-void AlarmCommandsTest::tellsWhyTheDaemonRefused()
+void TestAlarmCommands::tellsWhyTheDaemonRefused()
 {
     const Run run = alarmctl({"add", "07:00", "--title", QString(5000, 'x')});
     QCOMPARE(run.exitCode, 1);
@@ -181,7 +181,7 @@ void AlarmCommandsTest::tellsWhyTheDaemonRefused()
     QVERIFY2(run.errors.contains("TITLE") && run.errors.contains("4096"), qPrintable(run.errors));
 }
 
-void AlarmCommandsTest::listsInTheOrderOfTheApplication()
+void TestAlarmCommands::listsInTheOrderOfTheApplication()
 {
     const int offSix = add("06:00 --off");
     const int on = add("12:00");
@@ -192,7 +192,7 @@ void AlarmCommandsTest::listsInTheOrderOfTheApplication()
     QCOMPARE(cookies, QList<int>({on, offFive, offSix}));
 }
 
-void AlarmCommandsTest::listsInLines()
+void TestAlarmCommands::listsInLines()
 {
     QVERIFY(cookieOf(alarmctl({"add", "07:30", "--title", "Two\nlines", "--days", "weekdays", "--snooze", "5"})) > 0);
     QVERIFY(add("06:00 --off") > 0);
@@ -202,7 +202,7 @@ void AlarmCommandsTest::listsInLines()
     QVERIFY2(lines.last().endsWith("  06:00  off  once  snooze 10"), qPrintable(lines[1]));
 }
 
-void AlarmCommandsTest::editsOneThingAtATime_data()
+void TestAlarmCommands::editsOneThingAtATime_data()
 {
     QTest::addColumn<QByteArray>("arguments");
     QTest::addColumn<QString>("key");
@@ -217,7 +217,7 @@ void AlarmCommandsTest::editsOneThingAtATime_data()
     QTest::newRow("off") << QByteArray("--off") << "enabled" << QJsonValue(false);
 }
 
-void AlarmCommandsTest::editsOneThingAtATime()
+void TestAlarmCommands::editsOneThingAtATime()
 {
     QFETCH(const QByteArray, arguments);
     QFETCH(const QString, key);
@@ -235,7 +235,7 @@ void AlarmCommandsTest::editsOneThingAtATime()
     }
 }
 
-void AlarmCommandsTest::switchesOnAndOff()
+void TestAlarmCommands::switchesOnAndOff()
 {
     const int first = add("07:30");
     const int off = cookieOf(alarmctl("off " + number(first)));
@@ -250,7 +250,7 @@ void AlarmCommandsTest::switchesOnAndOff()
     QCOMPARE(onlyAlarm()["time"].toString(), "07:30");
 }
 
-void AlarmCommandsTest::leavesAlarmsThatNeedNoSwitchingAlone()
+void TestAlarmCommands::leavesAlarmsThatNeedNoSwitchingAlone()
 {
     const int cookie = add("07:30");
     const Run run = alarmctl("on " + number(cookie) + ' ' + number(cookie));
@@ -259,7 +259,7 @@ void AlarmCommandsTest::leavesAlarmsThatNeedNoSwitchingAlone()
     QCOMPARE(onlyAlarm()["cookie"].toInt(), cookie);
 }
 
-void AlarmCommandsTest::removesSeveral()
+void TestAlarmCommands::removesSeveral()
 {
     const int first = add("07:30");
     const int second = add("08:30");
@@ -271,7 +271,7 @@ void AlarmCommandsTest::removesSeveral()
     QCOMPARE(onlyAlarm()["cookie"].toInt(), second);
 }
 
-void AlarmCommandsTest::touchesNothingIfOneAlarmIsUnknown()
+void TestAlarmCommands::touchesNothingIfOneAlarmIsUnknown()
 {
     const int cookie = add("07:30");
     const QJsonObject before = onlyAlarm();
@@ -287,7 +287,7 @@ void AlarmCommandsTest::touchesNothingIfOneAlarmIsUnknown()
     QCOMPARE(edit.errorLines().size(), 1);
 }
 
-void AlarmCommandsTest::showsWhatIsNext()
+void TestAlarmCommands::showsWhatIsNext()
 {
     QCOMPARE(alarmctl("next").output, "");
     QCOMPARE(alarmctl("next --json").output, "[]\n");
@@ -303,7 +303,7 @@ void AlarmCommandsTest::showsWhatIsNext()
     QCOMPARE(lines.first().simplified(), QString("%1 %2").arg(cookie).arg(moment));
 }
 
-void AlarmCommandsTest::healthMissesTheRinger()
+void TestAlarmCommands::healthMissesTheRinger()
 {
     QVERIFY(add("07:30 --title Work") > 0);
     const Run health = alarmctl("health");
@@ -321,14 +321,14 @@ void AlarmCommandsTest::healthMissesTheRinger()
     QVERIFY(json.json()["ringer"].isNull());
 }
 
-void AlarmCommandsTest::healthOfNoAlarmIsGood()
+void TestAlarmCommands::healthOfNoAlarmIsGood()
 {
     const Run health = alarmctl("health");
     QCOMPARE(health.exitCode, 0);
     QCOMPARE(health.lines().first(), "No alarm is set.");
 }
 
-void AlarmCommandsTest::keepsAnAlarmWhenTheDaemonIsKilled()
+void TestAlarmCommands::keepsAnAlarmWhenTheDaemonIsKilled()
 {
     const int cookie = add("07:30");
     m_daemon.kill();
@@ -337,5 +337,5 @@ void AlarmCommandsTest::keepsAnAlarmWhenTheDaemonIsKilled()
     QVERIFY(onlyAlarm()["nextTrigger"].isDouble());
 }
 
-QTEST_GUILESS_MAIN(AlarmCommandsTest)
+QTEST_GUILESS_MAIN(TestAlarmCommands)
 #include "tst_alarmcommands.moc"

@@ -205,7 +205,7 @@ void addRowsOfTones()
 
 } // namespace
 
-class FindingsTest : public QObject
+class TestFindings : public QObject
 {
     Q_OBJECT
 
@@ -219,7 +219,7 @@ private slots:
     void theFirstObstacleIsNamed();
 };
 
-void FindingsTest::aHealthyPhoneHasNothingToSay()
+void TestFindings::aHealthyPhoneHasNothingToSay()
 {
     const HealthFacts facts = healthy();
     const QList<Finding> findings = findingsOf(facts);
@@ -235,7 +235,7 @@ void FindingsTest::aHealthyPhoneHasNothingToSay()
     QCOMPARE(verdictOf(facts, findings).text, "Yes, the next alarm will ring.");
 }
 
-void FindingsTest::eachFactIsJudged_data()
+void TestFindings::eachFactIsJudged_data()
 {
     QTest::addColumn<Change>("change");
     QTest::addColumn<QString>("subject");
@@ -248,7 +248,7 @@ void FindingsTest::eachFactIsJudged_data()
     addRowsOfTones();
 }
 
-void FindingsTest::eachFactIsJudged()
+void TestFindings::eachFactIsJudged()
 {
     QFETCH(const Change, change);
     QFETCH(const QString, subject);
@@ -268,7 +268,7 @@ void FindingsTest::eachFactIsJudged()
         QCOMPARE(verdict.text, "No, the next alarm would not be heard: " + subject + ": " + finding.text);
 }
 
-void FindingsTest::withoutAnAlarmLittleMatters_data()
+void TestFindings::withoutAnAlarmLittleMatters_data()
 {
     QTest::addColumn<Change>("change");
     QTest::addColumn<Mark>("mark");
@@ -294,7 +294,7 @@ void FindingsTest::withoutAnAlarmLittleMatters_data()
         Mark::Bad, "No, no alarm will ring: alarm daemon: does not answer: gone");
 }
 
-void FindingsTest::withoutAnAlarmLittleMatters()
+void TestFindings::withoutAnAlarmLittleMatters()
 {
     QFETCH(const Change, change);
     QFETCH(const Mark, mark);
@@ -309,7 +309,7 @@ void FindingsTest::withoutAnAlarmLittleMatters()
     QCOMPARE(found.text, verdict);
 }
 
-void FindingsTest::twoWarningsAreCounted()
+void TestFindings::twoWarningsAreCounted()
 {
     HealthFacts facts = healthy();
     facts.daemon->insert("timer_wakes", false);
@@ -319,7 +319,7 @@ void FindingsTest::twoWarningsAreCounted()
     QCOMPARE(verdict.text, "Yes, the next alarm will ring, with 2 warnings.");
 }
 
-void FindingsTest::theFirstObstacleIsNamed()
+void TestFindings::theFirstObstacleIsNamed()
 {
     HealthFacts facts = healthy();
     facts.daemon->remove("armed_moment");
@@ -329,5 +329,5 @@ void FindingsTest::theFirstObstacleIsNamed()
     QCOMPARE(verdict.text, "No, the next alarm would not be heard: armed: the timer is not armed");
 }
 
-QTEST_GUILESS_MAIN(FindingsTest)
+QTEST_GUILESS_MAIN(TestFindings)
 #include "tst_findings.moc"

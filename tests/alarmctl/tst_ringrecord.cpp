@@ -30,7 +30,7 @@ QString shape(const Entries &entries)
 
 } // namespace
 
-class RingRecordTest : public QObject
+class TestRingRecord : public QObject
 {
     Q_OBJECT
 
@@ -45,7 +45,7 @@ private slots:
     void durationsHaveTwoUnits();
 };
 
-void RingRecordTest::entriesOfATriggerAreOneRecord_data()
+void TestRingRecord::entriesOfATriggerAreOneRecord_data()
 {
     QTest::addColumn<Entries>("entries");
     QTest::addColumn<QString>("records");
@@ -74,14 +74,14 @@ void RingRecordTest::entriesOfATriggerAreOneRecord_data()
     QTest::newRow("cut off before") << Entries{{1, 7, "sounded", ""}, {2, 7, "answered", ""}} << "7: sounded answered";
 }
 
-void RingRecordTest::entriesOfATriggerAreOneRecord()
+void TestRingRecord::entriesOfATriggerAreOneRecord()
 {
     QFETCH(const Entries, entries);
     QFETCH(const QString, records);
     QCOMPARE(shape(entries), records);
 }
 
-void RingRecordTest::aRecordIsOneLine()
+void TestRingRecord::aRecordIsOneLine()
 {
     const QList<RingRecord> records = ringRecords(Answered);
     QCOMPARE(recordLine(records.first(), "Tea"),
@@ -92,7 +92,7 @@ void RingRecordTest::aRecordIsOneLine()
              "1970-01-01 00:00:01  zone changed (Asia/Kathmandu)");
 }
 
-void RingRecordTest::aRecordSaysHowItEnded_data()
+void TestRingRecord::aRecordSaysHowItEnded_data()
 {
     QTest::addColumn<Entries>("entries");
     QTest::addColumn<QString>("end");
@@ -107,14 +107,14 @@ void RingRecordTest::aRecordSaysHowItEnded_data()
     QTest::newRow("no ringer") << Entries{{1, 7, "due", ""}, {15, 7, "failed", "no answer"}} << "failed: no answer";
 }
 
-void RingRecordTest::aRecordSaysHowItEnded()
+void TestRingRecord::aRecordSaysHowItEnded()
 {
     QFETCH(const Entries, entries);
     QFETCH(const QString, end);
     QCOMPARE(endOf(ringRecords(entries).first()), end);
 }
 
-void RingRecordTest::theLastRingsAreThoseOfAlarms()
+void TestRingRecord::theLastRingsAreThoseOfAlarms()
 {
     const QList<RingRecord> records = ringRecords({{1, 7, "missed", ""},
                                                    {2, 8, "missed", ""},
@@ -125,7 +125,7 @@ void RingRecordTest::theLastRingsAreThoseOfAlarms()
     QCOMPARE(lastRings(records, 5).size(), 3);
 }
 
-void RingRecordTest::durationsHaveTwoUnits_data()
+void TestRingRecord::durationsHaveTwoUnits_data()
 {
     QTest::addColumn<qint64>("seconds");
     QTest::addColumn<QString>("text");
@@ -138,12 +138,12 @@ void RingRecordTest::durationsHaveTwoUnits_data()
     QTest::newRow("days") << 273600LL << "3 d 4 h";
 }
 
-void RingRecordTest::durationsHaveTwoUnits()
+void TestRingRecord::durationsHaveTwoUnits()
 {
     QFETCH(const qint64, seconds);
     QFETCH(const QString, text);
     QCOMPARE(durationText(seconds * 1000), text);
 }
 
-QTEST_GUILESS_MAIN(RingRecordTest)
+QTEST_GUILESS_MAIN(TestRingRecord)
 #include "tst_ringrecord.moc"

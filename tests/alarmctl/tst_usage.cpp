@@ -13,7 +13,7 @@ const QStringList Commands{"list", "add", "edit", "on", "off", "remove", "next",
 
 } // namespace
 
-class UsageTest : public QObject
+class TestUsage : public QObject
 {
     Q_OBJECT
 
@@ -40,13 +40,13 @@ private:
     Support::TimedProcess m_daemon;
 };
 
-void UsageTest::initTestCase()
+void TestUsage::initTestCase()
 {
     QVERIFY(m_bus.isRunning());
     QVERIFY(m_daemon.start());
 }
 
-void UsageTest::helpsWithExamples()
+void TestUsage::helpsWithExamples()
 {
     const Run run = alarmctl("--help");
     QCOMPARE(run.exitCode, 0);
@@ -56,7 +56,7 @@ void UsageTest::helpsWithExamples()
     QVERIFY(run.output.contains("Examples:\n  alarmctl "));
 }
 
-void UsageTest::helpsWithEveryCommand_data()
+void TestUsage::helpsWithEveryCommand_data()
 {
     QTest::addColumn<QString>("command");
 
@@ -64,7 +64,7 @@ void UsageTest::helpsWithEveryCommand_data()
         QTest::newRow(qPrintable(command)) << command;
 }
 
-void UsageTest::helpsWithEveryCommand()
+void TestUsage::helpsWithEveryCommand()
 {
     QFETCH(const QString, command);
     const Run run = alarmctl({command, "--help"});
@@ -75,7 +75,7 @@ void UsageTest::helpsWithEveryCommand()
         QVERIFY2(line.size() <= 100, qPrintable(line));
 }
 
-void UsageTest::refusesNonsenseWithAHintAndChangesNothing_data()
+void TestUsage::refusesNonsenseWithAHintAndChangesNothing_data()
 {
     QTest::addColumn<QByteArray>("arguments");
     QTest::addColumn<QString>("complaint");
@@ -130,7 +130,7 @@ void UsageTest::refusesNonsenseWithAHintAndChangesNothing_data()
     row("journal --since 2026-02-30", "\"2026-02-30\"", "journal ");
 }
 
-void UsageTest::refusesNonsenseWithAHintAndChangesNothing()
+void TestUsage::refusesNonsenseWithAHintAndChangesNothing()
 {
     QFETCH(const QByteArray, arguments);
     QFETCH(const QString, complaint);
@@ -144,7 +144,7 @@ void UsageTest::refusesNonsenseWithAHintAndChangesNothing()
     QCOMPARE(alarmctl("list --json").output, "[]\n");
 }
 
-void UsageTest::refusesAToneThatIsNotThere()
+void TestUsage::refusesAToneThatIsNotThere()
 {
     const Run run = alarmctl("add 07:00 --tone /no/such/tone.aac");
     QCOMPARE(run.exitCode, 1);
@@ -154,7 +154,7 @@ void UsageTest::refusesAToneThatIsNotThere()
     QCOMPARE(alarmctl("list --json").json().array(), QJsonArray());
 }
 
-void UsageTest::saysInOneLineThatTheBusIsMissing_data()
+void TestUsage::saysInOneLineThatTheBusIsMissing_data()
 {
     QTest::addColumn<QByteArray>("arguments");
 
@@ -162,7 +162,7 @@ void UsageTest::saysInOneLineThatTheBusIsMissing_data()
         QTest::newRow(arguments) << QByteArray(arguments);
 }
 
-void UsageTest::saysInOneLineThatTheBusIsMissing()
+void TestUsage::saysInOneLineThatTheBusIsMissing()
 {
     QFETCH(const QByteArray, arguments);
     const Run run = alarmctl(QString(arguments).split(' '), {"DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"});
@@ -171,12 +171,12 @@ void UsageTest::saysInOneLineThatTheBusIsMissing()
     QCOMPARE(run.errorLines().size(), 1);
 }
 
-void UsageTest::saysInOneLineThatTheDaemonIsMissing_data()
+void TestUsage::saysInOneLineThatTheDaemonIsMissing_data()
 {
     saysInOneLineThatTheBusIsMissing_data();
 }
 
-void UsageTest::saysInOneLineThatTheDaemonIsMissing()
+void TestUsage::saysInOneLineThatTheDaemonIsMissing()
 {
     QFETCH(const QByteArray, arguments);
     const Support::PrivateBus empty;
@@ -188,7 +188,7 @@ void UsageTest::saysInOneLineThatTheDaemonIsMissing()
     QVERIFY2(run.errors.contains("com.astel.timed"), qPrintable(run.errors));
 }
 
-void UsageTest::healthSaysThatTheDaemonIsMissing_data()
+void TestUsage::healthSaysThatTheDaemonIsMissing_data()
 {
     QTest::addColumn<bool>("hasBus");
 
@@ -196,7 +196,7 @@ void UsageTest::healthSaysThatTheDaemonIsMissing_data()
     QTest::newRow("no daemon on it") << true;
 }
 
-void UsageTest::healthSaysThatTheDaemonIsMissing()
+void TestUsage::healthSaysThatTheDaemonIsMissing()
 {
     QFETCH(const bool, hasBus);
     const Support::PrivateBus empty;
@@ -212,7 +212,7 @@ void UsageTest::healthSaysThatTheDaemonIsMissing()
     QVERIFY(json.json()["daemon"].isNull());
 }
 
-void UsageTest::saysThatItsOutputIsLost_data()
+void TestUsage::saysThatItsOutputIsLost_data()
 {
     QTest::addColumn<QStringList>("arguments");
 
@@ -221,7 +221,7 @@ void UsageTest::saysThatItsOutputIsLost_data()
     QTest::newRow("command") << QStringList{"when", "07:00", "--zone", "UTC", "--after", "0"};
 }
 
-void UsageTest::saysThatItsOutputIsLost()
+void TestUsage::saysThatItsOutputIsLost()
 {
     QFETCH(const QStringList, arguments);
     QProcess process;
@@ -232,12 +232,12 @@ void UsageTest::saysThatItsOutputIsLost()
     QCOMPARE(process.readAllStandardError(), "alarmctl: the output cannot be written\n");
 }
 
-void UsageTest::showsTheTraceOnlyWhenAsked()
+void TestUsage::showsTheTraceOnlyWhenAsked()
 {
     const QStringList nowhere{"DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"};
     QVERIFY(!alarmctl({"add", "07:00"}, nowhere).errors.contains("QmAlarm"));
     QVERIFY(alarmctl({"add", "07:00"}, nowhere + QStringList{"CLOCK_DEBUG=1"}).errors.contains("QmAlarm::add"));
 }
 
-QTEST_GUILESS_MAIN(UsageTest)
+QTEST_GUILESS_MAIN(TestUsage)
 #include "tst_usage.moc"

@@ -30,7 +30,7 @@ QByteArray changeUntilSeen(QProcess &process)
 
 } // namespace
 
-class WatchTest : public QObject
+class TestWatch : public QObject
 {
     Q_OBJECT
 
@@ -49,14 +49,14 @@ private:
     Support::TimedProcess m_daemon;
 };
 
-void WatchTest::initTestCase()
+void TestWatch::initTestCase()
 {
     m_bus = std::make_unique<Support::PrivateBus>();
     QVERIFY(m_bus->isRunning());
     QVERIFY(m_daemon.start());
 }
 
-void WatchTest::watch(QProcess &process, const QStringList &options)
+void TestWatch::watch(QProcess &process, const QStringList &options)
 {
     process.start(alarmctlPath(), QStringList("watch") + options);
     QVERIFY(process.waitForStarted());
@@ -67,7 +67,7 @@ void WatchTest::watch(QProcess &process, const QStringList &options)
     process.readAllStandardOutput();
 }
 
-void WatchTest::printsALineForEachChange()
+void TestWatch::printsALineForEachChange()
 {
     QProcess process;
     watch(process, {"--json"});
@@ -90,7 +90,7 @@ void WatchTest::printsALineForEachChange()
     process.waitForFinished();
 }
 
-void WatchTest::printsNothingForADaemonThatIsBack()
+void TestWatch::printsNothingForADaemonThatIsBack()
 {
     QProcess process;
     watch(process, {"--json"});
@@ -109,7 +109,7 @@ void WatchTest::printsNothingForADaemonThatIsBack()
     process.waitForFinished();
 }
 
-void WatchTest::tellsMomentsInWords()
+void TestWatch::tellsMomentsInWords()
 {
     QProcess process;
     process.start(alarmctlPath(), {"watch"});
@@ -123,7 +123,7 @@ void WatchTest::tellsMomentsInWords()
 }
 
 // Last, as there is no bus afterwards.
-void WatchTest::endsWithTheBus()
+void TestWatch::endsWithTheBus()
 {
     QProcess process;
     watch(process, {"--json"});
@@ -134,5 +134,5 @@ void WatchTest::endsWithTheBus()
     QCOMPARE(process.readAllStandardError(), "alarmctl: the session bus is gone\n");
 }
 
-QTEST_GUILESS_MAIN(WatchTest)
+QTEST_GUILESS_MAIN(TestWatch)
 #include "tst_watch.moc"

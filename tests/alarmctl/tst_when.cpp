@@ -5,7 +5,7 @@
 #include <QJsonArray>
 #include <QTest>
 
-class WhenTest : public QObject
+class TestWhen : public QObject
 {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ private slots:
     void refusesNonsense();
 };
 
-void WhenTest::computesMoments_data()
+void TestWhen::computesMoments_data()
 {
     QTest::addColumn<QByteArray>("arguments");
     QTest::addColumn<QStringList>("moments");
@@ -60,7 +60,7 @@ void WhenTest::computesMoments_data()
     row("one digit", "7:05 --zone UTC --after 0", {"25500"});
 }
 
-void WhenTest::computesMoments()
+void TestWhen::computesMoments()
 {
     QFETCH(const QByteArray, arguments);
     QFETCH(const QStringList, moments);
@@ -70,14 +70,14 @@ void WhenTest::computesMoments()
     QCOMPARE(run.output, moments.join('\n') + '\n');
 }
 
-void WhenTest::printsAnArray()
+void TestWhen::printsAnArray()
 {
     const Run run = alarmctl("when 00:00 --zone UTC --after 0 --count 2 --json");
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.json().array(), QJsonArray({86400, 172800}));
 }
 
-void WhenTest::saysWhereTheMomentsEnd()
+void TestWhen::saysWhereTheMomentsEnd()
 {
     const Run none = alarmctl("when 00:00 --zone UTC --after 253402300799");
     QCOMPARE(none.exitCode, 1);
@@ -89,7 +89,7 @@ void WhenTest::saysWhereTheMomentsEnd()
     QCOMPARE(few.errors, "alarmctl: there are only 1 such moments\n");
 }
 
-void WhenTest::needsNoDaemon()
+void TestWhen::needsNoDaemon()
 {
     const Run run
         = alarmctl({"when", "00:00", "--zone", "UTC", "--after", "0"}, {"DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"});
@@ -97,7 +97,7 @@ void WhenTest::needsNoDaemon()
     QCOMPARE(run.output, "86400\n");
 }
 
-void WhenTest::refusesNonsense_data()
+void TestWhen::refusesNonsense_data()
 {
     QTest::addColumn<QByteArray>("arguments");
     QTest::addColumn<QString>("complaint");
@@ -115,7 +115,7 @@ void WhenTest::refusesNonsense_data()
     QTest::newRow("too many") << QByteArray("07:00 --zone UTC --after 0 --count 1001") << "1001";
 }
 
-void WhenTest::refusesNonsense()
+void TestWhen::refusesNonsense()
 {
     QFETCH(const QByteArray, arguments);
     QFETCH(const QString, complaint);
@@ -126,5 +126,5 @@ void WhenTest::refusesNonsense()
     QVERIFY(run.errors.contains("alarmctl when --help"));
 }
 
-QTEST_GUILESS_MAIN(WhenTest)
+QTEST_GUILESS_MAIN(TestWhen)
 #include "tst_when.moc"

@@ -26,7 +26,7 @@ AlarmProperties off(const QTime &time, quint64 nextTrigger = 0)
 
 Q_DECLARE_METATYPE(Clock::AlarmProperties)
 
-class AlarmPropertiesTest : public QObject
+class TestAlarmProperties : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private slots:
     void ordersAList();
 };
 
-void AlarmPropertiesTest::ordersTwoAlarms_data()
+void TestAlarmProperties::ordersTwoAlarms_data()
 {
     QTest::addColumn<AlarmProperties>("first");
     QTest::addColumn<AlarmProperties>("second");
@@ -52,7 +52,7 @@ void AlarmPropertiesTest::ordersTwoAlarms_data()
     QTest::newRow("no time before midnight") << off(QTime()) << off(QTime(0, 0));
 }
 
-void AlarmPropertiesTest::ordersTwoAlarms()
+void TestAlarmProperties::ordersTwoAlarms()
 {
     QFETCH(const AlarmProperties, first);
     QFETCH(const AlarmProperties, second);
@@ -60,7 +60,7 @@ void AlarmPropertiesTest::ordersTwoAlarms()
     QVERIFY(!SortTrigger()(second, first));
 }
 
-void AlarmPropertiesTest::breaksNoTie_data()
+void TestAlarmProperties::breaksNoTie_data()
 {
     QTest::addColumn<AlarmProperties>("first");
     QTest::addColumn<AlarmProperties>("second");
@@ -70,7 +70,7 @@ void AlarmPropertiesTest::breaksNoTie_data()
     QTest::newRow("off without a time") << off(QTime()) << off(QTime());
 }
 
-void AlarmPropertiesTest::breaksNoTie()
+void TestAlarmProperties::breaksNoTie()
 {
     QFETCH(const AlarmProperties, first);
     QFETCH(const AlarmProperties, second);
@@ -78,7 +78,7 @@ void AlarmPropertiesTest::breaksNoTie()
     QVERIFY(!SortTrigger()(second, first));
 }
 
-void AlarmPropertiesTest::ordersAList()
+void TestAlarmProperties::ordersAList()
 {
     const quint64 today = 1298444400;
     QList<AlarmProperties> entries{on((today + 93600) * Nanoseconds, QTime(9, 0)), off(QTime(6, 0)),
@@ -90,5 +90,5 @@ void AlarmPropertiesTest::ordersAList()
     QCOMPARE(times, QList<QTime>({QTime(7, 0), QTime(9, 0), QTime(5, 0), QTime(6, 0)}));
 }
 
-QTEST_APPLESS_MAIN(AlarmPropertiesTest)
+QTEST_APPLESS_MAIN(TestAlarmProperties)
 #include "tst_alarmproperties.moc"

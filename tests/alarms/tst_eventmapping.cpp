@@ -43,7 +43,7 @@ QString secondsOf(const QDate &date, const QTime &time)
 
 } // namespace
 
-class EventMappingTest : public QObject
+class TestEventMapping : public QObject
 {
     Q_OBJECT
 
@@ -75,14 +75,14 @@ private:
     Support::TimedProcess m_daemon;
 };
 
-void EventMappingTest::initTestCase()
+void TestEventMapping::initTestCase()
 {
     QCOMPARE(QDateTime(Wednesday, Eight).offsetFromUtc(), 20700);
     QVERIFY(m_bus.isRunning());
     QVERIFY(m_daemon.start());
 }
 
-QVariantMap EventMappingTest::stored(QmAlarmEvent &alarm)
+QVariantMap TestEventMapping::stored(QmAlarmEvent &alarm)
 {
     const quint32 cookie = Clock::QmAlarm().add(alarm);
     Astel::Timed::Interface timed;
@@ -93,7 +93,7 @@ QVariantMap EventMappingTest::stored(QmAlarmEvent &alarm)
     return attributes;
 }
 
-void EventMappingTest::mapsAnEnabledOneTimeAlarm()
+void TestEventMapping::mapsAnEnabledOneTimeAlarm()
 {
     const StoppedClock clock(QDateTime(Wednesday, Eight));
     QmAlarmEvent alarm = sampleAlarm();
@@ -115,7 +115,7 @@ void EventMappingTest::mapsAnEnabledOneTimeAlarm()
     QCOMPARE(stored(alarm), attributes);
 }
 
-void EventMappingTest::mapsADisabledOneTimeAlarm()
+void TestEventMapping::mapsADisabledOneTimeAlarm()
 {
     const StoppedClock clock(QDateTime(Wednesday, Eight));
     QmAlarmEvent alarm = sampleAlarm(QTime(7, 5));
@@ -133,7 +133,7 @@ void EventMappingTest::mapsADisabledOneTimeAlarm()
     QVERIFY(!attributes.contains("recurrence"));
 }
 
-void EventMappingTest::takesTheRecurrenceFromTheTriggerTime()
+void TestEventMapping::takesTheRecurrenceFromTheTriggerTime()
 {
     const StoppedClock clock(QDateTime(Wednesday, Eight));
     QmAlarmEvent alarm = sampleAlarm();
@@ -144,7 +144,7 @@ void EventMappingTest::takesTheRecurrenceFromTheTriggerTime()
     QCOMPARE(wire.attributes.value("alarmtime"), "07:00");
 }
 
-void EventMappingTest::takesTheWeeklyRecurrenceFromTheTriggerTime()
+void TestEventMapping::takesTheWeeklyRecurrenceFromTheTriggerTime()
 {
     const StoppedClock clock(QDateTime(Wednesday, Eight));
     QmAlarmEvent alarm = sampleAlarm();
@@ -156,7 +156,7 @@ void EventMappingTest::takesTheWeeklyRecurrenceFromTheTriggerTime()
     QCOMPARE(wire.attributes.value("alarmtime"), "07:00");
 }
 
-void EventMappingTest::mapsAnEnabledRepeatingAlarm()
+void TestEventMapping::mapsAnEnabledRepeatingAlarm()
 {
     const StoppedClock clock(QDateTime(Wednesday, Eight));
     QmAlarmEvent alarm = sampleAlarm();
@@ -172,7 +172,7 @@ void EventMappingTest::mapsAnEnabledRepeatingAlarm()
     QCOMPARE(alarm.triggerTime(), QDateTime(Wednesday.addDays(1), Seven));
 }
 
-void EventMappingTest::mapsADisabledRepeatingAlarm()
+void TestEventMapping::mapsADisabledRepeatingAlarm()
 {
     const StoppedClock clock(QDateTime(Wednesday, Eight));
     QmAlarmEvent alarm = sampleAlarm();
@@ -187,7 +187,7 @@ void EventMappingTest::mapsADisabledRepeatingAlarm()
     QCOMPARE(attributes.value("trigger"), secondsOf(Wednesday.addDays(7), Seven));
 }
 
-void EventMappingTest::movesTheTriggerToTheNextRepeatDay_data()
+void TestEventMapping::movesTheTriggerToTheNextRepeatDay_data()
 {
     QTest::addColumn<QTime>("now");
     QTest::addColumn<QList<int>>("days");
@@ -206,7 +206,7 @@ void EventMappingTest::movesTheTriggerToTheNextRepeatDay_data()
     QTest::newRow("every day, after the time") << past << QList<int>{0, 1, 2, 3, 4, 5, 6} << 1;
 }
 
-void EventMappingTest::movesTheTriggerToTheNextRepeatDay()
+void TestEventMapping::movesTheTriggerToTheNextRepeatDay()
 {
     QFETCH(const QTime, now);
     QFETCH(const QList<int>, days);
@@ -219,7 +219,7 @@ void EventMappingTest::movesTheTriggerToTheNextRepeatDay()
     QCOMPARE(wire.attributes.value("trigger"), secondsOf(Wednesday.addDays(daysAhead), Seven));
 }
 
-void EventMappingTest::movesTheTriggerOnFromTodayWhateverItsDate()
+void TestEventMapping::movesTheTriggerOnFromTodayWhateverItsDate()
 {
     const StoppedClock clock(QDateTime(Wednesday, Eight));
     QmAlarmEvent alarm = sampleAlarm();
@@ -232,7 +232,7 @@ void EventMappingTest::movesTheTriggerOnFromTodayWhateverItsDate()
     }
 }
 
-void EventMappingTest::comparesAndMovesTheTriggerTime()
+void TestEventMapping::comparesAndMovesTheTriggerTime()
 {
     const StoppedClock clock(QDateTime(Wednesday, Eight));
     const QDateTime evening(Wednesday, QTime(21, 45));
@@ -246,7 +246,7 @@ void EventMappingTest::comparesAndMovesTheTriggerTime()
     QCOMPARE(alarm.triggerTime(), evening.addDays(1));
 }
 
-void EventMappingTest::leavesATriggerOfTodayWhateverItsDate()
+void TestEventMapping::leavesATriggerOfTodayWhateverItsDate()
 {
     const StoppedClock clock(QDateTime(Wednesday, QTime(6, 59)));
     QmAlarmEvent alarm = sampleAlarm();
@@ -260,7 +260,7 @@ void EventMappingTest::leavesATriggerOfTodayWhateverItsDate()
     QCOMPARE(wire.attributes.value("trigger"), QString::number(longAgo.toSecsSinceEpoch()));
 }
 
-void EventMappingTest::writesRepeatDaysInTheirOrder()
+void TestEventMapping::writesRepeatDaysInTheirOrder()
 {
     const StoppedClock clock(QDateTime(Wednesday, Eight));
     QmAlarmEvent alarm = sampleAlarm();
@@ -271,7 +271,7 @@ void EventMappingTest::writesRepeatDaysInTheirOrder()
     QCOMPARE(alarm.repeatDays(), QList<int>({6, 0, 6}));
 }
 
-void EventMappingTest::setsTheFixedProperties()
+void TestEventMapping::setsTheFixedProperties()
 {
     const StoppedClock clock(QDateTime(Wednesday, Eight));
     QmAlarmEvent alarm = sampleAlarm();
@@ -286,7 +286,7 @@ void EventMappingTest::setsTheFixedProperties()
     QCOMPARE(wire.attributes.value("PLUGIN"), "libclockalarm");
 }
 
-void EventMappingTest::logsItsSteps()
+void TestEventMapping::logsItsSteps()
 {
     const StoppedClock clock(QDateTime(Wednesday, Eight));
     QmAlarmEvent alarm = sampleAlarm();
@@ -296,7 +296,7 @@ void EventMappingTest::logsItsSteps()
              QStringList({"QmAlarmEvent::toAstelTimedEvent entered", "QmAlarmEvent::toAstelTimedEvent exited"}));
 }
 
-void EventMappingTest::logsAnExceptionAndKeepsWhatItHas()
+void TestEventMapping::logsAnExceptionAndKeepsWhatItHas()
 {
     QmAlarmEvent alarm;
     alarm.setApplication("clock");
@@ -308,7 +308,7 @@ void EventMappingTest::logsAnExceptionAndKeepsWhatItHas()
     QCOMPARE(wire.flags, 0u);
 }
 
-void EventMappingTest::keepsWhatCameBeforeABadRepeatDay()
+void TestEventMapping::keepsWhatCameBeforeABadRepeatDay()
 {
     const StoppedClock clock(QDateTime(Wednesday, Eight));
     QmAlarmEvent alarm = sampleAlarm();
@@ -321,7 +321,7 @@ void EventMappingTest::keepsWhatCameBeforeABadRepeatDay()
     QCOMPARE(wire.recurrences.first().daysOfWeek, 2u);
 }
 
-void EventMappingTest::storesWhatIsLeftOfAFailedMapping()
+void TestEventMapping::storesWhatIsLeftOfAFailedMapping()
 {
     QmAlarmEvent alarm;
     alarm.setApplication("clock");
@@ -330,5 +330,5 @@ void EventMappingTest::storesWhatIsLeftOfAFailedMapping()
     QVERIFY(!attributes.contains("PLUGIN"));
 }
 
-QTEST_GUILESS_MAIN(EventMappingTest)
+QTEST_GUILESS_MAIN(TestEventMapping)
 #include "tst_eventmapping.moc"

@@ -31,7 +31,7 @@ QVariantMap sampleAttributes()
 
 } // namespace
 
-class EventReadingTest : public QObject
+class TestEventReading : public QObject
 {
     Q_OBJECT
 
@@ -60,7 +60,7 @@ private:
     std::unique_ptr<FakeDaemon> m_daemon;
 };
 
-void EventReadingTest::initTestCase()
+void TestEventReading::initTestCase()
 {
     QCOMPARE(QDateTime::fromSecsSinceEpoch(0).offsetFromUtc(), 19800);
     QVERIFY(m_bus.isRunning());
@@ -73,7 +73,7 @@ void EventReadingTest::initTestCase()
     QVERIFY(spy.wait());
 }
 
-void EventReadingTest::readsEveryAttribute()
+void TestEventReading::readsEveryAttribute()
 {
     m_daemon->setAttributes(Listed, sampleAttributes());
     QmAlarmEvent alarm;
@@ -92,7 +92,7 @@ void EventReadingTest::readsEveryAttribute()
     QCOMPARE(alarm.nextTrigger(), ListedTrigger);
 }
 
-void EventReadingTest::decidesWhetherTheAlarmIsOn_data()
+void TestEventReading::decidesWhetherTheAlarmIsOn_data()
 {
     QTest::addColumn<quint32>("cookie");
     QTest::addColumn<QVariant>("state");
@@ -113,7 +113,7 @@ void EventReadingTest::decidesWhetherTheAlarmIsOn_data()
     QTest::newRow("unlisted, no state, on") << Unlisted << none << QVariant("1") << false;
 }
 
-void EventReadingTest::decidesWhetherTheAlarmIsOn()
+void TestEventReading::decidesWhetherTheAlarmIsOn()
 {
     QFETCH(const quint32, cookie);
     QFETCH(const QVariant, state);
@@ -131,7 +131,7 @@ void EventReadingTest::decidesWhetherTheAlarmIsOn()
     QCOMPARE(alarm.isEnabled(), on);
 }
 
-void EventReadingTest::keepsTheUnitOfTheNextTrigger()
+void TestEventReading::keepsTheUnitOfTheNextTrigger()
 {
     m_daemon->setAttributes(Listed, sampleAttributes());
     QVariantMap far = sampleAttributes();
@@ -146,7 +146,7 @@ void EventReadingTest::keepsTheUnitOfTheNextTrigger()
     QCOMPARE(alarm.nextTrigger(), Q_UINT64_C(1298444700));
 }
 
-void EventReadingTest::readsRepeatDays_data()
+void TestEventReading::readsRepeatDays_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QList<int>>("days");
@@ -159,7 +159,7 @@ void EventReadingTest::readsRepeatDays_data()
     QTest::newRow("empty") << "" << QList<int>();
 }
 
-void EventReadingTest::readsRepeatDays()
+void TestEventReading::readsRepeatDays()
 {
     QFETCH(const QString, text);
     QFETCH(const QList<int>, days);
@@ -169,7 +169,7 @@ void EventReadingTest::readsRepeatDays()
     QCOMPARE(QmAlarmEvent(Listed).repeatDays(), days);
 }
 
-void EventReadingTest::keepsTheRepeatDaysThatNobodyNames()
+void TestEventReading::keepsTheRepeatDaysThatNobodyNames()
 {
     m_daemon->setAttributes(Listed, sampleAttributes());
     QmAlarmEvent alarm;
@@ -179,7 +179,7 @@ void EventReadingTest::keepsTheRepeatDaysThatNobodyNames()
     QCOMPARE(alarm.repeatDays(), QList<int>({5, 1}));
 }
 
-void EventReadingTest::readsMissingAttributesAsNothing()
+void TestEventReading::readsMissingAttributesAsNothing()
 {
     m_daemon->setAttributes(Unlisted, {});
     const QmAlarmEvent alarm(Unlisted);
@@ -195,7 +195,7 @@ void EventReadingTest::readsMissingAttributesAsNothing()
     QVERIFY(!alarm.isRecurring());
 }
 
-void EventReadingTest::readsNumbersInTheirWidth()
+void TestEventReading::readsNumbersInTheirWidth()
 {
     QVariantMap attributes = sampleAttributes();
     attributes.insert("snooze", "300");
@@ -206,7 +206,7 @@ void EventReadingTest::readsNumbersInTheirWidth()
     QCOMPARE(alarm.triggerTime(), QDateTime::fromSecsSinceEpoch(4294967295));
 }
 
-void EventReadingTest::keepsTheDefaultsWhereTheCallFails()
+void TestEventReading::keepsTheDefaultsWhereTheCallFails()
 {
     m_daemon->refuse("query_attributes", "the disk is gone");
     const Support::LogCapture log;
@@ -224,7 +224,7 @@ void EventReadingTest::keepsTheDefaultsWhereTheCallFails()
     QCOMPARE(alarm.nextTrigger(), Q_UINT64_C(0));
 }
 
-void EventReadingTest::logsTheAttributes()
+void TestEventReading::logsTheAttributes()
 {
     m_daemon->setAttributes(Listed, {{"STATE", "WAITING"}});
     const Support::LogCapture log;
@@ -235,7 +235,7 @@ void EventReadingTest::logsTheAttributes()
                           "QmAlarmEvent::fromAstelTimedEvent exited"}));
 }
 
-void EventReadingTest::isReadByTheConstructor()
+void TestEventReading::isReadByTheConstructor()
 {
     m_daemon->setAttributes(Listed, sampleAttributes());
     const QmAlarmEvent alarm(Listed);
@@ -243,7 +243,7 @@ void EventReadingTest::isReadByTheConstructor()
     QCOMPARE(alarm.tone(), "/tone.aac");
 }
 
-void EventReadingTest::isListedWhenItsAttributesCannotBeRead()
+void TestEventReading::isListedWhenItsAttributesCannotBeRead()
 {
     m_daemon->setAttributes(Listed, sampleAttributes());
     m_daemon->setAttributes(Unlisted, sampleAttributes());
@@ -256,7 +256,7 @@ void EventReadingTest::isListedWhenItsAttributesCannotBeRead()
     QVERIFY(alarms.first().title().isNull());
 }
 
-void EventReadingTest::asksOnceForEachListedAlarm()
+void TestEventReading::asksOnceForEachListedAlarm()
 {
     constexpr int Count = 300; // more than a bus lets wait for an answer at once
     for (int number = 0; number < Count; ++number) {
@@ -281,7 +281,7 @@ void EventReadingTest::asksOnceForEachListedAlarm()
         m_daemon->forget(FirstOfMany + number);
 }
 
-void EventReadingTest::readsTheOthersWhereOneCannotBeRead()
+void TestEventReading::readsTheOthersWhereOneCannotBeRead()
 {
     for (const quint32 cookie : {Listed, Unlisted, FirstOfMany})
         m_daemon->setAttributes(cookie, sampleAttributes());
@@ -294,7 +294,7 @@ void EventReadingTest::readsTheOthersWhereOneCannotBeRead()
     m_daemon->forget(FirstOfMany);
 }
 
-void EventReadingTest::logsOneListedAlarmAfterTheOther()
+void TestEventReading::logsOneListedAlarmAfterTheOther()
 {
     m_daemon->setAttributes(Listed, {{"STATE", "WAITING"}});
     m_daemon->setAttributes(Unlisted, {{"trigger", "60"}});
@@ -313,5 +313,5 @@ void EventReadingTest::logsOneListedAlarmAfterTheOther()
                      "QmAlarmEvent::fromAstelTimedEvent exited", "trigger time is : 60", signature + " exited"}));
 }
 
-QTEST_GUILESS_MAIN(EventReadingTest)
+QTEST_GUILESS_MAIN(TestEventReading)
 #include "tst_eventreading.moc"

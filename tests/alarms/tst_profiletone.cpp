@@ -7,7 +7,7 @@
 #include <QTest>
 
 /** In which order it asks, and what it falls back to; how a profile is read is tests/sound/tst_soundprofile's. */
-class ProfileToneTest : public QObject
+class TestProfileTone : public QObject
 {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ private slots:
     void isWhatTheSystemsProfileSays();
 };
 
-void ProfileToneTest::asksTheCustomisationBeforeTheVendor()
+void TestProfileTone::asksTheCustomisationBeforeTheVendor()
 {
     QStringList asked;
     Clock::profileTone([&](const QStringList &files, const QString &key) {
@@ -29,7 +29,7 @@ void ProfileToneTest::asksTheCustomisationBeforeTheVendor()
              QStringList({"/etc/profiled/97.custom.ini", "/etc/profiled/93.korvo.ini", "fallback/clock.alert.tone"}));
 }
 
-void ProfileToneTest::isWhatTheProfileNames_data()
+void TestProfileTone::isWhatTheProfileNames_data()
 {
     QTest::addColumn<std::optional<QString>>("named");
     QTest::addColumn<QString>("tone");
@@ -40,17 +40,17 @@ void ProfileToneTest::isWhatTheProfileNames_data()
     QTest::newRow("nothing") << Named() << "/usr/share/sounds/ring-tones/Clock alert 1.aac";
 }
 
-void ProfileToneTest::isWhatTheProfileNames()
+void TestProfileTone::isWhatTheProfileNames()
 {
     QFETCH(const std::optional<QString>, named);
     QFETCH(const QString, tone);
     QCOMPARE(Clock::profileTone([&](const QStringList &, const QString &) { return named; }), tone);
 }
 
-void ProfileToneTest::isWhatTheSystemsProfileSays()
+void TestProfileTone::isWhatTheSystemsProfileSays()
 {
     QCOMPARE(Clock::Utility::defaultAlertTone(), Clock::profileTone(&Sound::profileValue));
 }
 
-QTEST_APPLESS_MAIN(ProfileToneTest)
+QTEST_APPLESS_MAIN(TestProfileTone)
 #include "tst_profiletone.moc"

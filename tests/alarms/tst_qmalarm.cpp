@@ -28,7 +28,7 @@ QList<quint32> storedCookies()
 
 } // namespace
 
-class QmAlarmTest : public QObject
+class TestQmAlarm : public QObject
 {
     Q_OBJECT
 
@@ -54,7 +54,7 @@ private:
     Support::TimedProcess m_daemon;
 };
 
-void QmAlarmTest::initTestCase()
+void TestQmAlarm::initTestCase()
 {
     QVERIFY(m_bus.isRunning());
     QVERIFY(m_daemon.start());
@@ -63,12 +63,12 @@ void QmAlarmTest::initTestCase()
     QVERIFY(spy.wait());
 }
 
-void QmAlarmTest::cleanup()
+void TestQmAlarm::cleanup()
 {
     QVERIFY(Support::removeAllAlarms());
 }
 
-void QmAlarmTest::addsAnAlarm()
+void TestQmAlarm::addsAnAlarm()
 {
     const Support::LogCapture log;
     const quint32 cookie = Support::addAlarm(QTime(7, 5));
@@ -83,7 +83,7 @@ void QmAlarmTest::addsAnAlarm()
     QTRY_VERIFY(QmAlarmEvent(cookie).nextTrigger() > Q_UINT64_C(1000000000000000000));
 }
 
-void QmAlarmTest::movesTheTriggerTimeOfTheRecordItAdds()
+void TestQmAlarm::movesTheTriggerTimeOfTheRecordItAdds()
 {
     const int today = QDate::currentDate().dayOfWeek() % 7;
     QmAlarmEvent alarm = Support::alarmAt(QTime(7, 5));
@@ -94,7 +94,7 @@ void QmAlarmTest::movesTheTriggerTimeOfTheRecordItAdds()
     QCOMPARE(alarm.triggerTime().date().dayOfWeek() % 7, (today + 2) % 7);
 }
 
-void QmAlarmTest::replacesAnAlarmUnderANewCookie()
+void TestQmAlarm::replacesAnAlarmUnderANewCookie()
 {
     const quint32 cookie = Support::addAlarm(QTime(7, 5));
     QmAlarmEvent alarm(cookie);
@@ -106,7 +106,7 @@ void QmAlarmTest::replacesAnAlarmUnderANewCookie()
     QCOMPARE(QmAlarmEvent(replaced).alarmTime(), QTime(8, 10));
 }
 
-void QmAlarmTest::failsToReplaceAnUnknownAlarm()
+void TestQmAlarm::failsToReplaceAnUnknownAlarm()
 {
     QmAlarmEvent alarm = Support::alarmAt(QTime(7, 5));
     const Support::LogCapture log;
@@ -115,7 +115,7 @@ void QmAlarmTest::failsToReplaceAnUnknownAlarm()
     QCOMPARE(log.lines(QtDebugMsg).filter(line).size(), 1);
 }
 
-void QmAlarmTest::deletesAnAlarm()
+void TestQmAlarm::deletesAnAlarm()
 {
     const quint32 cookie = Support::addAlarm(QTime(7, 5));
     const Support::LogCapture log;
@@ -124,12 +124,12 @@ void QmAlarmTest::deletesAnAlarm()
     QVERIFY(storedCookies().isEmpty());
 }
 
-void QmAlarmTest::deletesAnUnknownAlarmWithoutComplaint()
+void TestQmAlarm::deletesAnUnknownAlarmWithoutComplaint()
 {
     QVERIFY(QmAlarm().deleteEvent(2147483647u));
 }
 
-void QmAlarmTest::queriesItsOwnAlarmsInTheirOrder()
+void TestQmAlarm::queriesItsOwnAlarmsInTheirOrder()
 {
     const quint32 first = Support::addAlarm(QTime(9, 0));
     QmAlarmEvent foreign = Support::alarmAt(QTime(8, 0));
@@ -145,7 +145,7 @@ void QmAlarmTest::queriesItsOwnAlarmsInTheirOrder()
     QVERIFY(QmAlarm().deleteEvent(other));
 }
 
-void QmAlarmTest::keepsWhatWasStoredWhenTheDaemonDies()
+void TestQmAlarm::keepsWhatWasStoredWhenTheDaemonDies()
 {
     const quint32 cookie = Support::addAlarm(QTime(7, 5));
     m_daemon.kill();
@@ -156,14 +156,14 @@ void QmAlarmTest::keepsWhatWasStoredWhenTheDaemonDies()
     QCOMPARE(alarm.alarmTime(), QTime(7, 5));
 }
 
-void QmAlarmTest::listsNothingWhereThereIsNothing()
+void TestQmAlarm::listsNothingWhereThereIsNothing()
 {
     QList<QmAlarmEvent> alarms{QmAlarmEvent()};
     QVERIFY(!QmAlarm().queryAndSortAlarmCookies(alarms));
     QVERIFY(alarms.isEmpty());
 }
 
-void QmAlarmTest::sortsAlarmsForTheList()
+void TestQmAlarm::sortsAlarmsForTheList()
 {
     const QTime now = QTime::currentTime();
     const QTime soon = QTime(now.hour(), now.minute()).addSecs(3600);
@@ -186,7 +186,7 @@ void QmAlarmTest::sortsAlarmsForTheList()
     QTRY_COMPARE(sorted(), expected);
 }
 
-void QmAlarmTest::logsTheSorting()
+void TestQmAlarm::logsTheSorting()
 {
     const quint32 cookie = Support::addSwitchedOffAlarm(QTime(5, 0));
     const quint64 trigger = QmAlarmEvent(cookie).nextTrigger();
@@ -200,7 +200,7 @@ void QmAlarmTest::logsTheSorting()
     QCOMPARE(lines.last(), signature + " exited");
 }
 
-void QmAlarmTest::failsWithoutADaemon()
+void TestQmAlarm::failsWithoutADaemon()
 {
     m_daemon.kill();
     const Support::LogCapture log;
@@ -221,7 +221,7 @@ void QmAlarmTest::failsWithoutADaemon()
     QVERIFY(m_daemon.start());
 }
 
-void QmAlarmTest::sortingWithoutADaemonLeavesTheList()
+void TestQmAlarm::sortingWithoutADaemonLeavesTheList()
 {
     m_daemon.kill();
     QmAlarmEvent alarm = Support::alarmAt(QTime(7, 5));
@@ -236,5 +236,5 @@ void QmAlarmTest::sortingWithoutADaemonLeavesTheList()
     QVERIFY(m_daemon.start());
 }
 
-QTEST_GUILESS_MAIN(QmAlarmTest)
+QTEST_GUILESS_MAIN(TestQmAlarm)
 #include "tst_qmalarm.moc"

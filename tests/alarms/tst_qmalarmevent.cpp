@@ -14,7 +14,7 @@ const QTime SevenThirty(7, 30);
 
 } // namespace
 
-class QmAlarmEventTest : public QObject
+class TestQmAlarmEvent : public QObject
 {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ private slots:
     void keepsEightBitsOfTheSnooze();
 };
 
-void QmAlarmEventTest::startsWithTheDefaults()
+void TestQmAlarmEvent::startsWithTheDefaults()
 {
     const QmAlarmEvent alarm;
     QCOMPARE(alarm.cookie(), 4294967295u);
@@ -50,7 +50,7 @@ void QmAlarmEventTest::startsWithTheDefaults()
     QCOMPARE(alarm.nextTrigger(), Q_UINT64_C(0));
 }
 
-void QmAlarmEventTest::returnsWhatWasSet()
+void TestQmAlarmEvent::returnsWhatWasSet()
 {
     QmAlarmEvent alarm;
     const QDateTime trigger(Today, SevenThirty);
@@ -77,7 +77,7 @@ void QmAlarmEventTest::returnsWhatWasSet()
     QCOMPARE(alarm.nextTrigger(), Q_UINT64_C(0xffffffffffffffff));
 }
 
-void QmAlarmEventTest::copiesEveryField()
+void TestQmAlarmEvent::copiesEveryField()
 {
     QmAlarmEvent alarm;
     alarm.setCookie(7);
@@ -104,7 +104,7 @@ void QmAlarmEventTest::copiesEveryField()
     QCOMPARE(copy.nextTrigger(), Q_UINT64_C(9));
 }
 
-void QmAlarmEventTest::anchorsTheTriggerTimeToToday()
+void TestQmAlarmEvent::anchorsTheTriggerTimeToToday()
 {
     const StoppedClock clock(QDateTime(Today, QTime(9, 0, 12, 345)));
     QmAlarmEvent alarm;
@@ -115,7 +115,7 @@ void QmAlarmEventTest::anchorsTheTriggerTimeToToday()
     QCOMPARE(alarm.triggerTime().timeSpec(), Qt::LocalTime);
 }
 
-void QmAlarmEventTest::readsTheRunningClock()
+void TestQmAlarmEvent::readsTheRunningClock()
 {
     QmAlarmEvent alarm;
     QDate before;
@@ -126,7 +126,7 @@ void QmAlarmEventTest::readsTheRunningClock()
     QCOMPARE(alarm.triggerTime(), QDateTime(before, SevenThirty));
 }
 
-void QmAlarmEventTest::rollsOverByOneDayOnce()
+void TestQmAlarmEvent::rollsOverByOneDayOnce()
 {
     StoppedClock clock(QDateTime(Today, QTime(9, 0)));
     QmAlarmEvent alarm;
@@ -141,7 +141,7 @@ void QmAlarmEventTest::rollsOverByOneDayOnce()
     QCOMPARE(alarm.triggerTime(), QDateTime(Today.addDays(2), SevenThirty));
 }
 
-void QmAlarmEventTest::rollsOverOnTheVeryMoment()
+void TestQmAlarmEvent::rollsOverOnTheVeryMoment()
 {
     StoppedClock clock(QDateTime(Today, SevenThirty).addMSecs(-1));
     QmAlarmEvent alarm;
@@ -154,7 +154,7 @@ void QmAlarmEventTest::rollsOverOnTheVeryMoment()
     QCOMPARE(alarm.triggerTime(), QDateTime(Today.addDays(1), SevenThirty));
 }
 
-void QmAlarmEventTest::leavesAPastOfSeveralDaysInThePast()
+void TestQmAlarmEvent::leavesAPastOfSeveralDaysInThePast()
 {
     const StoppedClock clock(QDateTime(Today, QTime(9, 0)));
     QmAlarmEvent alarm;
@@ -164,7 +164,7 @@ void QmAlarmEventTest::leavesAPastOfSeveralDaysInThePast()
     QCOMPARE(alarm.triggerTime(), QDateTime(Today.addDays(-4), SevenThirty));
 }
 
-void QmAlarmEventTest::rollsOnlySwitchedOffOneTimeAlarmsOver_data()
+void TestQmAlarmEvent::rollsOnlySwitchedOffOneTimeAlarmsOver_data()
 {
     QTest::addColumn<bool>("enabled");
     QTest::addColumn<QList<int>>("days");
@@ -174,7 +174,7 @@ void QmAlarmEventTest::rollsOnlySwitchedOffOneTimeAlarmsOver_data()
     QTest::newRow("off and repeating") << false << QList<int>{1};
 }
 
-void QmAlarmEventTest::rollsOnlySwitchedOffOneTimeAlarmsOver()
+void TestQmAlarmEvent::rollsOnlySwitchedOffOneTimeAlarmsOver()
 {
     QFETCH(const bool, enabled);
     QFETCH(const QList<int>, days);
@@ -187,7 +187,7 @@ void QmAlarmEventTest::rollsOnlySwitchedOffOneTimeAlarmsOver()
     QCOMPARE(alarm.triggerTime(), QDateTime(Today, SevenThirty));
 }
 
-void QmAlarmEventTest::keepsTitlesAsTheyAre_data()
+void TestQmAlarmEvent::keepsTitlesAsTheyAre_data()
 {
     QTest::addColumn<QString>("given");
     QTest::addColumn<QString>("kept");
@@ -199,7 +199,7 @@ void QmAlarmEventTest::keepsTitlesAsTheyAre_data()
                             << "  Work ";
 }
 
-void QmAlarmEventTest::keepsTitlesAsTheyAre()
+void TestQmAlarmEvent::keepsTitlesAsTheyAre()
 {
     QFETCH(const QString, given);
     QFETCH(const QString, kept);
@@ -209,12 +209,12 @@ void QmAlarmEventTest::keepsTitlesAsTheyAre()
     QVERIFY(!alarm.title().isNull());
 }
 
-void QmAlarmEventTest::keepsEightBitsOfTheSnooze()
+void TestQmAlarmEvent::keepsEightBitsOfTheSnooze()
 {
     QmAlarmEvent alarm;
     QVERIFY(alarm.setSnooze(300));
     QCOMPARE(alarm.snooze(), quint8(44));
 }
 
-QTEST_APPLESS_MAIN(QmAlarmEventTest)
+QTEST_APPLESS_MAIN(TestQmAlarmEvent)
 #include "tst_qmalarmevent.moc"

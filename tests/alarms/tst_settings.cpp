@@ -4,7 +4,7 @@
 
 #include <QTest>
 
-class SettingsTest : public QObject
+class TestSettings : public QObject
 {
     Q_OBJECT
 
@@ -13,7 +13,7 @@ private slots:
     void holdsEveryName();
 };
 
-void SettingsTest::holdsEveryName_data()
+void TestSettings::holdsEveryName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("expected");
@@ -39,12 +39,12 @@ void SettingsTest::holdsEveryName_data()
     QTest::newRow("clock type key") << QString(Settings::ClockTypeKey) << "/apps/clock/clocktype";
 }
 
-void SettingsTest::holdsEveryName()
+void TestSettings::holdsEveryName()
 {
     QFETCH(const QString, name);
     QFETCH(const QString, expected);
     QCOMPARE(name, expected);
 }
 
-QTEST_APPLESS_MAIN(SettingsTest)
+QTEST_APPLESS_MAIN(TestSettings)
 #include "tst_settings.moc"

@@ -44,7 +44,7 @@ QString timeLeft(qint64 seconds)
 
 } // namespace
 
-class UtilityTest : public QObject
+class TestUtility : public QObject
 {
     Q_OBJECT
 
@@ -72,7 +72,7 @@ private:
     Texts m_texts;
 };
 
-void UtilityTest::initTestCase()
+void TestUtility::initTestCase()
 {
     QCOMPARE(QDateTime::fromSecsSinceEpoch(Now).offsetFromUtc(), 3600);
     QVERIFY(m_bus.isRunning());
@@ -81,14 +81,14 @@ void UtilityTest::initTestCase()
     QVERIFY(!Utility::instance()->parent());
 }
 
-void UtilityTest::publish(const QVariantMap &triggers)
+void TestUtility::publish(const QVariantMap &triggers)
 {
     QSignalSpy spy(Utility::instance(), &Utility::valueChanged);
     m_publisher->publish(triggers);
     QVERIFY(spy.wait());
 }
 
-void UtilityTest::hasOneSignalAndOneSlotInThisOrder()
+void TestUtility::hasOneSignalAndOneSlotInThisOrder()
 {
     const QMetaObject &meta = Utility::staticMetaObject;
     QCOMPARE(meta.methodCount() - meta.methodOffset(), 2);
@@ -100,7 +100,7 @@ void UtilityTest::hasOneSignalAndOneSlotInThisOrder()
     QCOMPARE(second.methodSignature(), "onValueChanged()");
 }
 
-void UtilityTest::knowsNothingBeforeTheFirstUpdate()
+void TestUtility::knowsNothingBeforeTheFirstUpdate()
 {
     quint64 trigger = 5;
     QVERIFY(!Utility::instance()->isTriggerMapReceived());
@@ -112,7 +112,7 @@ void UtilityTest::knowsNothingBeforeTheFirstUpdate()
     QVERIFY(!Utility::instance()->isTriggerMapReceived());
 }
 
-void UtilityTest::subscribesAndKeepsTheSnapshot()
+void TestUtility::subscribesAndKeepsTheSnapshot()
 {
     m_publisher = std::make_unique<ContextPublisher>("Alarm.Trigger", QVariantMap());
     QVERIFY(m_publisher->isPublished());
@@ -131,7 +131,7 @@ void UtilityTest::subscribesAndKeepsTheSnapshot()
     QCOMPARE(spy.size(), 2);
 }
 
-void UtilityTest::findsTriggersByCookie()
+void TestUtility::findsTriggersByCookie()
 {
     publish({{"7", 1298448000999999999ULL}, {"2147483647", 18446744073709551615ULL}});
     quint64 trigger = 5;
@@ -146,7 +146,7 @@ void UtilityTest::findsTriggersByCookie()
     QVERIFY(Utility::instance()->triggerFromContext(8, trigger));
 }
 
-void UtilityTest::readsCookiesAsSignedNumbers()
+void TestUtility::readsCookiesAsSignedNumbers()
 {
     publish({{"2147483648", 1ULL}, {"4294967295", 2ULL}, {"-2147483648", 3ULL}});
     quint64 trigger = 5;
@@ -156,7 +156,7 @@ void UtilityTest::readsCookiesAsSignedNumbers()
     QCOMPARE(trigger, 3u);
 }
 
-void UtilityTest::setsTheSecondsAlsoWhereNothingIsFound()
+void TestUtility::setsTheSecondsAlsoWhereNothingIsFound()
 {
     publish({{"7", 1298448000999999999ULL}});
     time_t seconds = 5;
@@ -166,7 +166,7 @@ void UtilityTest::setsTheSecondsAlsoWhereNothingIsFound()
     QCOMPARE(seconds, time_t(0));
 }
 
-void UtilityTest::comparesHourAndMinuteOfTheTrigger()
+void TestUtility::comparesHourAndMinuteOfTheTrigger()
 {
     const QDateTime trigger(QDate(2026, 11, 18), QTime(7, 30, 59));
     publish({{"7", quint64(trigger.toSecsSinceEpoch()) * Nanoseconds}});
@@ -177,7 +177,7 @@ void UtilityTest::comparesHourAndMinuteOfTheTrigger()
     QVERIFY(!utility->isTriggerTimeChanged(8, QTime(8, 30)));
 }
 
-void UtilityTest::reReadsTheSnapshotWhenAsked()
+void TestUtility::reReadsTheSnapshotWhenAsked()
 {
     QSignalSpy spy(Utility::instance(), &Utility::valueChanged);
     Utility::instance()->onValueChanged();
@@ -186,7 +186,7 @@ void UtilityTest::reReadsTheSnapshotWhenAsked()
     QVERIFY(Utility::instance()->triggerSecondsFromContext(7, seconds));
 }
 
-void UtilityTest::followsSubscriptionsOfItsOwn()
+void TestUtility::followsSubscriptionsOfItsOwn()
 {
     QSignalSpy spy(Utility::instance(), &Utility::valueChanged);
     Utility::instance()->subscribeToContextFramework();
@@ -198,7 +198,7 @@ void UtilityTest::followsSubscriptionsOfItsOwn()
     QVERIFY(Utility::instance()->triggerFromContext(9, trigger));
 }
 
-void UtilityTest::tellsTheTimeLeft_data()
+void TestUtility::tellsTheTimeLeft_data()
 {
     QTest::addColumn<qint64>("seconds");
     QTest::addColumn<QString>("text");
@@ -222,14 +222,14 @@ void UtilityTest::tellsTheTimeLeft_data()
     QTest::newRow("a whole turn of 32 bits and an hour") << turn + 3600 << "in 01:00";
 }
 
-void UtilityTest::tellsTheTimeLeft()
+void TestUtility::tellsTheTimeLeft()
 {
     QFETCH(const qint64, seconds);
     QFETCH(const QString, text);
     QCOMPARE(timeLeft(seconds), text);
 }
 
-void UtilityTest::tellsTheTimeLeftWhereSummerTimeBegins()
+void TestUtility::tellsTheTimeLeftWhereSummerTimeBegins()
 {
     // A day without the time half past two.
     const QDateTime now(QDate(2026, 3, 29), QTime(0, 0));
@@ -239,7 +239,7 @@ void UtilityTest::tellsTheTimeLeftWhereSummerTimeBegins()
     QCOMPARE(text, "in 02:30");
 }
 
-void UtilityTest::logsTheTimeLeftCall()
+void TestUtility::logsTheTimeLeftCall()
 {
     const Support::LogCapture log;
     timeLeft(60);
@@ -248,5 +248,5 @@ void UtilityTest::logsTheTimeLeftCall()
                           "alarmTime 1298448060"}));
 }
 
-QTEST_GUILESS_MAIN(UtilityTest)
+QTEST_GUILESS_MAIN(TestUtility)
 #include "tst_utility.moc"

@@ -48,7 +48,7 @@ QByteArray withManifestValue(const QString &key, const QJsonValue &value)
 
 } // namespace
 
-class ArchiveTest : public QObject
+class TestArchive : public QObject
 {
     Q_OBJECT
 
@@ -64,7 +64,7 @@ private slots:
     void saysWhatIsWrong();
 };
 
-void ArchiveTest::holdsEverything_data()
+void TestArchive::holdsEverything_data()
 {
     QTest::addColumn<Archive>("archive");
 
@@ -72,7 +72,7 @@ void ArchiveTest::holdsEverything_data()
     QTest::newRow("nothing") << Archive{QDateTime(QDate(2026, 1, 1), QTime(0, 0), Qt::UTC), {}, {}, {}};
 }
 
-void ArchiveTest::holdsEverything()
+void TestArchive::holdsEverything()
 {
     QFETCH(const Archive, archive);
     const auto decoded = decode(encode(archive));
@@ -80,7 +80,7 @@ void ArchiveTest::holdsEverything()
     QCOMPARE(*decoded, archive);
 }
 
-void ArchiveTest::otherProgramsCheckIt()
+void TestArchive::otherProgramsCheckIt()
 {
     const QTemporaryDir folder;
     QFile file(folder.filePath("a.backup"));
@@ -96,14 +96,14 @@ void ArchiveTest::otherProgramsCheckIt()
              "manifest.json: OK\nevents.json: OK\nsettings/1: OK\nsettings/2: OK\ntones/1: OK\n");
 }
 
-void ArchiveTest::refusesEveryShorterFile()
+void TestArchive::refusesEveryShorterFile()
 {
     const QByteArray whole = encode(sample());
     for (qsizetype size = 0; size < whole.size(); ++size)
         QVERIFY2(!decode(whole.left(size)), qPrintable(QString::number(size)));
 }
 
-void ArchiveTest::refusesEveryFlippedBit()
+void TestArchive::refusesEveryFlippedBit()
 {
     const QByteArray whole = encode(sample());
     for (qsizetype i = 0; i < whole.size() * 8; ++i) {
@@ -113,7 +113,7 @@ void ArchiveTest::refusesEveryFlippedBit()
     }
 }
 
-void ArchiveTest::refusesBytesBehindTheEnd()
+void TestArchive::refusesBytesBehindTheEnd()
 {
     const QByteArray whole = encode(sample());
     QVERIFY(!decode(whole + '\0'));
@@ -121,7 +121,7 @@ void ArchiveTest::refusesBytesBehindTheEnd()
     QVERIFY(!decode(whole + whole));
 }
 
-void ArchiveTest::refusesBlocksThatAreMissingDoubledOrMoved()
+void TestArchive::refusesBlocksThatAreMissingDoubledOrMoved()
 {
     const QByteArray whole = encode(sample());
     const qsizetype blocks = whole.size() / 512;
@@ -137,7 +137,7 @@ void ArchiveTest::refusesBlocksThatAreMissingDoubledOrMoved()
     }
 }
 
-void ArchiveTest::saysWhatIsWrong_data()
+void TestArchive::saysWhatIsWrong_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("what");
@@ -168,7 +168,7 @@ void ArchiveTest::saysWhatIsWrong_data()
     QTest::newRow("no JSON") << forged(whole, "events.json", reworded("hello")) << "events.json";
 }
 
-void ArchiveTest::saysWhatIsWrong()
+void TestArchive::saysWhatIsWrong()
 {
     QFETCH(const QByteArray, bytes);
     QFETCH(const QString, what);
@@ -178,5 +178,5 @@ void ArchiveTest::saysWhatIsWrong()
     QCOMPARE(decoded.error().exit, Exit::Failed);
 }
 
-QTEST_GUILESS_MAIN(ArchiveTest)
+QTEST_GUILESS_MAIN(TestArchive)
 #include "tst_archive.moc"

@@ -52,7 +52,7 @@ private:
 } // namespace
 
 /** The real clock, with its window, while the real command makes a backup and restores it. */
-class ClockTakesPartTest : public QObject
+class TestClockTakesPart : public QObject
 {
     Q_OBJECT
 
@@ -64,12 +64,12 @@ private:
     Household m_household;
 };
 
-void ClockTakesPartTest::initTestCase()
+void TestClockTakesPart::initTestCase()
 {
     QVERIFY(m_household.start());
 }
 
-void ClockTakesPartTest::theFourCallsComeInTheirOrder()
+void TestClockTakesPart::theFourCallsComeInTheirOrder()
 {
     QVERIFY(Support::addAlarm(QTime(7, 30), "Work"));
     const auto records = Household::records();
@@ -101,5 +101,5 @@ void ClockTakesPartTest::theFourCallsComeInTheirOrder()
     QCOMPARE(logged, "backupStarts\nbackupFinished\nrestoreStarts\nrestoreFinished\n");
 }
 
-QTEST_GUILESS_MAIN(ClockTakesPartTest)
+QTEST_GUILESS_MAIN(TestClockTakesPart)
 #include "tst_clocktakespart.moc"

@@ -33,7 +33,7 @@ QByteArray otherArchive(const QString &format)
 } // namespace
 
 /** The real command and daemon with files that must change nothing. */
-class DamagedBackupsTest : public QObject
+class TestDamagedBackups : public QObject
 {
     Q_OBJECT
 
@@ -57,7 +57,7 @@ private:
     QByteArray m_settings;
 };
 
-void DamagedBackupsTest::initTestCase()
+void TestDamagedBackups::initTestCase()
 {
     // Where this is the super-user, what this process starts is bound by permissions all the same.
     for (const int capability : CapabilitiesToReadAll)
@@ -71,7 +71,7 @@ void DamagedBackupsTest::initTestCase()
     QVERIFY(write(settingsFile(), m_settings));
 }
 
-void DamagedBackupsTest::verifyUnchanged(const Support::Run &run, const QString &complaint, const QStringList &told)
+void TestDamagedBackups::verifyUnchanged(const Support::Run &run, const QString &complaint, const QStringList &told)
 {
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(run.output, "");
@@ -84,7 +84,7 @@ void DamagedBackupsTest::verifyUnchanged(const Support::Run &run, const QString 
     m_notes.clear();
 }
 
-void DamagedBackupsTest::aDamagedFileChangesNothing_data()
+void TestDamagedBackups::aDamagedFileChangesNothing_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("complaint");
@@ -113,7 +113,7 @@ void DamagedBackupsTest::aDamagedFileChangesNothing_data()
     QTest::newRow("a page of zeros in it") << QByteArray(whole).replace(512, 512, QByteArray(512, '\0')) << "damaged";
 }
 
-void DamagedBackupsTest::aDamagedFileChangesNothing()
+void TestDamagedBackups::aDamagedFileChangesNothing()
 {
     QFETCH(const QByteArray, bytes);
     QFETCH(const QString, complaint);
@@ -123,7 +123,7 @@ void DamagedBackupsTest::aDamagedFileChangesNothing()
     verifyUnchanged(run, complaint);
 }
 
-void DamagedBackupsTest::noFileChangesNothing_data()
+void TestDamagedBackups::noFileChangesNothing_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("complaint");
@@ -148,14 +148,14 @@ void DamagedBackupsTest::noFileChangesNothing_data()
     QTest::newRow("huge") << huge << "too large";
 }
 
-void DamagedBackupsTest::noFileChangesNothing()
+void TestDamagedBackups::noFileChangesNothing()
 {
     QFETCH(const QString, path);
     QFETCH(const QString, complaint);
     verifyUnchanged(m_household.backUp({"restore", path}), complaint);
 }
 
-void DamagedBackupsTest::whatTheDaemonRefusesChangesNothing_data()
+void TestDamagedBackups::whatTheDaemonRefusesChangesNothing_data()
 {
     QTest::addColumn<Wire::Record>("record");
     QTest::addColumn<int>("times");
@@ -168,7 +168,7 @@ void DamagedBackupsTest::whatTheDaemonRefusesChangesNothing_data()
     QTest::newRow("many") << Wire::Record{dailyAlarm(6, "Many"), "WAITING", 0} << 10000 << "10000 events";
 }
 
-void DamagedBackupsTest::whatTheDaemonRefusesChangesNothing()
+void TestDamagedBackups::whatTheDaemonRefusesChangesNothing()
 {
     QFETCH(const Wire::Record, record);
     QFETCH(const int, times);
@@ -180,7 +180,7 @@ void DamagedBackupsTest::whatTheDaemonRefusesChangesNothing()
                     {"one: restoreStarts", "one: restoreFinished"});
 }
 
-void DamagedBackupsTest::theWholeFileIsTaken()
+void TestDamagedBackups::theWholeFileIsTaken()
 {
     QVERIFY(write(m_household.file(), Backup::encode(backupFromElsewhere())));
     const Support::Run run = m_household.backUp({"restore", m_household.file()});
@@ -195,5 +195,5 @@ void DamagedBackupsTest::theWholeFileIsTaken()
     QCOMPARE(m_notes, (QStringList{"one: restoreStarts", "one: restoreFinished"}));
 }
 
-QTEST_GUILESS_MAIN(DamagedBackupsTest)
+QTEST_GUILESS_MAIN(TestDamagedBackups)
 #include "tst_damagedbackups.moc"

@@ -11,7 +11,7 @@
 namespace Wire = Astel::Timed::Wire;
 
 /** A restore that is cut off, which whoever takes part sees and holds up. */
-class InterruptedRestoresTest : public QObject
+class TestInterruptedRestores : public QObject
 {
     Q_OBJECT
 
@@ -35,12 +35,12 @@ private:
     QList<Wire::Record> m_records;
 };
 
-void InterruptedRestoresTest::initTestCase()
+void TestInterruptedRestores::initTestCase()
 {
     QVERIFY(m_household.start());
 }
 
-void InterruptedRestoresTest::init()
+void TestInterruptedRestores::init()
 {
     m_notes.clear();
     QVERIFY(m_household.startAfresh());
@@ -52,20 +52,20 @@ void InterruptedRestoresTest::init()
     QVERIFY(write(m_household.file(), Backup::encode(backupFromElsewhere())));
 }
 
-bool InterruptedRestoresTest::startRestore(QProcess &restore, const QString &timeout)
+bool TestInterruptedRestores::startRestore(QProcess &restore, const QString &timeout)
 {
     restore.start(Places::program("clock-backup"), {"restore", "--timeout", timeout, m_household.file()});
     return QTest::qWaitFor([this] { return m_notes.contains("slow: restoreStarts"); });
 }
 
-void InterruptedRestoresTest::verifyUnchanged()
+void TestInterruptedRestores::verifyUnchanged()
 {
     QCOMPARE(Household::records(), m_records);
     QCOMPARE(contentOf(settingsFile()), "[Clock]\nSnoozeTime=5\n");
     QVERIFY(!QFileInfo::exists(music("new.mp3")));
 }
 
-void InterruptedRestoresTest::verifyRestored(const Support::Run &run, const QString &output)
+void TestInterruptedRestores::verifyRestored(const Support::Run &run, const QString &output)
 {
     QCOMPARE(run.exitCode, 0);
     QVERIFY2(run.output.startsWith(output), qPrintable(run.output));
@@ -74,7 +74,7 @@ void InterruptedRestoresTest::verifyRestored(const Support::Run &run, const QStr
     QCOMPARE(contentOf(music("new.mp3")), "sound");
 }
 
-void InterruptedRestoresTest::oneThatIsKilledChangesNothingAndCanBeRepeated()
+void TestInterruptedRestores::oneThatIsKilledChangesNothingAndCanBeRepeated()
 {
     QProcess restore;
     QVERIFY(startRestore(restore, "600"));
@@ -85,7 +85,7 @@ void InterruptedRestoresTest::oneThatIsKilledChangesNothingAndCanBeRepeated()
                    "Restored 1 alarm, 1 settings file, 1 tone\n");
 }
 
-void InterruptedRestoresTest::aDaemonThatDiesMeanwhileLeavesEverythingAsItWas()
+void TestInterruptedRestores::aDaemonThatDiesMeanwhileLeavesEverythingAsItWas()
 {
     QProcess restore;
     QVERIFY(startRestore(restore, "2"));
@@ -100,7 +100,7 @@ void InterruptedRestoresTest::aDaemonThatDiesMeanwhileLeavesEverythingAsItWas()
     QTRY_COMPARE(m_notes, (QStringList{"slow: restoreStarts", "slow: restoreFinished"}));
 }
 
-void InterruptedRestoresTest::oneThatEndedBeforeTheFilesCanBeRepeated()
+void TestInterruptedRestores::oneThatEndedBeforeTheFilesCanBeRepeated()
 {
     QCOMPARE(m_household.backUp({"restore", "--timeout", "1", m_household.file()}).exitCode, 0);
     QVERIFY(write(settingsFile(), "[Clock]\nSnoozeTime=5\n") && QFile::remove(music("new.mp3")));
@@ -108,5 +108,5 @@ void InterruptedRestoresTest::oneThatEndedBeforeTheFilesCanBeRepeated()
                    "Restored 0 alarms, 1 settings file, 1 tone\n1 alarm needed nothing");
 }
 
-QTEST_GUILESS_MAIN(InterruptedRestoresTest)
+QTEST_GUILESS_MAIN(TestInterruptedRestores)
 #include "tst_interruptedrestores.moc"

@@ -13,7 +13,7 @@
 using Manner = NotingParticipant::Manner;
 
 /** Who takes part, with the real command and daemon. */
-class ParticipantsTest : public QObject
+class TestParticipants : public QObject
 {
     Q_OBJECT
 
@@ -40,18 +40,18 @@ private:
     QStringList m_notes;
 };
 
-void ParticipantsTest::initTestCase()
+void TestParticipants::initTestCase()
 {
     QVERIFY(m_household.start());
 }
 
-void ParticipantsTest::init()
+void TestParticipants::init()
 {
     m_notes.clear();
     QVERIFY(m_household.startAfresh());
 }
 
-void ParticipantsTest::eachIsToldInItsTurn_data()
+void TestParticipants::eachIsToldInItsTurn_data()
 {
     QTest::addColumn<QString>("command");
     QTest::addColumn<QString>("occasion");
@@ -62,7 +62,7 @@ void ParticipantsTest::eachIsToldInItsTurn_data()
                              << "restore";
 }
 
-void ParticipantsTest::eachIsToldInItsTurn()
+void TestParticipants::eachIsToldInItsTurn()
 {
     QFETCH(const QString, command);
     QFETCH(const QString, occasion);
@@ -78,7 +78,7 @@ void ParticipantsTest::eachIsToldInItsTurn()
                           "b: " + occasion + "Finished"}));
 }
 
-void ParticipantsTest::oneThatDoesNotRunIsLeftAlone()
+void TestParticipants::oneThatDoesNotRunIsLeftAlone()
 {
     {
         const NotingParticipant gone("gone", m_notes);
@@ -92,7 +92,7 @@ void ParticipantsTest::oneThatDoesNotRunIsLeftAlone()
     QCOMPARE(m_notes, (QStringList{"here: backupStarts", "here: backupFinished"}));
 }
 
-void ParticipantsTest::oneThatFailsHoldsUpNobody_data()
+void TestParticipants::oneThatFailsHoldsUpNobody_data()
 {
     QTest::addColumn<Manner>("manner");
     QTest::addColumn<QStringList>("complaints");
@@ -106,7 +106,7 @@ void ParticipantsTest::oneThatFailsHoldsUpNobody_data()
                                           "clock-backup: bad answers backupFinished with 3, going on"};
 }
 
-void ParticipantsTest::oneThatFailsHoldsUpNobody()
+void TestParticipants::oneThatFailsHoldsUpNobody()
 {
     QFETCH(const Manner, manner);
     QFETCH(const QStringList, complaints);
@@ -126,7 +126,7 @@ void ParticipantsTest::oneThatFailsHoldsUpNobody()
     QCOMPARE(m_notes.filter("good"), (QStringList{"good: backupStarts", "good: backupFinished"}));
 }
 
-void ParticipantsTest::eachIsToldThatItIsFinishedWhenItFails()
+void TestParticipants::eachIsToldThatItIsFinishedWhenItFails()
 {
     const NotingParticipant participant("a", m_notes);
     QVERIFY(participant.enlist());
@@ -135,7 +135,7 @@ void ParticipantsTest::eachIsToldThatItIsFinishedWhenItFails()
     QCOMPARE(m_notes, (QStringList{"a: backupStarts", "a: backupFinished"}));
 }
 
-void ParticipantsTest::settingsOfEachAreTaken()
+void TestParticipants::settingsOfEachAreTaken()
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     const NotingParticipant first("a", m_notes);
@@ -154,7 +154,7 @@ void ParticipantsTest::settingsOfEachAreTaken()
     QCOMPARE(contentOf(folder + "/deep/er/b.conf"), "b");
 }
 
-void ParticipantsTest::aFileThatDescribesNobodyIsIgnored_data()
+void TestParticipants::aFileThatDescribesNobodyIsIgnored_data()
 {
     QTest::addColumn<QByteArray>("content");
 
@@ -165,7 +165,7 @@ void ParticipantsTest::aFileThatDescribesNobodyIsIgnored_data()
         "[Participant]\nName=a\nService=org.example.a\nPath=/part\nSettings=../secret\n");
 }
 
-void ParticipantsTest::aFileThatDescribesNobodyIsIgnored()
+void TestParticipants::aFileThatDescribesNobodyIsIgnored()
 {
     QFETCH(const QByteArray, content);
     const NotingParticipant participant("a", m_notes);
@@ -178,7 +178,7 @@ void ParticipantsTest::aFileThatDescribesNobodyIsIgnored()
     QVERIFY(m_notes.isEmpty());
 }
 
-void ParticipantsTest::settingsOfNobodyAreLeftOut()
+void TestParticipants::settingsOfNobodyAreLeftOut()
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     const Backup::Archive archive{
@@ -193,7 +193,7 @@ void ParticipantsTest::settingsOfNobodyAreLeftOut()
     QVERIFY(!QFileInfo::exists("/tmp/evil"));
 }
 
-void ParticipantsTest::tonesThatLeadOutAreLeftOut()
+void TestParticipants::tonesThatLeadOutAreLeftOut()
 {
     const QString music = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
     const Backup::Archive archive{QDateTime::currentDateTimeUtc(),
@@ -214,7 +214,7 @@ void ParticipantsTest::tonesThatLeadOutAreLeftOut()
     QVERIFY(!QFileInfo::exists("/tmp/evil.mp3"));
 }
 
-void ParticipantsTest::refusesNonsense_data()
+void TestParticipants::refusesNonsense_data()
 {
     QTest::addColumn<QStringList>("arguments");
 
@@ -229,7 +229,7 @@ void ParticipantsTest::refusesNonsense_data()
     QTest::newRow("too long") << QStringList{"restore", "--timeout=601", "a"};
 }
 
-void ParticipantsTest::refusesNonsense()
+void TestParticipants::refusesNonsense()
 {
     QFETCH(const QStringList, arguments);
     const Support::Run run = m_household.backUp(arguments);
@@ -239,12 +239,12 @@ void ParticipantsTest::refusesNonsense()
     QVERIFY(run.errorLines().last().startsWith("Try \"clock-backup "));
 }
 
-void ParticipantsTest::helps()
+void TestParticipants::helps()
 {
     QVERIFY(m_household.backUp({"--help"}).output.startsWith("Usage: clock-backup COMMAND"));
     for (const QString &command : QStringList{"create", "restore"})
         QVERIFY(m_household.backUp({command, "--help"}).output.startsWith("Usage: clock-backup " + command + " FILE"));
 }
 
-QTEST_GUILESS_MAIN(ParticipantsTest)
+QTEST_GUILESS_MAIN(TestParticipants)
 #include "tst_participants.moc"

@@ -6,7 +6,7 @@
 #include <QStandardPaths>
 #include <QTest>
 
-class PlacesTest : public QObject
+class TestPlaces : public QObject
 {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ private slots:
     void hasNoPlaceForWhatLeadsOut();
 };
 
-void PlacesTest::noPathLeadsOut_data()
+void TestPlaces::noPathLeadsOut_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("within");
@@ -38,14 +38,14 @@ void PlacesTest::noPathLeadsOut_data()
     QTest::newRow("zero") << QString(u"a\0b"_qs) << false;
 }
 
-void PlacesTest::noPathLeadsOut()
+void TestPlaces::noPathLeadsOut()
 {
     QFETCH(const QString, path);
     QFETCH(const bool, within);
     QCOMPARE(Backup::staysWithin(path), within);
 }
 
-void PlacesTest::knowsTheFoldersOfTones_data()
+void TestPlaces::knowsTheFoldersOfTones_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("place");
@@ -79,7 +79,7 @@ void PlacesTest::knowsTheFoldersOfTones_data()
                           << "" << false;
 }
 
-void PlacesTest::knowsTheFoldersOfTones()
+void TestPlaces::knowsTheFoldersOfTones()
 {
     QFETCH(const QString, file);
     QFETCH(const QString, place);
@@ -93,7 +93,7 @@ void PlacesTest::knowsTheFoldersOfTones()
     QCOMPARE(Backup::isSystemTone(file), isSystems);
 }
 
-void PlacesTest::hasNoPlaceForWhatLeadsOut()
+void TestPlaces::hasNoPlaceForWhatLeadsOut()
 {
     QCOMPARE(Backup::toneFileAt({"music", "../.profile"}), "");
     QCOMPARE(Backup::toneFileAt({"music", "/etc/passwd"}), "");
@@ -101,5 +101,5 @@ void PlacesTest::hasNoPlaceForWhatLeadsOut()
     QCOMPARE(Backup::toneFileAt({"home", ".profile"}), "");
 }
 
-QTEST_GUILESS_MAIN(PlacesTest)
+QTEST_GUILESS_MAIN(TestPlaces)
 #include "tst_places.moc"

@@ -48,7 +48,7 @@ void writeSettings()
 } // namespace
 
 /** The real command against the real daemon, into files and back. */
-class RoundTripTest : public QObject
+class TestRoundTrip : public QObject
 {
     Q_OBJECT
 
@@ -73,17 +73,17 @@ private:
     Household m_household;
 };
 
-void RoundTripTest::initTestCase()
+void TestRoundTrip::initTestCase()
 {
     QVERIFY(m_household.start());
 }
 
-void RoundTripTest::init()
+void TestRoundTrip::init()
 {
     QVERIFY(m_household.startAfresh());
 }
 
-void RoundTripTest::twoHundredAlarmsComeBackOnANewDevice()
+void TestRoundTrip::twoHundredAlarmsComeBackOnANewDevice()
 {
     QVERIFY(addAlarms());
     writeSettings();
@@ -107,7 +107,7 @@ void RoundTripTest::twoHundredAlarmsComeBackOnANewDevice()
     QCOMPARE(contentOf(settingsFile()), settings);
 }
 
-void RoundTripTest::theyComeBackWithNewCookies()
+void TestRoundTrip::theyComeBackWithNewCookies()
 {
     QVERIFY(addAlarms());
     const auto records = Household::records();
@@ -123,7 +123,7 @@ void RoundTripTest::theyComeBackWithNewCookies()
     QVERIFY(*std::min_element(after.cbegin(), after.cend()) > *std::max_element(before.cbegin(), before.cend()));
 }
 
-void RoundTripTest::nothingIsDoubled()
+void TestRoundTrip::nothingIsDoubled()
 {
     QVERIFY(addAlarms());
     const auto records = Household::records();
@@ -142,7 +142,7 @@ void RoundTripTest::nothingIsDoubled()
     QCOMPARE(Household::records(), records);
 }
 
-void RoundTripTest::alarmsThatAreThereNowStay()
+void TestRoundTrip::alarmsThatAreThereNowStay()
 {
     QVERIFY(Household::add(dailyAlarm(7, "Then")));
     QCOMPARE(m_household.backUp({"create", m_household.file()}).exitCode, 0);
@@ -160,7 +160,7 @@ void RoundTripTest::alarmsThatAreThereNowStay()
     QVERIFY(Household::cookies().contains(now));
 }
 
-void RoundTripTest::anAlarmThatWasChangedSinceRingsBesideTheOneOfTheBackup()
+void TestRoundTrip::anAlarmThatWasChangedSinceRingsBesideTheOneOfTheBackup()
 {
     const quint32 cookie = Support::addAlarm(QTime(7, 30), "Work", {1, 2, 3});
     Support::addAlarm(QTime(9, 0), "Untouched", {6});
@@ -185,7 +185,7 @@ void RoundTripTest::anAlarmThatWasChangedSinceRingsBesideTheOneOfTheBackup()
     }
 }
 
-void RoundTripTest::aOneTimeAlarmThatIsOverComesBackSwitchedOff()
+void TestRoundTrip::aOneTimeAlarmThatIsOverComesBackSwitchedOff()
 {
     // A moment in the past that was ahead when the backup was made.
     Wire::Event once = dailyAlarm(7, "Once");
@@ -201,7 +201,7 @@ void RoundTripTest::aOneTimeAlarmThatIsOverComesBackSwitchedOff()
     QCOMPARE(Household::records(), (QList<Wire::Record>{{once, "FINISHED", 0}}));
 }
 
-void RoundTripTest::onlyWhatIsMeantForABackupIsTaken()
+void TestRoundTrip::onlyWhatIsMeantForABackupIsTaken()
 {
     Wire::Event reminder = dailyAlarm(9, "Not for a backup");
     reminder.flags &= ~quint32(Wire::Backup);
@@ -210,7 +210,7 @@ void RoundTripTest::onlyWhatIsMeantForABackupIsTaken()
     QVERIFY(m_household.backUp({"create", m_household.file()}).output.startsWith("Backed up 1 alarm,"));
 }
 
-void RoundTripTest::theFileIsForItsOwnerAlone()
+void TestRoundTrip::theFileIsForItsOwnerAlone()
 {
     QCOMPARE(m_household.backUp({"create", m_household.file()}).exitCode, 0);
     const auto mine = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
@@ -220,7 +220,7 @@ void RoundTripTest::theFileIsForItsOwnerAlone()
     QCOMPARE(QFile::permissions(m_household.file()), mine);
 }
 
-void RoundTripTest::anEarlierBackupIsReplacedAndNothingElse()
+void TestRoundTrip::anEarlierBackupIsReplacedAndNothingElse()
 {
     QCOMPARE(m_household.backUp({"create", m_household.file()}).exitCode, 0);
     QVERIFY(Household::add(dailyAlarm(7, "One more")));
@@ -237,7 +237,7 @@ void RoundTripTest::anEarlierBackupIsReplacedAndNothingElse()
     QCOMPARE(m_household.backUp({"create", QFileInfo(letter).path()}).exitCode, 1);
 }
 
-void RoundTripTest::aBackupThatCannotBeWrittenLeavesTheEarlierOne()
+void TestRoundTrip::aBackupThatCannotBeWrittenLeavesTheEarlierOne()
 {
     QVERIFY(Household::add(dailyAlarm(7, "Then")));
     const QString file = m_household.file("early.backup");
@@ -252,7 +252,7 @@ void RoundTripTest::aBackupThatCannotBeWrittenLeavesTheEarlierOne()
     QCOMPARE(m_household.backUp({"create", "/nowhere/at/all"}).exitCode, 1);
 }
 
-void RoundTripTest::aFullDiskLeavesTheEarlierBackup()
+void TestRoundTrip::aFullDiskLeavesTheEarlierBackup()
 {
     QVERIFY(Household::add(dailyAlarm(7, "Then")));
     QCOMPARE(m_household.backUp({"create", m_household.file()}).exitCode, 0);
@@ -269,7 +269,7 @@ void RoundTripTest::aFullDiskLeavesTheEarlierBackup()
     QVERIFY(!QFileInfo::exists(m_household.file("new.backup")));
 }
 
-void RoundTripTest::aFullDiskStopsTheRestore()
+void TestRoundTrip::aFullDiskStopsTheRestore()
 {
     QVERIFY(Household::add(dailyAlarm(7, "Then")));
     writeSettings();
@@ -284,7 +284,7 @@ void RoundTripTest::aFullDiskStopsTheRestore()
     QVERIFY(!QFileInfo::exists(settingsFile()));
 }
 
-void RoundTripTest::settingsThatCannotBeWrittenStopTheRestore()
+void TestRoundTrip::settingsThatCannotBeWrittenStopTheRestore()
 {
     QVERIFY(Household::add(dailyAlarm(7, "Then")));
     writeSettings();
@@ -299,5 +299,5 @@ void RoundTripTest::settingsThatCannotBeWrittenStopTheRestore()
     QVERIFY(Household::records().isEmpty());
 }
 
-QTEST_GUILESS_MAIN(RoundTripTest)
+QTEST_GUILESS_MAIN(TestRoundTrip)
 #include "tst_roundtrip.moc"

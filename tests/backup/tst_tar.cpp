@@ -13,7 +13,7 @@ using Backup::readTar;
 using Backup::TarMember;
 using Backup::writeTar;
 
-class TarTest : public QObject
+class TestTar : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private slots:
     void refusesASizeThatIsNone();
 };
 
-void TarTest::readsWhatItWrites_data()
+void TestTar::readsWhatItWrites_data()
 {
     QTest::addColumn<QList<TarMember>>("members");
 
@@ -40,7 +40,7 @@ void TarTest::readsWhatItWrites_data()
     QTest::newRow("long name") << QList<TarMember>{{QByteArray(99, 'n'), "text"}};
 }
 
-void TarTest::readsWhatItWrites()
+void TestTar::readsWhatItWrites()
 {
     QFETCH(const QList<TarMember>, members);
     const QByteArray bytes = writeTar(members);
@@ -50,7 +50,7 @@ void TarTest::readsWhatItWrites()
     QCOMPARE(*read, members);
 }
 
-void TarTest::otherProgramsReadIt()
+void TestTar::otherProgramsReadIt()
 {
     const QTemporaryDir folder;
     QFile file(folder.filePath("archive.tar"));
@@ -67,7 +67,7 @@ void TarTest::otherProgramsReadIt()
     QCOMPARE(three.readAll(), QByteArray(1000, 'x'));
 }
 
-void TarTest::refusesWhatOtherProgramsWrite()
+void TestTar::refusesWhatOtherProgramsWrite()
 {
     const QTemporaryDir folder;
     QFile file(folder.filePath("one"));
@@ -82,7 +82,7 @@ void TarTest::refusesWhatOtherProgramsWrite()
     QVERIFY(read.error().text.contains("not a backup"));
 }
 
-void TarTest::refusesWhatIsNoPlainFile_data()
+void TestTar::refusesWhatIsNoPlainFile_data()
 {
     QTest::addColumn<char>("kind");
     QTest::addColumn<QByteArray>("target");
@@ -98,7 +98,7 @@ void TarTest::refusesWhatIsNoPlainFile_data()
     QTest::newRow("a file with a target") << '0' << QByteArray("/etc/passwd");
 }
 
-void TarTest::refusesWhatIsNoPlainFile()
+void TestTar::refusesWhatIsNoPlainFile()
 {
     QFETCH(const char, kind);
     QFETCH(const QByteArray, target);
@@ -117,7 +117,7 @@ void TarTest::refusesWhatIsNoPlainFile()
     QCOMPARE(read.error().text, "it is damaged");
 }
 
-void TarTest::refusesASizeThatIsNone_data()
+void TestTar::refusesASizeThatIsNone_data()
 {
     QTest::addColumn<QByteArray>("size");
 
@@ -127,7 +127,7 @@ void TarTest::refusesASizeThatIsNone_data()
     QTest::newRow("empty") << QByteArray(11, '\0');
 }
 
-void TarTest::refusesASizeThatIsNone()
+void TestTar::refusesASizeThatIsNone()
 {
     QFETCH(const QByteArray, size);
     QByteArray bytes = writeTar({{"one", "first"}, {"two", "second"}});
@@ -135,5 +135,5 @@ void TarTest::refusesASizeThatIsNone()
     QVERIFY(!readTar(bytes));
 }
 
-QTEST_GUILESS_MAIN(TarTest)
+QTEST_GUILESS_MAIN(TestTar)
 #include "tst_tar.moc"

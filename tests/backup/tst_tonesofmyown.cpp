@@ -31,7 +31,7 @@ const QByteArray Song(70000, '\x55');
 } // namespace
 
 /** The user's own tones, with the real command and daemon. */
-class TonesOfMyOwnTest : public QObject
+class TestTonesOfMyOwn : public QObject
 {
     Q_OBJECT
 
@@ -49,17 +49,17 @@ private:
     Household m_household;
 };
 
-void TonesOfMyOwnTest::initTestCase()
+void TestTonesOfMyOwn::initTestCase()
 {
     QVERIFY(m_household.start());
 }
 
-void TonesOfMyOwnTest::init()
+void TestTonesOfMyOwn::init()
 {
     QVERIFY(m_household.startAfresh());
 }
 
-void TonesOfMyOwnTest::comeBackWithTheirAlarms()
+void TestTonesOfMyOwn::comeBackWithTheirAlarms()
 {
     QVERIFY(write(music("deep/my song.mp3"), Song) && write(ringTone("own.wav"), "own"));
     QVERIFY(write(music("another.mp3"), "is no alarm's"));
@@ -83,7 +83,7 @@ void TonesOfMyOwnTest::comeBackWithTheirAlarms()
     QCOMPARE(Household::records(), records);
 }
 
-void TonesOfMyOwnTest::mayBeLeftOut()
+void TestTonesOfMyOwn::mayBeLeftOut()
 {
     QVERIFY(write(music("song.mp3"), Song));
     QVERIFY(Household::add(dailyAlarm(7, "Song", music("song.mp3"))));
@@ -99,7 +99,7 @@ void TonesOfMyOwnTest::mayBeLeftOut()
                          + " is not here: its alarms ring with the default tone"});
 }
 
-void TonesOfMyOwnTest::aToneThatIsNotTakenIsTold_data()
+void TestTonesOfMyOwn::aToneThatIsNotTakenIsTold_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<qint64>("size"); // -1: there is no such file
@@ -111,7 +111,7 @@ void TonesOfMyOwnTest::aToneThatIsNotTakenIsTold_data()
     QTest::newRow("no path") << "beep" << qint64(-1) << "no such file";
 }
 
-void TonesOfMyOwnTest::aToneThatIsNotTakenIsTold()
+void TestTonesOfMyOwn::aToneThatIsNotTakenIsTold()
 {
     QFETCH(const QString, path);
     QFETCH(const qint64, size);
@@ -126,7 +126,7 @@ void TonesOfMyOwnTest::aToneThatIsNotTakenIsTold()
              qPrintable(created.errors));
 }
 
-void TonesOfMyOwnTest::anotherFileOfThatNameStays()
+void TestTonesOfMyOwn::anotherFileOfThatNameStays()
 {
     QVERIFY(write(music("song.mp3"), Song));
     QVERIFY(Household::add(dailyAlarm(7, "Song", music("song.mp3"))));
@@ -142,7 +142,7 @@ void TonesOfMyOwnTest::anotherFileOfThatNameStays()
     QCOMPARE(toneOf("Song"), music("song.mp3"));
 }
 
-void TonesOfMyOwnTest::comeBackInAnotherHome()
+void TestTonesOfMyOwn::comeBackInAnotherHome()
 {
     QVERIFY(write(music("song.mp3"), Song));
     QVERIFY(Household::add(dailyAlarm(7, "Song", music("song.mp3"))));
@@ -166,5 +166,5 @@ void TonesOfMyOwnTest::comeBackInAnotherHome()
     QCOMPARE(settings.value("Clock/DefaultTone").toString(), song);
 }
 
-QTEST_GUILESS_MAIN(TonesOfMyOwnTest)
+QTEST_GUILESS_MAIN(TestTonesOfMyOwn)
 #include "tst_tonesofmyown.moc"

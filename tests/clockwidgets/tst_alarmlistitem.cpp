@@ -47,7 +47,7 @@ struct Scene
 
 } // namespace
 
-class tst_AlarmListItem : public QObject
+class TestAlarmListItem : public QObject
 {
     Q_OBJECT
 
@@ -78,12 +78,12 @@ private Q_SLOTS:
     void onlyAFlipIsSeenToSlide();
 };
 
-void tst_AlarmListItem::init()
+void TestAlarmListItem::init()
 {
     Locale::setDefault(Locale(u"en_US"_qs));
 }
 
-void tst_AlarmListItem::keepsWhatItIsTold()
+void TestAlarmListItem::keepsWhatItIsTold()
 {
     AlarmListItem item(AlarmListItem::OneLine);
     item.setAlarmCookie(4294967295);
@@ -104,7 +104,7 @@ void tst_AlarmListItem::keepsWhatItIsTold()
     QVERIFY(!item.enabled());
 }
 
-void tst_AlarmListItem::isMadeInTheStyleAskedFor()
+void TestAlarmListItem::isMadeInTheStyleAskedFor()
 {
     QCOMPARE(int(AlarmListItem::OneLine), 0);
     QCOMPARE(int(AlarmListItem::WithRepeatLine), 1);
@@ -114,7 +114,7 @@ void tst_AlarmListItem::isMadeInTheStyleAskedFor()
     QVERIFY(!item.enabled());
 }
 
-void tst_AlarmListItem::aTapOnTheRowIsAClick()
+void TestAlarmListItem::aTapOnTheRowIsAClick()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -132,7 +132,7 @@ void tst_AlarmListItem::aTapOnTheRowIsAClick()
     QCOMPARE(scene.flips.count(), 0);
 }
 
-void tst_AlarmListItem::aFingerThatLeavesTheRowIsNoClick()
+void TestAlarmListItem::aFingerThatLeavesTheRowIsNoClick()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -142,7 +142,7 @@ void tst_AlarmListItem::aFingerThatLeavesTheRowIsNoClick()
     QCOMPARE(scene.clicks.count(), 0);
 }
 
-void tst_AlarmListItem::aTouchTakenOverIsNoClick()
+void TestAlarmListItem::aTouchTakenOverIsNoClick()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -152,7 +152,7 @@ void tst_AlarmListItem::aTouchTakenOverIsNoClick()
     QCOMPARE(scene.clicks.count(), 0);
 }
 
-void tst_AlarmListItem::aTapOnTheSwitchIsAFlipAndNoClick()
+void TestAlarmListItem::aTapOnTheSwitchIsAFlipAndNoClick()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -167,7 +167,7 @@ void tst_AlarmListItem::aTapOnTheSwitchIsAFlipAndNoClick()
     QCOMPARE(scene.clicks.count(), 0);
 }
 
-void tst_AlarmListItem::settingTheStateIsNoFlip()
+void TestAlarmListItem::settingTheStateIsNoFlip()
 {
     Scene scene;
     scene.item->setEnabled(true);
@@ -175,7 +175,7 @@ void tst_AlarmListItem::settingTheStateIsNoFlip()
     QCOMPARE(scene.flips.count(), 0);
 }
 
-void tst_AlarmListItem::keysOpenAndFlip()
+void TestAlarmListItem::keysOpenAndFlip()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -187,7 +187,7 @@ void tst_AlarmListItem::keysOpenAndFlip()
     QCOMPARE(scene.clicks.count(), 1);
 }
 
-void tst_AlarmListItem::showsEveryPropertyAsARecycledCell()
+void TestAlarmListItem::showsEveryPropertyAsARecycledCell()
 {
     Scene scene;
     scene.item->setItemStyle(AlarmListItem::WithRepeatLine);
@@ -213,7 +213,7 @@ void tst_AlarmListItem::showsEveryPropertyAsARecycledCell()
     QCOMPARE(scene.flips.count() + scene.clicks.count(), 0);
 }
 
-void tst_AlarmListItem::hidesTheRepeatLineInTheOneLineStyle()
+void TestAlarmListItem::hidesTheRepeatLineInTheOneLineStyle()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -222,7 +222,7 @@ void tst_AlarmListItem::hidesTheRepeatLineInTheOneLineStyle()
     QVERIFY(scene.picture() == without);
 }
 
-void tst_AlarmListItem::aLongTitleEndsBeforeTheSwitch()
+void TestAlarmListItem::aLongTitleEndsBeforeTheSwitch()
 {
     Scene scene;
     scene.item->setSubTitle(QString());
@@ -252,7 +252,7 @@ void tst_AlarmListItem::aLongTitleEndsBeforeTheSwitch()
     QVERIFY(scene.picture() == cut);
 }
 
-void tst_AlarmListItem::showsTheLastOfManyDays()
+void TestAlarmListItem::showsTheLastOfManyDays()
 {
     Scene scene;
     scene.item->setItemStyle(AlarmListItem::WithRepeatLine);
@@ -265,7 +265,7 @@ void tst_AlarmListItem::showsTheLastOfManyDays()
     QVERIFY(scene.picture() != saturday);
 }
 
-void tst_AlarmListItem::tellsThatTheRepeatTextIsCutOff()
+void TestAlarmListItem::tellsThatTheRepeatTextIsCutOff()
 {
     Scene scene;
     scene.item->setItemStyle(AlarmListItem::WithRepeatLine);
@@ -274,7 +274,7 @@ void tst_AlarmListItem::tellsThatTheRepeatTextIsCutOff()
     QVERIFY(!scene.item->showsWholeSubText());
 }
 
-void tst_AlarmListItem::largeTextsStandTogetherInTheMiddle()
+void TestAlarmListItem::largeTextsStandTogetherInTheMiddle()
 {
     Touch::Theme::instance().setTextScale(2);
     const auto restore = qScopeGuard([] { Touch::Theme::instance().setTextScale(1); });
@@ -297,7 +297,7 @@ void tst_AlarmListItem::largeTextsStandTogetherInTheMiddle()
     QVERIFY2(inked.last() - inked.first() < 100, "the title hangs below the time");
 }
 
-void tst_AlarmListItem::theRepeatTextFollowsTheSizeOfText()
+void TestAlarmListItem::theRepeatTextFollowsTheSizeOfText()
 {
     Scene scene;
     scene.item->setItemStyle(AlarmListItem::WithRepeatLine);
@@ -315,7 +315,7 @@ void tst_AlarmListItem::theRepeatTextFollowsTheSizeOfText()
     QVERIFY(scene.item->subTextPixelSize() >= 1.5 * usual);
 }
 
-void tst_AlarmListItem::theSwitchFollowsTheSizeOfText()
+void TestAlarmListItem::theSwitchFollowsTheSizeOfText()
 {
     const Scene scene;
     const QGraphicsItem *toggle = scene.item->childItems().constFirst();
@@ -328,7 +328,7 @@ void tst_AlarmListItem::theSwitchFollowsTheSizeOfText()
     QVERIFY(scene.item->rect().contains(toggle->mapRectToParent(large)));
 }
 
-void tst_AlarmListItem::showsNothingForAnInvalidTime()
+void TestAlarmListItem::showsNothingForAnInvalidTime()
 {
     Scene scene;
     scene.item->setTitle(QTime());
@@ -339,7 +339,7 @@ void tst_AlarmListItem::showsNothingForAnInvalidTime()
         QCOMPARE(picture.pixel(x, 144), background);
 }
 
-void tst_AlarmListItem::followsTheTimeFormat()
+void TestAlarmListItem::followsTheTimeFormat()
 {
     Scene scene;
     scene.item->setTitle(QTime(19, 30));
@@ -349,7 +349,7 @@ void tst_AlarmListItem::followsTheTimeFormat()
     QVERIFY(scene.picture() != twelve);
 }
 
-void tst_AlarmListItem::standsTheOtherWayRoundFromRightToLeft()
+void TestAlarmListItem::standsTheOtherWayRoundFromRightToLeft()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -360,13 +360,13 @@ void tst_AlarmListItem::standsTheOtherWayRoundFromRightToLeft()
     QCOMPARE(scene.flips.count(), 1);
 }
 
-void tst_AlarmListItem::isAsHighAsAFingerNeeds()
+void TestAlarmListItem::isAsHighAsAFingerNeeds()
 {
     const AlarmListItem item(AlarmListItem::OneLine);
     QVERIFY(item.preferredHeight() >= 80 && item.preferredHeight() <= 88);
 }
 
-void tst_AlarmListItem::hasASwitchForFingers()
+void TestAlarmListItem::hasASwitchForFingers()
 {
     const AlarmListItem item(AlarmListItem::OneLine);
     const QGraphicsItem *toggle = item.childItems().constFirst();
@@ -374,7 +374,7 @@ void tst_AlarmListItem::hasASwitchForFingers()
     QVERIFY(toggle->boundingRect().height() >= 48);
 }
 
-void tst_AlarmListItem::isReadAndOpenedWithoutBeingSeen()
+void TestAlarmListItem::isReadAndOpenedWithoutBeingSeen()
 {
     Scene scene;
     scene.item->setSubText("Mon, Tue");
@@ -393,7 +393,7 @@ void tst_AlarmListItem::isReadAndOpenedWithoutBeingSeen()
     QVERIFY(toggle->state().checked);
 }
 
-void tst_AlarmListItem::onlyAFlipIsSeenToSlide()
+void TestAlarmListItem::onlyAFlipIsSeenToSlide()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -411,5 +411,5 @@ void tst_AlarmListItem::onlyAFlipIsSeenToSlide()
     QVERIFY2(isSliding(), "it is off already");
 }
 
-QTEST_MAIN(tst_AlarmListItem)
+QTEST_MAIN(TestAlarmListItem)
 #include "tst_alarmlistitem.moc"

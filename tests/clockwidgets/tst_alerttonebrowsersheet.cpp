@@ -17,7 +17,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-class tst_AlertToneBrowserSheet : public QObject
+class TestAlertToneBrowserSheet : public QObject
 {
     Q_OBJECT
 
@@ -55,7 +55,7 @@ private:
     ToneScene m_scene;
 };
 
-void tst_AlertToneBrowserSheet::initTestCase()
+void TestAlertToneBrowserSheet::initTestCase()
 {
     QVERIFY(m_scene.prepare());
     m_music = Tones::musicFolder();
@@ -64,18 +64,18 @@ void tst_AlertToneBrowserSheet::initTestCase()
     QVERIFY(m_scene.fillStore());
 }
 
-void tst_AlertToneBrowserSheet::init()
+void TestAlertToneBrowserSheet::init()
 {
     QVERIFY(m_scene.open());
 }
 
-void tst_AlertToneBrowserSheet::cleanup()
+void TestAlertToneBrowserSheet::cleanup()
 {
     m_scene.close();
     QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
-void tst_AlertToneBrowserSheet::aToneIsCalledByItsFile_data()
+void TestAlertToneBrowserSheet::aToneIsCalledByItsFile_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("name");
@@ -89,7 +89,7 @@ void tst_AlertToneBrowserSheet::aToneIsCalledByItsFile_data()
                                     << "whole";
 }
 
-void tst_AlertToneBrowserSheet::aToneIsCalledByItsFile()
+void TestAlertToneBrowserSheet::aToneIsCalledByItsFile()
 {
     QFETCH(QString, path);
     QFETCH(QString, name);
@@ -98,7 +98,7 @@ void tst_AlertToneBrowserSheet::aToneIsCalledByItsFile()
     QCOMPARE(tone.niceName(), name);
 }
 
-void tst_AlertToneBrowserSheet::aToneSpeaksOfChangesOnly()
+void TestAlertToneBrowserSheet::aToneSpeaksOfChangesOnly()
 {
     AlertTone tone("/a.aac");
     QSignalSpy changed(&tone, &AlertTone::changed);
@@ -110,7 +110,7 @@ void tst_AlertToneBrowserSheet::aToneSpeaksOfChangesOnly()
     QCOMPARE(tone.niceName(), "The title");
 }
 
-void tst_AlertToneBrowserSheet::noSoundComesFirstThenTonesThenMusic()
+void TestAlertToneBrowserSheet::noSoundComesFirstThenTonesThenMusic()
 {
     QCOMPARE(m_scene.titles(),
              QStringList({"No sound", "Clock alert 1", "Courier", "Dewdrops", "First Light", "Glass Garden", "Harbour",
@@ -118,7 +118,7 @@ void tst_AlertToneBrowserSheet::noSoundComesFirstThenTonesThenMusic()
                           "Village Bells", "an untitled song", "Zebra crossing"}));
 }
 
-void tst_AlertToneBrowserSheet::theTonesAreThereBeforeTheStoreAnswers()
+void TestAlertToneBrowserSheet::theTonesAreThereBeforeTheStoreAnswers()
 {
     AlertToneBrowserSheet sheet(m_scene.tone.get());
     sheet.appear(m_scene.window.get());
@@ -127,7 +127,7 @@ void tst_AlertToneBrowserSheet::theTonesAreThereBeforeTheStoreAnswers()
     QCOMPARE(tones->index(0, 0).data().toString(), "No sound");
 }
 
-void tst_AlertToneBrowserSheet::aFileOfAnotherFolderIsListedWhileItIsChosen()
+void TestAlertToneBrowserSheet::aFileOfAnotherFolderIsListedWhileItIsChosen()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("My_own.ogg");
@@ -145,7 +145,7 @@ void tst_AlertToneBrowserSheet::aFileOfAnotherFolderIsListedWhileItIsChosen()
     QVERIFY2(!cells->cellAt(14)->accessibleName().contains("My music"), "it lies elsewhere");
 }
 
-void tst_AlertToneBrowserSheet::aToneOfAnotherDataFolderIsTheListedOne()
+void TestAlertToneBrowserSheet::aToneOfAnotherDataFolderIsTheListedOne()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("Courier.aac");
@@ -161,7 +161,7 @@ void tst_AlertToneBrowserSheet::aToneOfAnotherDataFolderIsTheListedOne()
     QCOMPARE(sheet.selectedFile(), path);
 }
 
-void tst_AlertToneBrowserSheet::aFileThatIsGoneIsNotListed()
+void TestAlertToneBrowserSheet::aFileThatIsGoneIsNotListed()
 {
     AlertTone gone("/elsewhere/Gone.ogg");
     AlertToneBrowserSheet sheet(&gone);
@@ -170,7 +170,7 @@ void tst_AlertToneBrowserSheet::aFileThatIsGoneIsNotListed()
     QCOMPARE(sheet.selectedFile(), "/elsewhere/Gone.ogg");
 }
 
-void tst_AlertToneBrowserSheet::theChosenToneIsInSight()
+void TestAlertToneBrowserSheet::theChosenToneIsInSight()
 {
     AlertTone last(shipped("Village Bells"));
     AlertToneBrowserSheet sheet(&last);
@@ -180,7 +180,7 @@ void tst_AlertToneBrowserSheet::theChosenToneIsInSight()
     QTRY_VERIFY(m_scene.window->sceneRect().contains(tones->cellAt(13)->sceneBoundingRect()));
 }
 
-void tst_AlertToneBrowserSheet::aTapChoosesAndPlays()
+void TestAlertToneBrowserSheet::aTapChoosesAndPlays()
 {
     QCOMPARE(m_scene.sheet->selectedFile(), shipped("Clock alert 1"));
     QCOMPARE(m_scene.sheet->playedFile(), QString());
@@ -192,7 +192,7 @@ void tst_AlertToneBrowserSheet::aTapChoosesAndPlays()
     QCOMPARE(m_scene.tone->fileName(), shipped("Clock alert 1"));
 }
 
-void tst_AlertToneBrowserSheet::anotherTapPlaysAnotherToneAlone()
+void TestAlertToneBrowserSheet::anotherTapPlaysAnotherToneAlone()
 {
     tap("Courier");
     QTRY_VERIFY_WITH_TIMEOUT(m_scene.server.peak(300) > 0.1f, Patience);
@@ -203,7 +203,7 @@ void tst_AlertToneBrowserSheet::anotherTapPlaysAnotherToneAlone()
     QVERIFY(m_scene.server.peak(300) < 0.95f);
 }
 
-void tst_AlertToneBrowserSheet::aSecondTapOnAToneEndsItsSound()
+void TestAlertToneBrowserSheet::aSecondTapOnAToneEndsItsSound()
 {
     tap("Courier");
     tap("Courier");
@@ -212,7 +212,7 @@ void tst_AlertToneBrowserSheet::aSecondTapOnAToneEndsItsSound()
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.server.peak(300), 0.0f, Patience);
 }
 
-void tst_AlertToneBrowserSheet::noSoundIsSilent()
+void TestAlertToneBrowserSheet::noSoundIsSilent()
 {
     tap("Courier");
     tap("No sound");
@@ -221,14 +221,14 @@ void tst_AlertToneBrowserSheet::noSoundIsSilent()
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.server.peak(300), 0.0f, Patience);
 }
 
-void tst_AlertToneBrowserSheet::theSoundEndsWithTheSheet_data()
+void TestAlertToneBrowserSheet::theSoundEndsWithTheSheet_data()
 {
     QTest::addColumn<QString>("way");
     for (const char *way : {"done", "cancel", "disappear", "window hidden"})
         QTest::newRow(way) << way;
 }
 
-void tst_AlertToneBrowserSheet::theSoundEndsWithTheSheet()
+void TestAlertToneBrowserSheet::theSoundEndsWithTheSheet()
 {
     QFETCH(QString, way);
     tap("Courier");
@@ -243,7 +243,7 @@ void tst_AlertToneBrowserSheet::theSoundEndsWithTheSheet()
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.server.peak(300), 0.0f, Patience);
 }
 
-void tst_AlertToneBrowserSheet::doneTakesTheTone()
+void TestAlertToneBrowserSheet::doneTakesTheTone()
 {
     QSignalSpy changed(m_scene.tone.get(), &AlertTone::changed);
     tap("Harbour");
@@ -254,7 +254,7 @@ void tst_AlertToneBrowserSheet::doneTakesTheTone()
     QVERIFY(!m_scene.sheet->isOnDisplay());
 }
 
-void tst_AlertToneBrowserSheet::cancelKeepsTheTone()
+void TestAlertToneBrowserSheet::cancelKeepsTheTone()
 {
     QSignalSpy changed(m_scene.tone.get(), &AlertTone::changed);
     tap("Harbour");
@@ -267,7 +267,7 @@ void tst_AlertToneBrowserSheet::cancelKeepsTheTone()
     QCOMPARE(m_scene.sheet->selectedFile(), shipped("Clock alert 1"));
 }
 
-void tst_AlertToneBrowserSheet::keysReachEveryTone()
+void TestAlertToneBrowserSheet::keysReachEveryTone()
 {
     list()->cellAt(0)->setFocus(Qt::TabFocusReason);
     QTest::keyClick(m_scene.window.get(), Qt::Key_Down);
@@ -278,12 +278,12 @@ void tst_AlertToneBrowserSheet::keysReachEveryTone()
     QTRY_VERIFY(list()->cellAt(2)->accessibleName().contains("selected"));
 }
 
-void tst_AlertToneBrowserSheet::looks_data()
+void TestAlertToneBrowserSheet::looks_data()
 {
     addLooks();
 }
 
-void tst_AlertToneBrowserSheet::looks()
+void TestAlertToneBrowserSheet::looks()
 {
     QVERIFY(m_scene.openInLook());
     const QImage before = m_scene.window->grab().toImage();
@@ -294,5 +294,5 @@ void tst_AlertToneBrowserSheet::looks()
     QVERIFY(m_scene.keepPicture("tonebrowser"));
 }
 
-QTEST_MAIN(tst_AlertToneBrowserSheet)
+QTEST_MAIN(TestAlertToneBrowserSheet)
 #include "tst_alerttonebrowsersheet.moc"

@@ -38,7 +38,7 @@ AlarmListItem *row(QTime time, const QString &title, const QString &repeat, bool
 } // namespace
 
 /// Pictures of every widget, for people to look at: in the folder screenshots of the build.
-class tst_Looks : public QObject
+class TestLooks : public QObject
 {
     Q_OBJECT
 
@@ -54,7 +54,7 @@ private:
     QImage take(Touch::Window &window, const QString &name);
 };
 
-void tst_Looks::addLooks()
+void TestLooks::addLooks()
 {
     QTest::addColumn<Theme::Variant>("variant");
     QTest::addColumn<QString>("locale");
@@ -66,7 +66,7 @@ void tst_Looks::addLooks()
     QTest::newRow("light-turkish") << Theme::Variant::Light << "tr_TR";
 }
 
-void tst_Looks::prepare(Touch::Window &window)
+void TestLooks::prepare(Touch::Window &window)
 {
     QFETCH(Theme::Variant, variant);
     QFETCH(QString, locale);
@@ -80,7 +80,7 @@ void tst_Looks::prepare(Touch::Window &window)
     window.setSceneRect(0, 0, 480, 854);
 }
 
-QImage tst_Looks::take(Touch::Window &window, const QString &name)
+QImage TestLooks::take(Touch::Window &window, const QString &name)
 {
     const QDir folder(QCoreApplication::applicationDirPath() + "/../screenshots");
     QDir().mkpath(folder.path());
@@ -89,12 +89,12 @@ QImage tst_Looks::take(Touch::Window &window, const QString &name)
     return image.save(folder.filePath(file)) ? image : QImage();
 }
 
-void tst_Looks::clockAndAlarms_data()
+void TestLooks::clockAndAlarms_data()
 {
     addLooks();
 }
 
-void tst_Looks::clockAndAlarms()
+void TestLooks::clockAndAlarms()
 {
     Touch::Window window;
     prepare(window);
@@ -119,12 +119,12 @@ void tst_Looks::clockAndAlarms()
     QVERIFY(!image.isNull());
 }
 
-void tst_Looks::picker_data()
+void TestLooks::picker_data()
 {
     addLooks();
 }
 
-void tst_Looks::picker()
+void TestLooks::picker()
 {
     Touch::Window window;
     prepare(window);
@@ -142,5 +142,5 @@ void tst_Looks::picker()
     QVERIFY(!take(window, "picker").isNull());
 }
 
-QTEST_MAIN(tst_Looks)
+QTEST_MAIN(TestLooks)
 #include "tst_looks.moc"

@@ -11,7 +11,7 @@
 
 using Touch::Locale;
 
-class tst_TimePicker : public QObject
+class TestTimePicker : public QObject
 {
     Q_OBJECT
 
@@ -29,12 +29,12 @@ private Q_SLOTS:
     void paintsNothingOutsideItself();
 };
 
-void tst_TimePicker::init()
+void TestTimePicker::init()
 {
     Locale::setDefault(Locale(u"en_GB"_qs));
 }
 
-void tst_TimePicker::foldsAnyNumber_data()
+void TestTimePicker::foldsAnyNumber_data()
 {
     QTest::addColumn<int>("hours");
     QTest::addColumn<int>("minutes");
@@ -47,7 +47,7 @@ void tst_TimePicker::foldsAnyNumber_data()
     QTest::newRow("minute 60") << 7 << 60 << QTime(7, 0);
 }
 
-void tst_TimePicker::foldsAnyNumber()
+void TestTimePicker::foldsAnyNumber()
 {
     QFETCH(int, hours);
     QFETCH(int, minutes);
@@ -60,7 +60,7 @@ void tst_TimePicker::foldsAnyNumber()
     QCOMPARE(QTime(changed.hours(), changed.minutes()), time);
 }
 
-void tst_TimePicker::tellsOnlyRealChanges()
+void TestTimePicker::tellsOnlyRealChanges()
 {
     TimePicker picker(7, 0);
     QSignalSpy spy(&picker, &TimePicker::timeChanged);
@@ -73,7 +73,7 @@ void tst_TimePicker::tellsOnlyRealChanges()
     QCOMPARE(spy.last(), QVariantList({6, 0}));
 }
 
-void tst_TimePicker::isReadAndSetWithoutBeingSeen()
+void TestTimePicker::isReadAndSetWithoutBeingSeen()
 {
     Locale::setDefault(Locale(u"en_GB"_qs));
     PickerScene scene(7, 5);
@@ -94,7 +94,7 @@ void tst_TimePicker::isReadAndSetWithoutBeingSeen()
     QCOMPARE(scene.time(), QTime(21, 40));
 }
 
-void tst_TimePicker::turnsWithTheWheel()
+void TestTimePicker::turnsWithTheWheel()
 {
     PickerScene scene(7, 59);
     QVERIFY(scene.stage.show());
@@ -111,7 +111,7 @@ void tst_TimePicker::turnsWithTheWheel()
     QCOMPARE(scene.time(), QTime(9, 58));
 }
 
-void tst_TimePicker::obeysKeys()
+void TestTimePicker::obeysKeys()
 {
     PickerScene scene(23, 58);
     QVERIFY(scene.stage.show());
@@ -132,7 +132,7 @@ void tst_TimePicker::obeysKeys()
     QCOMPARE(scene.time(), QTime(23, 57));
 }
 
-void tst_TimePicker::followsTheTimeFormat()
+void TestTimePicker::followsTheTimeFormat()
 {
     PickerScene scene(19, 20);
     QVERIFY(scene.stage.show());
@@ -143,7 +143,7 @@ void tst_TimePicker::followsTheTimeFormat()
 }
 
 // Both write the same digits.
-void tst_TimePicker::readsHoursInTheDirectionOfTheLanguage()
+void TestTimePicker::readsHoursInTheDirectionOfTheLanguage()
 {
     const auto pictureIn = [](const QString &locale) {
         Locale::setDefault(Locale(locale));
@@ -161,7 +161,7 @@ void tst_TimePicker::readsHoursInTheDirectionOfTheLanguage()
     QVERIFY(english == hebrew);
 }
 
-void tst_TimePicker::goesClockwiseInEveryLanguage()
+void TestTimePicker::goesClockwiseInEveryLanguage()
 {
     Locale::setDefault(Locale(u"ar_EG"_qs));
     PickerScene scene(0, 0);
@@ -179,7 +179,7 @@ void tst_TimePicker::goesClockwiseInEveryLanguage()
     QCOMPARE(scene.time(), QTime(4, 16));
 }
 
-void tst_TimePicker::paintsNothingOutsideItself()
+void TestTimePicker::paintsNothingOutsideItself()
 {
     PickerScene scene(7, 0);
     QVERIFY(scene.stage.show());
@@ -202,5 +202,5 @@ void tst_TimePicker::paintsNothingOutsideItself()
     }
 }
 
-QTEST_MAIN(tst_TimePicker)
+QTEST_MAIN(TestTimePicker)
 #include "tst_timepicker.moc"

@@ -9,7 +9,7 @@
 using Touch::Locale;
 
 /// What fingers do with the time picker.
-class tst_TimePickerTouch : public QObject
+class TestTimePickerTouch : public QObject
 {
     Q_OBJECT
 
@@ -31,12 +31,12 @@ private Q_SLOTS:
     void hasHandlesForFingers();
 };
 
-void tst_TimePickerTouch::init()
+void TestTimePickerTouch::init()
 {
     Locale::setDefault(Locale(u"en_GB"_qs));
 }
 
-void tst_TimePickerTouch::dragsTheHour()
+void TestTimePickerTouch::dragsTheHour()
 {
     PickerScene scene(7, 20);
     QVERIFY(scene.stage.show());
@@ -50,7 +50,7 @@ void tst_TimePickerTouch::dragsTheHour()
     QVERIFY(QLineF(scene.picker->hourHandle(), scene.onHours(270)).length() < 1);
 }
 
-void tst_TimePickerTouch::theHourGoesOnIntoTheOtherHalfOfTheDay()
+void TestTimePickerTouch::theHourGoesOnIntoTheOtherHalfOfTheDay()
 {
     PickerScene scene(11, 0);
     QVERIFY(scene.stage.show());
@@ -69,7 +69,7 @@ void tst_TimePickerTouch::theHourGoesOnIntoTheOtherHalfOfTheDay()
     QCOMPARE(scene.time(), QTime(10, 0));
 }
 
-void tst_TimePickerTouch::dragsTheMinute()
+void TestTimePickerTouch::dragsTheMinute()
 {
     PickerScene scene(7, 20);
     QVERIFY(scene.stage.show());
@@ -81,7 +81,7 @@ void tst_TimePickerTouch::dragsTheMinute()
     QCOMPARE(scene.changes.count(), 3);
 }
 
-void tst_TimePickerTouch::theMinutePastTheTopLeavesTheHourAlone()
+void TestTimePickerTouch::theMinutePastTheTopLeavesTheHourAlone()
 {
     PickerScene scene(7, 55);
     QVERIFY(scene.stage.show());
@@ -94,7 +94,7 @@ void tst_TimePickerTouch::theMinutePastTheTopLeavesTheHourAlone()
     QCOMPARE(scene.time(), QTime(7, 58));
 }
 
-void tst_TimePickerTouch::aFastDragGoesByFives()
+void TestTimePickerTouch::aFastDragGoesByFives()
 {
     PickerScene scene(7, 0);
     QVERIFY(scene.stage.show());
@@ -109,7 +109,7 @@ void tst_TimePickerTouch::aFastDragGoesByFives()
     QCOMPARE(scene.time(), QTime(7, 17));
 }
 
-void tst_TimePickerTouch::grippingAHandleOffItsMiddleMovesNothing()
+void TestTimePickerTouch::grippingAHandleOffItsMiddleMovesNothing()
 {
     PickerScene scene(7, 20);
     QVERIFY(scene.stage.show());
@@ -121,7 +121,7 @@ void tst_TimePickerTouch::grippingAHandleOffItsMiddleMovesNothing()
     QCOMPARE(scene.changes.count(), 0);
 }
 
-void tst_TimePickerTouch::aTapOnARingGoesThere()
+void TestTimePickerTouch::aTapOnARingGoesThere()
 {
     PickerScene scene(7, 20);
     QVERIFY(scene.stage.show());
@@ -134,7 +134,7 @@ void tst_TimePickerTouch::aTapOnARingGoesThere()
     QCOMPARE(scene.changes.count(), 3);
 }
 
-void tst_TimePickerTouch::aTapStaysInTheHalfOfTheDay()
+void TestTimePickerTouch::aTapStaysInTheHalfOfTheDay()
 {
     PickerScene scene(19, 0);
     QVERIFY(scene.stage.show());
@@ -144,7 +144,7 @@ void tst_TimePickerTouch::aTapStaysInTheHalfOfTheDay()
     QCOMPARE(scene.time(), QTime(23, 0));
 }
 
-void tst_TimePickerTouch::aTapInTheMiddleChangesTheHalfOfTheDay()
+void TestTimePickerTouch::aTapInTheMiddleChangesTheHalfOfTheDay()
 {
     PickerScene scene(7, 20);
     QVERIFY(scene.stage.show());
@@ -159,7 +159,7 @@ void tst_TimePickerTouch::aTapInTheMiddleChangesTheHalfOfTheDay()
     QCOMPARE(pressed.count(), 0);
 }
 
-void tst_TimePickerTouch::eachOfTwoQuickTapsCounts()
+void TestTimePickerTouch::eachOfTwoQuickTapsCounts()
 {
     PickerScene scene(7, 20);
     QVERIFY(scene.stage.show());
@@ -168,7 +168,7 @@ void tst_TimePickerTouch::eachOfTwoQuickTapsCounts()
     QCOMPARE(scene.changes.count(), 2);
 }
 
-void tst_TimePickerTouch::saysWhichDiscIsTouchedBeforeItChanges()
+void TestTimePickerTouch::saysWhichDiscIsTouchedBeforeItChanges()
 {
     PickerScene scene(7, 20);
     QVERIFY(scene.stage.show());
@@ -185,7 +185,7 @@ void tst_TimePickerTouch::saysWhichDiscIsTouchedBeforeItChanges()
     QCOMPARE(order, QStringList({"pressedminute", "released"}));
 }
 
-void tst_TimePickerTouch::isReleasedWhenSomeoneElseTakesTheTouch()
+void TestTimePickerTouch::isReleasedWhenSomeoneElseTakesTheTouch()
 {
     PickerScene scene(7, 20);
     QVERIFY(scene.stage.show());
@@ -199,7 +199,7 @@ void tst_TimePickerTouch::isReleasedWhenSomeoneElseTakesTheTouch()
     QCOMPARE(scene.time(), QTime(7, 20));
 }
 
-void tst_TimePickerTouch::takesNoTouchOutsideTheRings()
+void TestTimePickerTouch::takesNoTouchOutsideTheRings()
 {
     PickerScene scene(7, 20);
     QVERIFY(scene.stage.show());
@@ -209,7 +209,7 @@ void tst_TimePickerTouch::takesNoTouchOutsideTheRings()
     QCOMPARE(scene.changes.count(), 0);
 }
 
-void tst_TimePickerTouch::hasHandlesForFingers()
+void TestTimePickerTouch::hasHandlesForFingers()
 {
     PickerScene scene(6, 0);
     QVERIFY(scene.stage.show());
@@ -223,5 +223,5 @@ void tst_TimePickerTouch::hasHandlesForFingers()
     QCOMPARE(scene.changes.count(), 0);
 }
 
-QTEST_MAIN(tst_TimePickerTouch)
+QTEST_MAIN(TestTimePickerTouch)
 #include "tst_timepickertouch.moc"

@@ -8,7 +8,7 @@
 
 using Touch::Locale;
 
-class tst_TimeText : public QObject
+class TestTimeText : public QObject
 {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ private Q_SLOTS:
     void writesNumbersWithTheLocalesZero();
 };
 
-void tst_TimeText::setsTheMarkerApart_data()
+void TestTimeText::setsTheMarkerApart_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<Locale::TimeFormat24h>("hours");
@@ -38,7 +38,7 @@ void tst_TimeText::setsTheMarkerApart_data()
     QTest::newRow("bulgarian") << "bg_BG" << Locale::LocaleDefault << u"13:05 ч."_qs << "" << false;
 }
 
-void tst_TimeText::setsTheMarkerApart()
+void TestTimeText::setsTheMarkerApart()
 {
     QFETCH(QString, locale);
     QFETCH(Locale::TimeFormat24h, hours);
@@ -53,14 +53,14 @@ void tst_TimeText::setsTheMarkerApart()
     QCOMPARE(text.markerFirst, markerFirst);
 }
 
-void tst_TimeText::isEmptyForAnInvalidTime()
+void TestTimeText::isEmptyForAnInvalidTime()
 {
     const TimeText text = timeText(Locale(u"en_US"_qs), QTime());
     QCOMPARE(text.digits, QString());
     QCOMPARE(text.marker, QString());
 }
 
-void tst_TimeText::writesNumbersWithTheLocalesZero()
+void TestTimeText::writesNumbersWithTheLocalesZero()
 {
     QCOMPARE(localeDigits(Locale(u"en_US"_qs), 7, 2), u"07"_qs);
     QCOMPARE(localeDigits(Locale(u"en_US"_qs), 7, 1), u"7"_qs);
@@ -68,5 +68,5 @@ void tst_TimeText::writesNumbersWithTheLocalesZero()
     QCOMPARE(localeDigits(Locale(u"ar_EG"_qs), 7, 2), u"٠٧"_qs);
 }
 
-QTEST_GUILESS_MAIN(tst_TimeText)
+QTEST_GUILESS_MAIN(TestTimeText)
 #include "tst_timetext.moc"

@@ -20,7 +20,7 @@
 #include <QTest>
 
 /// A file of one's own as a tone, as the user finds it from the tone browser.
-class tst_ToneFileSheet : public QObject
+class TestToneFileSheet : public QObject
 {
     Q_OBJECT
 
@@ -56,7 +56,7 @@ private:
     ToneScene m_scene;
 };
 
-void tst_ToneFileSheet::initTestCase()
+void TestToneFileSheet::initTestCase()
 {
     QVERIFY(m_scene.prepare());
     QVERIFY(QDir().mkpath(m_folder));
@@ -68,23 +68,23 @@ void tst_ToneFileSheet::initTestCase()
     QVERIFY(m_scene.fillStore());
 }
 
-void tst_ToneFileSheet::init()
+void TestToneFileSheet::init()
 {
     QVERIFY(m_scene.open());
 }
 
-void tst_ToneFileSheet::cleanup()
+void TestToneFileSheet::cleanup()
 {
     m_scene.close();
     QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
-ToneFileSheet *tst_ToneFileSheet::files() const
+ToneFileSheet *TestToneFileSheet::files() const
 {
     return qobject_cast<ToneFileSheet *>(m_scene.window->topSceneWindow());
 }
 
-QString tst_ToneFileSheet::notice() const
+QString TestToneFileSheet::notice() const
 {
     const auto sceneWindows = m_scene.window->sceneWindows();
     for (Touch::SceneWindow *sceneWindow : sceneWindows) {
@@ -94,7 +94,7 @@ QString tst_ToneFileSheet::notice() const
     return {};
 }
 
-void tst_ToneFileSheet::openFiles()
+void TestToneFileSheet::openFiles()
 {
     auto *row = Support::itemIn<Touch::BasicListItem>(m_scene.sheet.get(), "chooseFileItem");
     QVERIFY(row);
@@ -103,7 +103,7 @@ void tst_ToneFileSheet::openFiles()
     QVERIFY(files());
 }
 
-void tst_ToneFileSheet::follow(const QStringList &names)
+void TestToneFileSheet::follow(const QStringList &names)
 {
     for (const QString &name : names) {
         const auto *model = list()->itemModel();
@@ -115,7 +115,7 @@ void tst_ToneFileSheet::follow(const QStringList &names)
     }
 }
 
-void tst_ToneFileSheet::aFileThatIsFoundIsHeardAndChosen()
+void TestToneFileSheet::aFileThatIsFoundIsHeardAndChosen()
 {
     openFiles();
     follow({"Downloads", "Ringtones", "Bell_2.aac"});
@@ -131,7 +131,7 @@ void tst_ToneFileSheet::aFileThatIsFoundIsHeardAndChosen()
     QTRY_VERIFY(cells->cellAt(row) && m_scene.window->sceneRect().contains(cells->cellAt(row)->sceneBoundingRect()));
 }
 
-void tst_ToneFileSheet::doneTakesTheFile()
+void TestToneFileSheet::doneTakesTheFile()
 {
     openFiles();
     follow({"Downloads", "Ringtones", "Bell_2.aac"});
@@ -141,7 +141,7 @@ void tst_ToneFileSheet::doneTakesTheFile()
     QCOMPARE(m_scene.tone->niceName(), "Bell 2");
 }
 
-void tst_ToneFileSheet::aFileThatWouldNotBeHeardIsRefused_data()
+void TestToneFileSheet::aFileThatWouldNotBeHeardIsRefused_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("text");
@@ -151,7 +151,7 @@ void tst_ToneFileSheet::aFileThatWouldNotBeHeardIsRefused_data()
                              << "“silent” starts with silence and would not wake you. The tone stays as it was.";
 }
 
-void tst_ToneFileSheet::aFileThatWouldNotBeHeardIsRefused()
+void TestToneFileSheet::aFileThatWouldNotBeHeardIsRefused()
 {
     QFETCH(QString, name);
     openFiles();
@@ -165,7 +165,7 @@ void tst_ToneFileSheet::aFileThatWouldNotBeHeardIsRefused()
     QCOMPARE(m_scene.tone->fileName(), shipped("Clock alert 1"));
 }
 
-void tst_ToneFileSheet::musicThatCannotBePlayedIsRefusedToo()
+void TestToneFileSheet::musicThatCannotBePlayedIsRefusedToo()
 {
     const auto *cells = m_scene.tones();
     QTRY_VERIFY(cells->cellAt(0));
@@ -176,7 +176,7 @@ void tst_ToneFileSheet::musicThatCannotBePlayedIsRefusedToo()
     QCOMPARE(m_scene.sheet->playedFile(), QString());
 }
 
-void tst_ToneFileSheet::whatIsJudgedTooLateIsNotChosen()
+void TestToneFileSheet::whatIsJudgedTooLateIsNotChosen()
 {
     openFiles();
     follow({"Downloads", "Ringtones", "Bell_2.aac"});
@@ -190,7 +190,7 @@ void tst_ToneFileSheet::whatIsJudgedTooLateIsNotChosen()
     QCOMPARE(m_scene.sheet->selectedFile(), shipped("Clock alert 1"));
 }
 
-void tst_ToneFileSheet::cancelLeadsBackToTheTones()
+void TestToneFileSheet::cancelLeadsBackToTheTones()
 {
     openFiles();
     follow({"Downloads"});
@@ -203,7 +203,7 @@ void tst_ToneFileSheet::cancelLeadsBackToTheTones()
     QCOMPARE(m_scene.sheet->selectedFile(), shipped("Clock alert 1"));
 }
 
-void tst_ToneFileSheet::escapeLeadsUpAndThenOut()
+void TestToneFileSheet::escapeLeadsUpAndThenOut()
 {
     openFiles();
     follow({"Downloads", "Ringtones"});
@@ -217,7 +217,7 @@ void tst_ToneFileSheet::escapeLeadsUpAndThenOut()
     QVERIFY(m_scene.sheet->isOnDisplay());
 }
 
-void tst_ToneFileSheet::theNextTimeItStartsWhereItWasLeft()
+void TestToneFileSheet::theNextTimeItStartsWhereItWasLeft()
 {
     openFiles();
     follow({"Downloads", "Ringtones"});
@@ -228,14 +228,14 @@ void tst_ToneFileSheet::theNextTimeItStartsWhereItWasLeft()
     QCOMPARE(files()->folder(), QString());
 }
 
-void tst_ToneFileSheet::itGoesWithTheTones()
+void TestToneFileSheet::itGoesWithTheTones()
 {
     openFiles();
     m_scene.sheet->dismiss();
     QVERIFY(!files());
 }
 
-void tst_ToneFileSheet::aNoteTakesNoTap()
+void TestToneFileSheet::aNoteTakesNoTap()
 {
     openFiles();
     follow({"Downloads", "empty", "No sound files here"});
@@ -244,7 +244,7 @@ void tst_ToneFileSheet::aNoteTakesNoTap()
     QCOMPARE(list()->cellAt(0)->focusPolicy(), Qt::TabFocus);
 }
 
-void tst_ToneFileSheet::everyRowIsTold()
+void TestToneFileSheet::everyRowIsTold()
 {
     openFiles();
     QCOMPARE(files()->accessibleName(), "Choose a file…");
@@ -258,7 +258,7 @@ void tst_ToneFileSheet::everyRowIsTold()
     QCOMPARE(list()->cellAt(1)->accessibleRole(), QAccessible::Button);
 }
 
-void tst_ToneFileSheet::theSoundEndsWhileOneLooks()
+void TestToneFileSheet::theSoundEndsWhileOneLooks()
 {
     const auto *cells = m_scene.tones();
     QTRY_VERIFY(cells->cellAt(2));
@@ -269,12 +269,12 @@ void tst_ToneFileSheet::theSoundEndsWhileOneLooks()
     QCOMPARE(m_scene.sheet->selectedFile(), shipped("Courier"));
 }
 
-void tst_ToneFileSheet::looks_data()
+void TestToneFileSheet::looks_data()
 {
     addLooks();
 }
 
-void tst_ToneFileSheet::looks()
+void TestToneFileSheet::looks()
 {
     QVERIFY(m_scene.openInLook());
     openFiles();
@@ -296,5 +296,5 @@ void tst_ToneFileSheet::looks()
     QVERIFY(m_scene.keepPicture("tonefiles", "chosen"));
 }
 
-QTEST_MAIN(tst_ToneFileSheet)
+QTEST_MAIN(TestToneFileSheet)
 #include "tst_tonefilesheet.moc"

@@ -12,7 +12,7 @@
 
 using Touch::Locale;
 
-class tst_ToneFolderModel : public QObject
+class TestToneFolderModel : public QObject
 {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ private:
     static QString home(const QString &path) { return QDir::home().filePath(path); }
 };
 
-void tst_ToneFolderModel::initTestCase()
+void TestToneFolderModel::initTestCase()
 {
     Locale locale("en_GB");
     QVERIFY(locale.installTrCatalog("sounds"));
@@ -45,13 +45,13 @@ void tst_ToneFolderModel::initTestCase()
     QVERIFY(QDir::home().mkpath("Downloads/.hidden"));
 }
 
-bool tst_ToneFolderModel::makeFile(const QString &path)
+bool TestToneFolderModel::makeFile(const QString &path)
 {
     QFile file(path);
     return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly);
 }
 
-QStringList tst_ToneFolderModel::names(const ToneFolderModel &model)
+QStringList TestToneFolderModel::names(const ToneFolderModel &model)
 {
     QStringList names;
     for (int row = 0; row < model.rowCount(); ++row)
@@ -59,7 +59,7 @@ QStringList tst_ToneFolderModel::names(const ToneFolderModel &model)
     return names;
 }
 
-void tst_ToneFolderModel::startsWithThePlaces()
+void TestToneFolderModel::startsWithThePlaces()
 {
     QVERIFY(QDir::home().mkpath("Music"));
     ToneFolderModel model;
@@ -73,7 +73,7 @@ void tst_ToneFolderModel::startsWithThePlaces()
     QVERIFY(!model.goUp());
 }
 
-void tst_ToneFolderModel::aPlaceThatIsMissingIsLeftOut()
+void TestToneFolderModel::aPlaceThatIsMissingIsLeftOut()
 {
     QVERIFY(QDir::home().rmdir("Music"));
     ToneFolderModel model;
@@ -81,7 +81,7 @@ void tst_ToneFolderModel::aPlaceThatIsMissingIsLeftOut()
     QCOMPARE(names(model).mid(0, 2), QStringList({"Downloads", "Home folder"}));
 }
 
-void tst_ToneFolderModel::aFolderListsTheWayUpThenFoldersThenSoundFiles()
+void TestToneFolderModel::aFolderListsTheWayUpThenFoldersThenSoundFiles()
 {
     ToneFolderModel model;
     model.enter(home("Downloads"));
@@ -94,7 +94,7 @@ void tst_ToneFolderModel::aFolderListsTheWayUpThenFoldersThenSoundFiles()
     QCOMPARE(model.index(4, 0).data(ToneFolderModel::PathRole).toString(), home("Downloads/Bell 2.aac"));
 }
 
-void tst_ToneFolderModel::whatIsHiddenOrSilentByNatureIsLeftOut()
+void TestToneFolderModel::whatIsHiddenOrSilentByNatureIsLeftOut()
 {
     ToneFolderModel model;
     model.enter(home("Downloads"));
@@ -102,7 +102,7 @@ void tst_ToneFolderModel::whatIsHiddenOrSilentByNatureIsLeftOut()
     QVERIFY(names(model).filter("notes").isEmpty());
 }
 
-void tst_ToneFolderModel::anEmptyFolderSaysSo()
+void TestToneFolderModel::anEmptyFolderSaysSo()
 {
     ToneFolderModel model;
     model.enter(home("Downloads"));
@@ -111,7 +111,7 @@ void tst_ToneFolderModel::anEmptyFolderSaysSo()
     QCOMPARE(model.index(1, 0).data(ToneFolderModel::KindRole).toInt(), int(ToneFolderModel::Note));
 }
 
-void tst_ToneFolderModel::theWayUpEndsAtThePlaces()
+void TestToneFolderModel::theWayUpEndsAtThePlaces()
 {
     ToneFolderModel model;
     model.enter(QDir::homePath());
@@ -126,7 +126,7 @@ void tst_ToneFolderModel::theWayUpEndsAtThePlaces()
     QVERIFY(!model.goUp());
 }
 
-void tst_ToneFolderModel::aFolderThatIsGoneLeadsToThePlaces()
+void TestToneFolderModel::aFolderThatIsGoneLeadsToThePlaces()
 {
     QVERIFY(QDir::home().mkpath("Downloads/card"));
     ToneFolderModel model;
@@ -137,7 +137,7 @@ void tst_ToneFolderModel::aFolderThatIsGoneLeadsToThePlaces()
     QVERIFY(names(model).contains("Downloads"));
 }
 
-void tst_ToneFolderModel::drivesArePlacesByTheirNames()
+void TestToneFolderModel::drivesArePlacesByTheirNames()
 {
     const QTemporaryDir folder;
     QVERIFY(QDir(folder.path()).mkpath("media/STICK"));
@@ -150,5 +150,5 @@ void tst_ToneFolderModel::drivesArePlacesByTheirNames()
     QCOMPARE(drives[1].name, "STICK");
 }
 
-QTEST_GUILESS_MAIN(tst_ToneFolderModel)
+QTEST_GUILESS_MAIN(TestToneFolderModel)
 #include "tst_tonefoldermodel.moc"

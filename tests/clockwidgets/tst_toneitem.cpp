@@ -10,7 +10,7 @@
 
 using Touch::Theme;
 
-class tst_ToneItem : public QObject
+class TestToneItem : public QObject
 {
     Q_OBJECT
 
@@ -21,12 +21,12 @@ private Q_SLOTS:
     void theEndOfALongTitleIsSeenInLargeText();
 };
 
-void tst_ToneItem::cleanup()
+void TestToneItem::cleanup()
 {
     Theme::instance().setTextScale(1);
 }
 
-void tst_ToneItem::hasRoomForTwoLinesAtEverySizeOfText()
+void TestToneItem::hasRoomForTwoLinesAtEverySizeOfText()
 {
     const ToneItem item;
     for (const qreal scale : {1.0, 1.3, 2.0}) {
@@ -39,7 +39,7 @@ void tst_ToneItem::hasRoomForTwoLinesAtEverySizeOfText()
     }
 }
 
-void tst_ToneItem::theMarkGrowsWithTheText()
+void TestToneItem::theMarkGrowsWithTheText()
 {
     auto *item = new ToneItem;
     Stage stage(item, {0, 0, 480, 96});
@@ -62,7 +62,7 @@ void tst_ToneItem::theMarkGrowsWithTheText()
     QTRY_VERIFY(inkedRows() > 1.3 * usual);
 }
 
-void tst_ToneItem::theEndOfALongTitleIsSeenInLargeText()
+void TestToneItem::theEndOfALongTitleIsSeenInLargeText()
 {
     Theme::instance().setTextScale(2);
     auto *item = new ToneItem;
@@ -74,5 +74,5 @@ void tst_ToneItem::theEndOfALongTitleIsSeenInLargeText()
     QVERIFY(stage.window.grab().toImage() != inA);
 }
 
-QTEST_MAIN(tst_ToneItem)
+QTEST_MAIN(TestToneItem)
 #include "tst_toneitem.moc"

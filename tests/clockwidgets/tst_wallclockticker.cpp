@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-class tst_WallClockTicker : public QObject
+class TestWallClockTicker : public QObject
 {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ private Q_SLOTS:
     void tellsThatTheZoneIsAnother();
 };
 
-void tst_WallClockTicker::beatsOnWholeSecondsAndMinutes_data()
+void TestWallClockTicker::beatsOnWholeSecondsAndMinutes_data()
 {
     QTest::addColumn<ClockTicker::Beat>("beat");
     QTest::addColumn<qint64>("time");
@@ -33,7 +33,7 @@ void tst_WallClockTicker::beatsOnWholeSecondsAndMinutes_data()
     QTest::newRow("before the minute") << Beat::Minute << qint64(1774699259) << qint64(1774699260);
 }
 
-void tst_WallClockTicker::beatsOnWholeSecondsAndMinutes()
+void TestWallClockTicker::beatsOnWholeSecondsAndMinutes()
 {
     QFETCH(ClockTicker::Beat, beat);
     QFETCH(qint64, time);
@@ -41,7 +41,7 @@ void tst_WallClockTicker::beatsOnWholeSecondsAndMinutes()
     QCOMPARE(qint64(WallClockTicker::nextBeat(time, beat)), next);
 }
 
-void tst_WallClockTicker::isOnTime()
+void TestWallClockTicker::isOnTime()
 {
     WallClockTicker ticker;
     QList<int> late;
@@ -53,7 +53,7 @@ void tst_WallClockTicker::isOnTime()
         QVERIFY2(milliseconds < 500, qPrintable(QString::number(milliseconds)));
 }
 
-void tst_WallClockTicker::isSilentWhenStopped()
+void TestWallClockTicker::isSilentWhenStopped()
 {
     WallClockTicker ticker;
     QSignalSpy spy(&ticker, &ClockTicker::ticked);
@@ -62,7 +62,7 @@ void tst_WallClockTicker::isSilentWhenStopped()
     QVERIFY(!spy.wait(1100));
 }
 
-void tst_WallClockTicker::startsAgain()
+void TestWallClockTicker::startsAgain()
 {
     WallClockTicker ticker;
     QSignalSpy spy(&ticker, &ClockTicker::ticked);
@@ -74,14 +74,14 @@ void tst_WallClockTicker::startsAgain()
     QVERIFY(spy.wait(1500));
 }
 
-void tst_WallClockTicker::tellsThatTheZoneIsAnother_data()
+void TestWallClockTicker::tellsThatTheZoneIsAnother_data()
 {
     QTest::addColumn<bool>("isLink");
     QTest::newRow("link replaced") << true;
     QTest::newRow("copy written over") << false;
 }
 
-void tst_WallClockTicker::tellsThatTheZoneIsAnother()
+void TestWallClockTicker::tellsThatTheZoneIsAnother()
 {
     QFETCH(bool, isLink);
     const QTemporaryDir folder;
@@ -103,5 +103,5 @@ void tst_WallClockTicker::tellsThatTheZoneIsAnother()
     QVERIFY(spy.wait());
 }
 
-QTEST_GUILESS_MAIN(tst_WallClockTicker)
+QTEST_GUILESS_MAIN(TestWallClockTicker)
 #include "tst_wallclockticker.moc"

@@ -58,7 +58,7 @@ struct Scene
 
 } // namespace
 
-class tst_WorldClock : public QObject
+class TestWorldClock : public QObject
 {
     Q_OBJECT
 
@@ -84,13 +84,13 @@ private Q_SLOTS:
     void inALowPlaceTheDateStandsBesideTheFace();
 };
 
-void tst_WorldClock::init()
+void TestWorldClock::init()
 {
     Locale::setDefault(Locale(u"en_US"_qs));
     QFile::remove(settingsFile());
 }
 
-void tst_WorldClock::isReadWithoutBeingSeen()
+void TestWorldClock::isReadWithoutBeingSeen()
 {
     Scene scene;
     QAccessibleInterface *clock = QAccessible::queryAccessibleInterface(scene.clock);
@@ -102,7 +102,7 @@ void tst_WorldClock::isReadWithoutBeingSeen()
     QCOMPARE(scene.clock->face(), WorldClock::Face::Digital);
 }
 
-void tst_WorldClock::ticksOnlyWhileDisplayed()
+void TestWorldClock::ticksOnlyWhileDisplayed()
 {
     Scene scene;
     QVERIFY(!scene.ticker->running);
@@ -118,7 +118,7 @@ void tst_WorldClock::ticksOnlyWhileDisplayed()
     QVERIFY(!scene.ticker->running);
 }
 
-void tst_WorldClock::ticksNotInAMinimisedWindow()
+void TestWorldClock::ticksNotInAMinimisedWindow()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -128,7 +128,7 @@ void tst_WorldClock::ticksNotInAMinimisedWindow()
     QTRY_VERIFY(scene.ticker->running);
 }
 
-void tst_WorldClock::showsTheTimeAtOnceWhenItComesBack()
+void TestWorldClock::showsTheTimeAtOnceWhenItComesBack()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -139,7 +139,7 @@ void tst_WorldClock::showsTheTimeAtOnceWhenItComesBack()
     QCOMPARE(scene.clock->shownTime(), scene.ticker->time);
 }
 
-void tst_WorldClock::ticksEverySecondOnlyWithTheSecondsHand()
+void TestWorldClock::ticksEverySecondOnlyWithTheSecondsHand()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -151,7 +151,7 @@ void tst_WorldClock::ticksEverySecondOnlyWithTheSecondsHand()
     QVERIFY(!scene.ticker->running);
 }
 
-void tst_WorldClock::aTapShowsTheOtherFace()
+void TestWorldClock::aTapShowsTheOtherFace()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -168,7 +168,7 @@ void tst_WorldClock::aTapShowsTheOtherFace()
     QCOMPARE(spy.count(), 2);
 }
 
-void tst_WorldClock::eachOfTwoQuickTapsCounts()
+void TestWorldClock::eachOfTwoQuickTapsCounts()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -177,7 +177,7 @@ void tst_WorldClock::eachOfTwoQuickTapsCounts()
     QCOMPARE(spy.count(), 2);
 }
 
-void tst_WorldClock::isSeenToBePressed()
+void TestWorldClock::isSeenToBePressed()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -189,7 +189,7 @@ void tst_WorldClock::isSeenToBePressed()
     scene.stage.release({240, 400});
 }
 
-void tst_WorldClock::keysShowTheOtherFace()
+void TestWorldClock::keysShowTheOtherFace()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -199,7 +199,7 @@ void tst_WorldClock::keysShowTheOtherFace()
     QCOMPARE(scene.clock->face(), WorldClock::Face::Analogue);
 }
 
-void tst_WorldClock::theFaceChosenIsRemembered()
+void TestWorldClock::theFaceChosenIsRemembered()
 {
     {
         Scene scene;
@@ -215,7 +215,7 @@ void tst_WorldClock::theFaceChosenIsRemembered()
     QCOMPARE(WorldClock().face(), WorldClock::Face::Analogue);
 }
 
-void tst_WorldClock::whatWasNeverChosenIsAnalogue()
+void TestWorldClock::whatWasNeverChosenIsAnalogue()
 {
     QCOMPARE(WorldClock().face(), WorldClock::Face::Analogue);
     // Only the user's choice is kept.
@@ -228,7 +228,7 @@ void tst_WorldClock::whatWasNeverChosenIsAnalogue()
     QCOMPARE(WorldClock().face(), WorldClock::Face::Analogue);
 }
 
-void tst_WorldClock::tellsTheZoneAndWhetherItIsSummer()
+void TestWorldClock::tellsTheZoneAndWhetherItIsSummer()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -244,7 +244,7 @@ void tst_WorldClock::tellsTheZoneAndWhetherItIsSummer()
     QVERIFY(scene.stage.window.grab().toImage() != winter);
 }
 
-void tst_WorldClock::showsTheDateOfTheUsersCalendar()
+void TestWorldClock::showsTheDateOfTheUsersCalendar()
 {
     Scene scene;
     Locale::setDefault(Locale(u"en_US@calendar=hebrew"_qs));
@@ -253,7 +253,7 @@ void tst_WorldClock::showsTheDateOfTheUsersCalendar()
     QVERIFY(scene.clock->accessibleName().contains("9. März"));
 }
 
-void tst_WorldClock::anotherFaceLooksDifferent()
+void TestWorldClock::anotherFaceLooksDifferent()
 {
     Scene scene;
     QVERIFY(scene.stage.show());
@@ -270,7 +270,7 @@ void tst_WorldClock::anotherFaceLooksDifferent()
     QVERIFY(scene.stage.window.grab().toImage() != digital);
 }
 
-void tst_WorldClock::followsTheUsersLocale()
+void TestWorldClock::followsTheUsersLocale()
 {
     Scene scene;
     scene.ticker->goOn(6 * 3600);
@@ -284,21 +284,21 @@ void tst_WorldClock::followsTheUsersLocale()
     QVERIFY(scene.stage.window.grab().toImage() != twentyFour);
 }
 
-void tst_WorldClock::takesAboutTwoFifthsOfThePage()
+void TestWorldClock::takesAboutTwoFifthsOfThePage()
 {
     const WorldClock clock;
     const qreal part = clock.preferredHeight() / 854;
     QVERIFY2(part >= 0.36 && part <= 0.40, qPrintable(QString::number(part)));
 }
 
-void tst_WorldClock::inALowPlaceTheDateStandsBesideTheFace_data()
+void TestWorldClock::inALowPlaceTheDateStandsBesideTheFace_data()
 {
     QTest::addColumn<WorldClock::Face>("face");
     QTest::newRow("analogue") << WorldClock::Face::Analogue;
     QTest::newRow("digital") << WorldClock::Face::Digital;
 }
 
-void tst_WorldClock::inALowPlaceTheDateStandsBesideTheFace()
+void TestWorldClock::inALowPlaceTheDateStandsBesideTheFace()
 {
     QFETCH(WorldClock::Face, face);
     Scene scene;
@@ -324,5 +324,5 @@ void tst_WorldClock::inALowPlaceTheDateStandsBesideTheFace()
     QVERIFY2(inked.width() >= 250, qPrintable(QString::number(inked.width())));
 }
 
-QTEST_MAIN(tst_WorldClock)
+QTEST_MAIN(TestWorldClock)
 #include "tst_worldclock.moc"

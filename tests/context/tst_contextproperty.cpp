@@ -43,7 +43,7 @@ public:
 
 } // namespace
 
-class ContextPropertyTest : public QObject
+class TestContextProperty : public QObject
 {
     Q_OBJECT
 
@@ -74,7 +74,7 @@ private:
     std::unique_ptr<Support::PrivateBus> m_bus;
 };
 
-void ContextPropertyTest::initTestCase()
+void TestContextProperty::initTestCase()
 {
     QFile service(m_services.filePath("activated.service"));
     QVERIFY(service.open(QIODevice::WriteOnly));
@@ -86,7 +86,7 @@ void ContextPropertyTest::initTestCase()
     QVERIFY(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "provider").isConnected());
 }
 
-void ContextPropertyTest::settle()
+void TestContextProperty::settle()
 {
     // Two values published in order arrive in order.
     const QString key = "Test.Settle";
@@ -99,7 +99,7 @@ void ContextPropertyTest::settle()
     QTRY_COMPARE(property.value().toInt(), 1);
 }
 
-void ContextPropertyTest::hasNoValueBeforeItIsSubscribed()
+void TestContextProperty::hasNoValueBeforeItIsSubscribed()
 {
     const ContextPublisher publisher(Key, 7, provider());
     const ContextProperty property(Key);
@@ -109,7 +109,7 @@ void ContextPropertyTest::hasNoValueBeforeItIsSubscribed()
     QCOMPARE(property.value(12), QVariant(12));
 }
 
-void ContextPropertyTest::announcesTheFirstValueOnce_data()
+void TestContextProperty::announcesTheFirstValueOnce_data()
 {
     QTest::addColumn<QVariant>("initial");
 
@@ -119,7 +119,7 @@ void ContextPropertyTest::announcesTheFirstValueOnce_data()
     QTest::newRow("an empty text") << QVariant(QString(""));
 }
 
-void ContextPropertyTest::announcesTheFirstValueOnce()
+void TestContextProperty::announcesTheFirstValueOnce()
 {
     QFETCH(const QVariant, initial);
     const ContextPublisher publisher(Key, initial, provider());
@@ -134,7 +134,7 @@ void ContextPropertyTest::announcesTheFirstValueOnce()
     QCOMPARE(property.value(QVariant("fallback")), initial);
 }
 
-void ContextPropertyTest::announcesEveryChangeOnce()
+void TestContextProperty::announcesEveryChangeOnce()
 {
     ContextPublisher publisher(Key, 0, provider());
     ContextProperty property(Key);
@@ -150,7 +150,7 @@ void ContextPropertyTest::announcesEveryChangeOnce()
     QCOMPARE(seen, QVariantList({1, 2, 2}));
 }
 
-void ContextPropertyTest::containsChangesBeforeTheFirstAnswer()
+void TestContextProperty::containsChangesBeforeTheFirstAnswer()
 {
     ContextPublisher publisher(Key, 0, provider());
     ContextProperty property(Key);
@@ -163,7 +163,7 @@ void ContextPropertyTest::containsChangesBeforeTheFirstAnswer()
     QCOMPARE(property.value().toInt(), 2);
 }
 
-void ContextPropertyTest::readsNestedValuesWithTheirTypes()
+void TestContextProperty::readsNestedValuesWithTheirTypes()
 {
     const QVariantMap inner{{"8", 1298448000000000000ULL}};
     const QVariantMap map{{"7", 18446744073709551615ULL}, {"inner", inner}, {"list", QVariantList{1U, inner}}};
@@ -178,7 +178,7 @@ void ContextPropertyTest::readsNestedValuesWithTheirTypes()
     QTRY_COMPARE(property.value().toMap(), change);
 }
 
-void ContextPropertyTest::keepsTheValueWhileTheProviderIsAway()
+void TestContextProperty::keepsTheValueWhileTheProviderIsAway()
 {
     auto publisher = std::make_unique<ContextPublisher>(Key, 5, provider());
     ContextProperty property(Key);
@@ -191,7 +191,7 @@ void ContextPropertyTest::keepsTheValueWhileTheProviderIsAway()
     QCOMPARE(property.value().toInt(), 5);
 }
 
-void ContextPropertyTest::announcesAProviderThatIsBackOnce()
+void TestContextProperty::announcesAProviderThatIsBackOnce()
 {
     auto publisher = std::make_unique<ContextPublisher>(Key, 5, provider());
     ContextProperty property(Key);
@@ -210,7 +210,7 @@ void ContextPropertyTest::announcesAProviderThatIsBackOnce()
     QCOMPARE(property.value().toInt(), 6);
 }
 
-void ContextPropertyTest::announcesAProviderThatComesLate()
+void TestContextProperty::announcesAProviderThatComesLate()
 {
     ContextProperty property(Key);
     QSignalSpy spy(&property, &ContextProperty::valueChanged);
@@ -224,7 +224,7 @@ void ContextPropertyTest::announcesAProviderThatComesLate()
     QCOMPARE(property.value().toInt(), 5);
 }
 
-void ContextPropertyTest::isToldNothingAfterUnsubscribing()
+void TestContextProperty::isToldNothingAfterUnsubscribing()
 {
     ContextPublisher publisher(Key, 5, provider());
     ContextProperty property(Key);
@@ -241,7 +241,7 @@ void ContextPropertyTest::isToldNothingAfterUnsubscribing()
     QCOMPARE(property.value().toInt(), 6);
 }
 
-void ContextPropertyTest::mayUnsubscribeWhileItIsTold()
+void TestContextProperty::mayUnsubscribeWhileItIsTold()
 {
     ContextPublisher publisher(Key, 5, provider());
     ContextProperty property(Key);
@@ -254,7 +254,7 @@ void ContextPropertyTest::mayUnsubscribeWhileItIsTold()
     QCOMPARE(property.value().toInt(), 6);
 }
 
-void ContextPropertyTest::subscribesOnlyOnce()
+void TestContextProperty::subscribesOnlyOnce()
 {
     ContextPublisher publisher(Key, 5, provider());
     ContextProperty property(Key);
@@ -268,7 +268,7 @@ void ContextPropertyTest::subscribesOnlyOnce()
     QCOMPARE(spy.size(), 2);
 }
 
-void ContextPropertyTest::doesNotWaitForASilentProvider()
+void TestContextProperty::doesNotWaitForASilentProvider()
 {
     SilentObject silent;
     QVERIFY(provider().registerVirtualObject("/com/astel/context/Test/Silent", &silent));
@@ -287,7 +287,7 @@ void ContextPropertyTest::doesNotWaitForASilentProvider()
     provider().unregisterObject("/com/astel/context/Test/Silent");
 }
 
-void ContextPropertyTest::keepsAChangeThatComesBeforeARefusal()
+void TestContextProperty::keepsAChangeThatComesBeforeARefusal()
 {
     RefusingObject refusing;
     QVERIFY(provider().registerVirtualObject("/com/astel/context/Test/Refusing", &refusing));
@@ -303,7 +303,7 @@ void ContextPropertyTest::keepsAChangeThatComesBeforeARefusal()
     provider().unregisterObject("/com/astel/context/Test/Refusing");
 }
 
-void ContextPropertyTest::startsTheProviderAndOutlivesItsDeath()
+void TestContextProperty::startsTheProviderAndOutlivesItsDeath()
 {
     ContextProperty property(ActivatedKey);
     QSignalSpy spy(&property, &ContextProperty::valueChanged);
@@ -329,5 +329,5 @@ void ContextPropertyTest::startsTheProviderAndOutlivesItsDeath()
     QVERIFY(Support::PrivateBus::waitForService(service, false));
 }
 
-QTEST_GUILESS_MAIN(ContextPropertyTest)
+QTEST_GUILESS_MAIN(TestContextProperty)
 #include "tst_contextproperty.moc"

@@ -40,7 +40,7 @@ QStringList interfaceOf(const QString &xml)
 
 } // namespace
 
-class ContextPublisherTest : public QObject
+class TestContextPublisher : public QObject
 {
     Q_OBJECT
 
@@ -58,12 +58,12 @@ private:
     Support::PrivateBus m_bus;
 };
 
-void ContextPublisherTest::initTestCase()
+void TestContextPublisher::initTestCase()
 {
     QVERIFY(m_bus.isRunning());
 }
 
-QVariant ContextPublisherTest::read() const
+QVariant TestContextPublisher::read() const
 {
     const QDBusConnection reader = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "reader");
     QDBusMessage call = QDBusMessage::createMethodCall(Service, Path, Interface, "get");
@@ -71,7 +71,7 @@ QVariant ContextPublisherTest::read() const
     return qvariant_cast<QDBusVariant>(answer.arguments().value(0)).variant();
 }
 
-void ContextPublisherTest::answersWithTheValueOfTheMoment()
+void TestContextPublisher::answersWithTheValueOfTheMoment()
 {
     ContextPublisher publisher(Key, "first");
     QVERIFY(publisher.isPublished());
@@ -80,7 +80,7 @@ void ContextPublisherTest::answersWithTheValueOfTheMoment()
     QCOMPARE(read(), QVariant("second"));
 }
 
-void ContextPublisherTest::exportsTheCommittedInterface()
+void TestContextPublisher::exportsTheCommittedInterface()
 {
     const ContextPublisher publisher(Key, 0);
     const QDBusConnection reader = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "reader");
@@ -93,7 +93,7 @@ void ContextPublisherTest::exportsTheCommittedInterface()
     QCOMPARE(interfaceOf(live), interfaceOf(committed.readAll()));
 }
 
-void ContextPublisherTest::isNotPublishedTwice()
+void TestContextPublisher::isNotPublishedTwice()
 {
     const ContextPublisher publisher(Key, "first");
     const ContextPublisher sameProcess(Key, "second");
@@ -104,7 +104,7 @@ void ContextPublisherTest::isNotPublishedTwice()
     QCOMPARE(read(), QVariant("first"));
 }
 
-void ContextPublisherTest::leavesTheBusWithItsEnd()
+void TestContextPublisher::leavesTheBusWithItsEnd()
 {
     auto publisher = std::make_unique<ContextPublisher>(Key, "first");
     QVERIFY(Support::PrivateBus::waitForService(Service));
@@ -112,12 +112,12 @@ void ContextPublisherTest::leavesTheBusWithItsEnd()
     QVERIFY(Support::PrivateBus::waitForService(Service, false));
 }
 
-void ContextPublisherTest::isNotPublishedWithoutABus()
+void TestContextPublisher::isNotPublishedWithoutABus()
 {
     ContextPublisher publisher(Key, "first", QDBusConnection("never connected"));
     QVERIFY(!publisher.isPublished());
     publisher.publish("second");
 }
 
-QTEST_GUILESS_MAIN(ContextPublisherTest)
+QTEST_GUILESS_MAIN(TestContextPublisher)
 #include "tst_contextpublisher.moc"

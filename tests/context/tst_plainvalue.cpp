@@ -13,7 +13,7 @@ using Names = QMap<int, QString>;
 using Points = QList<QPoint>;
 
 /** Values of every shape that D-Bus knows arrive without any wrapper of it. */
-class PlainValueTest : public QObject
+class TestPlainValue : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private:
     Support::PrivateBus m_bus;
 };
 
-void PlainValueTest::initTestCase()
+void TestPlainValue::initTestCase()
 {
     QVERIFY(m_bus.isRunning());
     qDBusRegisterMetaType<Names>();
@@ -36,7 +36,7 @@ void PlainValueTest::initTestCase()
     QVERIFY(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "provider").isConnected());
 }
 
-void PlainValueTest::arrivesPlain_data()
+void TestPlainValue::arrivesPlain_data()
 {
     QTest::addColumn<QVariant>("sent");
     QTest::addColumn<QVariant>("arrived");
@@ -57,7 +57,7 @@ void PlainValueTest::arrivesPlain_data()
         QVariantMap{{"x", QVariantMap{{"y", 1}}}});
 }
 
-void PlainValueTest::arrivesPlain()
+void TestPlainValue::arrivesPlain()
 {
     QFETCH(QVariant, sent);
     QFETCH(QVariant, arrived);
@@ -69,7 +69,7 @@ void PlainValueTest::arrivesPlain()
     QCOMPARE(property.value(), arrived);
 }
 
-void PlainValueTest::isPlainAlsoWithoutABus_data()
+void TestPlainValue::isPlainAlsoWithoutABus_data()
 {
     QTest::addColumn<QVariant>("wrapped");
     QTest::addColumn<QVariant>("plain");
@@ -81,11 +81,11 @@ void PlainValueTest::isPlainAlsoWithoutABus_data()
                           << QVariant(QVariantList{5, QVariantList{5}});
 }
 
-void PlainValueTest::isPlainAlsoWithoutABus()
+void TestPlainValue::isPlainAlsoWithoutABus()
 {
     QFETCH(QVariant, wrapped);
     QTEST(Context::plainValue(wrapped), "plain");
 }
 
-QTEST_GUILESS_MAIN(PlainValueTest)
+QTEST_GUILESS_MAIN(TestPlainValue)
 #include "tst_plainvalue.moc"

@@ -76,7 +76,7 @@ private:
 
 } // namespace
 
-class RestartsTest : public QObject
+class TestRestarts : public QObject
 {
     Q_OBJECT
 
@@ -87,7 +87,7 @@ private:
     Support::PrivateBus m_bus;
 };
 
-void RestartsTest::noChangeIsLostOverRestarts()
+void TestRestarts::noChangeIsLostOverRestarts()
 {
     QVERIFY(m_bus.isRunning());
     ContextProperty property(Key);
@@ -108,5 +108,5 @@ void RestartsTest::noChangeIsLostOverRestarts()
     QCOMPARE(std::adjacent_find(seen.begin(), seen.end()), seen.end());
 }
 
-QTEST_GUILESS_MAIN(RestartsTest)
+QTEST_GUILESS_MAIN(TestRestarts)
 #include "tst_restarts.moc"

@@ -7,7 +7,7 @@
 using Touch::Calendar;
 using Touch::Locale;
 
-class tst_Calendar : public QObject
+class TestCalendar : public QObject
 {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ private Q_SLOTS:
     void hasTheValuesThatCallersCountOn();
 };
 
-void tst_Calendar::knowsTheWeek_data()
+void TestCalendar::knowsTheWeek_data()
 {
     QTest::addColumn<int>("firstDay");
     QTest::addColumn<QString>("monday");
@@ -51,7 +51,7 @@ void tst_Calendar::knowsTheWeek_data()
     QTest::newRow("ru_RU") << 1 << u"понедельник"_qs << u"пн"_qs;
 }
 
-void tst_Calendar::knowsTheWeek()
+void TestCalendar::knowsTheWeek()
 {
     QFETCH(int, firstDay);
     QFETCH(QString, monday);
@@ -62,7 +62,7 @@ void tst_Calendar::knowsTheWeek()
     QCOMPARE(calendar.weekdayName(1, Calendar::StandaloneContext, Calendar::AbbreviatedLength), shortMonday);
 }
 
-void tst_Calendar::countsDaysFromSunday()
+void TestCalendar::countsDaysFromSunday()
 {
     const Calendar calendar(Locale(u"en_GB"_qs));
     const QStringList names{"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
@@ -70,14 +70,14 @@ void tst_Calendar::countsDaysFromSunday()
         QCOMPARE(calendar.weekdayName(day), names[day]);
 }
 
-void tst_Calendar::hasNoNameForOtherDays()
+void TestCalendar::hasNoNameForOtherDays()
 {
     const Calendar calendar(Locale(u"en_GB"_qs));
     QCOMPARE(calendar.weekdayName(-1), QString());
     QCOMPARE(calendar.weekdayName(7), QString());
 }
 
-void tst_Calendar::namesMayDependOnTheContext()
+void TestCalendar::namesMayDependOnTheContext()
 {
     const Calendar german(Locale(u"de_DE"_qs));
     QCOMPARE(german.weekdayName(1, Calendar::FormatContext, Calendar::AbbreviatedLength), u"Mo."_qs);
@@ -85,7 +85,7 @@ void tst_Calendar::namesMayDependOnTheContext()
     QCOMPARE(german.weekdayName(1, Calendar::StandaloneContext, Calendar::NarrowLength), u"M"_qs);
 }
 
-void tst_Calendar::followsTheDefaultLocale()
+void TestCalendar::followsTheDefaultLocale()
 {
     Locale::setDefault(Locale(u"en_US"_qs));
     const Calendar calendar;
@@ -95,18 +95,18 @@ void tst_Calendar::followsTheDefaultLocale()
     QCOMPARE(calendar.weekdayName(0), u"sunnuntai"_qs);
 }
 
-void tst_Calendar::staysWithTheLocaleItWasMadeFor()
+void TestCalendar::staysWithTheLocaleItWasMadeFor()
 {
     const Calendar calendar(Locale(u"en_US"_qs), Locale::GregorianCalendar);
     Locale::setDefault(Locale(u"fi_FI"_qs));
     QCOMPARE(calendar.weekdayName(0), u"Sunday"_qs);
 }
 
-void tst_Calendar::hasTheValuesThatCallersCountOn()
+void TestCalendar::hasTheValuesThatCallersCountOn()
 {
     QCOMPARE(int(Calendar::StandaloneContext), 1);
     QCOMPARE(int(Calendar::AbbreviatedLength), 0);
 }
 
-QTEST_GUILESS_MAIN(tst_Calendar)
+QTEST_GUILESS_MAIN(TestCalendar)
 #include "tst_calendar.moc"

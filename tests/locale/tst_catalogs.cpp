@@ -34,7 +34,7 @@ Locale withPlanets(const char *name)
 
 } // namespace
 
-class tst_Catalogs : public QObject
+class TestCatalogs : public QObject
 {
     Q_OBJECT
 
@@ -53,7 +53,7 @@ private Q_SLOTS:
     void tellsThatThereIsNone();
 };
 
-void tst_Catalogs::isNotShownBeforeItsLocaleIsTheDefault()
+void TestCatalogs::isNotShownBeforeItsLocaleIsTheDefault()
 {
     Locale locale(u"de_DE"_qs);
     QVERIFY(locale.installTrCatalog(u"planets"_qs));
@@ -62,7 +62,7 @@ void tst_Catalogs::isNotShownBeforeItsLocaleIsTheDefault()
     QCOMPARE(qtTrId("planet_earth"), u"Erde"_qs);
 }
 
-void tst_Catalogs::fallsBackFromRegionToLanguageToEnglish()
+void TestCatalogs::fallsBackFromRegionToLanguageToEnglish()
 {
     Locale::setDefault(withPlanets("de_AT"));
     QCOMPARE(qtTrId("planet_earth"), u"Heimat"_qs);
@@ -74,7 +74,7 @@ void tst_Catalogs::fallsBackFromRegionToLanguageToEnglish()
     QCOMPARE(qtTrId("planet_earth"), u"Earth"_qs);
 }
 
-void tst_Catalogs::fallsBackToWhereMostLiveWhoWriteItSo_data()
+void TestCatalogs::fallsBackToWhereMostLiveWhoWriteItSo_data()
 {
     QTest::addColumn<QString>("earth");
     QTest::newRow("pt") << u"Terra"_qs;
@@ -86,7 +86,7 @@ void tst_Catalogs::fallsBackToWhereMostLiveWhoWriteItSo_data()
         QTest::newRow(traditional) << u"地球，繁體"_qs;
 }
 
-void tst_Catalogs::fallsBackToWhereMostLiveWhoWriteItSo()
+void TestCatalogs::fallsBackToWhereMostLiveWhoWriteItSo()
 {
     QFETCH(QString, earth);
     Locale::setDefault(withPlanets(QTest::currentDataTag()));
@@ -94,7 +94,7 @@ void tst_Catalogs::fallsBackToWhereMostLiveWhoWriteItSo()
     QCOMPARE(qtTrId("planet_venus"), u"Venus in English"_qs);
 }
 
-void tst_Catalogs::showsThePluralForms()
+void TestCatalogs::showsThePluralForms()
 {
     Locale::setDefault(withPlanets("en_GB"));
     QCOMPARE(qtTrId("planet_count", 1), u"1 planet"_qs);
@@ -106,7 +106,7 @@ void tst_Catalogs::showsThePluralForms()
     QCOMPARE(qtTrId("planet_count", 21), u"21 планета"_qs);
 }
 
-void tst_Catalogs::showsTheDigitsOfTheLocale()
+void TestCatalogs::showsTheDigitsOfTheLocale()
 {
     Locale::setDefault(withPlanets("fa_IR"));
     QCOMPARE(qtTrId("planet_count", 8), u"۸ سیاره"_qs);
@@ -115,7 +115,7 @@ void tst_Catalogs::showsTheDigitsOfTheLocale()
     QCOMPARE(qtTrId("planet_count", 8), u"8 planets"_qs);
 }
 
-void tst_Catalogs::knowsAllCountriesWithoutAFile()
+void TestCatalogs::knowsAllCountriesWithoutAFile()
 {
     Locale german(u"de_DE"_qs);
     QVERIFY(german.installTrCatalog(u"countries"_qs));
@@ -127,7 +127,7 @@ void tst_Catalogs::knowsAllCountriesWithoutAFile()
     QCOMPARE(qtTrId("qtn_country_de"), u"Germany"_qs);
 }
 
-void tst_Catalogs::knowsNoOtherCountries()
+void TestCatalogs::knowsNoOtherCountries()
 {
     Locale english(u"en_GB"_qs);
     english.installTrCatalog(u"countries"_qs);
@@ -137,14 +137,14 @@ void tst_Catalogs::knowsNoOtherCountries()
     QCOMPARE(qtTrId("planet_of_nobody"), u"planet_of_nobody"_qs);
 }
 
-void tst_Catalogs::stayWhenAnotherLocaleBecomesTheDefault()
+void TestCatalogs::stayWhenAnotherLocaleBecomesTheDefault()
 {
     Locale::setDefault(withPlanets("en_GB"));
     Locale::setDefault(Locale(u"de_DE"_qs));
     QCOMPARE(qtTrId("planet_earth"), u"Erde"_qs);
 }
 
-void tst_Catalogs::installingTwiceChangesNothing()
+void TestCatalogs::installingTwiceChangesNothing()
 {
     Locale::setDefault(withPlanets("de_DE"));
     LanguageChanges changes;
@@ -156,7 +156,7 @@ void tst_Catalogs::installingTwiceChangesNothing()
     QCOMPARE(qtTrId("planet_earth"), u"Erde"_qs);
 }
 
-void tst_Catalogs::looksInTheDataFoldersToo()
+void TestCatalogs::looksInTheDataFoldersToo()
 {
     const QString folder
         = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/clock/translations";
@@ -167,10 +167,10 @@ void tst_Catalogs::looksInTheDataFoldersToo()
     QCOMPARE(qtTrId("planet_earth"), u"Erde"_qs);
 }
 
-void tst_Catalogs::tellsThatThereIsNone()
+void TestCatalogs::tellsThatThereIsNone()
 {
     QVERIFY(!Locale::getDefault().installTrCatalog(u"comets"_qs));
 }
 
-QTEST_GUILESS_MAIN(tst_Catalogs)
+QTEST_GUILESS_MAIN(TestCatalogs)
 #include "tst_catalogs.moc"

@@ -35,7 +35,7 @@ QString time()
 
 } // namespace
 
-class tst_DesktopSettings : public QObject
+class TestDesktopSettings : public QObject
 {
     Q_OBJECT
 
@@ -55,7 +55,7 @@ private:
     std::unique_ptr<Support::SettingsPortal> m_portal;
 };
 
-QDBusMessage tst_DesktopSettings::read(const QString &group, const QString &key)
+QDBusMessage TestDesktopSettings::read(const QString &group, const QString &key)
 {
     auto result = QDBusMessage::createMethodCall(portalName, u"/org/freedesktop/portal/desktop"_qs,
                                                  u"org.freedesktop.portal.Settings"_qs, u"Read"_qs);
@@ -63,14 +63,14 @@ QDBusMessage tst_DesktopSettings::read(const QString &group, const QString &key)
     return result;
 }
 
-bool tst_DesktopSettings::write(const QByteArray &settings)
+bool TestDesktopSettings::write(const QByteArray &settings)
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/Korvo";
     QFile file(folder + "/Locale.conf");
     return QDir().mkpath(folder) && file.open(QIODevice::WriteOnly) && file.write(settings) == settings.size();
 }
 
-void tst_DesktopSettings::initTestCase()
+void TestDesktopSettings::initTestCase()
 {
     QVERIFY(m_bus.isRunning());
     Locale::setDefault(Locale(u"de_DE"_qs));
@@ -80,7 +80,7 @@ void tst_DesktopSettings::initTestCase()
     m_portal->set(desktop, clockFormat, u"12h"_qs);
 }
 
-void tst_DesktopSettings::takesTheDesktopsHoursOnceThePortalIsThere()
+void TestDesktopSettings::takesTheDesktopsHoursOnceThePortalIsThere()
 {
     QCOMPARE(time(), u"13:05"_qs);
     QSignalSpy spy(&Locale::getDefault(), &Locale::settingsChanged);
@@ -91,7 +91,7 @@ void tst_DesktopSettings::takesTheDesktopsHoursOnceThePortalIsThere()
     QCOMPARE(spy.count(), 1);
 }
 
-void tst_DesktopSettings::tellsEachChangeOnce()
+void TestDesktopSettings::tellsEachChangeOnce()
 {
     QSignalSpy spy(&Locale::getDefault(), &Locale::settingsChanged);
     m_portal->set(desktop, clockFormat, u"24h"_qs);
@@ -111,7 +111,7 @@ void tst_DesktopSettings::tellsEachChangeOnce()
     QCOMPARE(Locale().timeFormat24h(), Locale::LocaleDefault);
 }
 
-void tst_DesktopSettings::asksAPortalThatStartsAgain()
+void TestDesktopSettings::asksAPortalThatStartsAgain()
 {
     QSignalSpy spy(&Locale::getDefault(), &Locale::settingsChanged);
     QVERIFY(m_portal->stop());
@@ -123,7 +123,7 @@ void tst_DesktopSettings::asksAPortalThatStartsAgain()
     QCOMPARE(Locale().timeFormat24h(), Locale::TwelveHour);
 }
 
-void tst_DesktopSettings::theFileWins()
+void TestDesktopSettings::theFileWins()
 {
     QSignalSpy spy(&Locale::getDefault(), &Locale::settingsChanged);
     QVERIFY(write("timeFormat=24\n"));
@@ -143,7 +143,7 @@ void tst_DesktopSettings::theFileWins()
     QCOMPARE(Locale().timeFormat24h(), Locale::TwelveHour);
 }
 
-void tst_DesktopSettings::anAnswerIsOlderThanTheChangesBehindIt()
+void TestDesktopSettings::anAnswerIsOlderThanTheChangesBehindIt()
 {
     QVERIFY(m_portal->stop());
     QVERIFY(Support::PrivateBus::waitForService(portalName, false));
@@ -176,5 +176,5 @@ void tst_DesktopSettings::anAnswerIsOlderThanTheChangesBehindIt()
     QCOMPARE(received[1][0].toString(), u"24h"_qs);
 }
 
-QTEST_GUILESS_MAIN(tst_DesktopSettings)
+QTEST_GUILESS_MAIN(TestDesktopSettings)
 #include "tst_desktopsettings.moc"

@@ -7,7 +7,7 @@
 
 using Touch::Locale;
 
-class tst_Locale : public QObject
+class TestLocale : public QObject
 {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ private Q_SLOTS:
     void hasTheValuesThatCallersCountOn();
 };
 
-void tst_Locale::knowsScriptsAndDirection_data()
+void TestLocale::knowsScriptsAndDirection_data()
 {
     QTest::addColumn<QString>("scripts");
     QTest::addColumn<Qt::LayoutDirection>("direction");
@@ -44,7 +44,7 @@ void tst_Locale::knowsScriptsAndDirection_data()
     QTest::newRow("sr_Latn_RS") << "Latn" << Qt::LeftToRight;
 }
 
-void tst_Locale::knowsScriptsAndDirection()
+void TestLocale::knowsScriptsAndDirection()
 {
     QFETCH(QString, scripts);
     QFETCH(Qt::LayoutDirection, direction);
@@ -53,7 +53,7 @@ void tst_Locale::knowsScriptsAndDirection()
     QCOMPARE(locale.textDirection(), direction);
 }
 
-void tst_Locale::findsTheDirectionOfAText_data()
+void TestLocale::findsTheDirectionOfAText_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<Qt::LayoutDirection>("direction");
@@ -65,14 +65,14 @@ void tst_Locale::findsTheDirectionOfAText_data()
     QTest::newRow("latin before arabic") << u"a م"_qs << Qt::LeftToRight;
 }
 
-void tst_Locale::findsTheDirectionOfAText()
+void TestLocale::findsTheDirectionOfAText()
 {
     QFETCH(QString, text);
     QFETCH(Qt::LayoutDirection, direction);
     QCOMPARE(Locale::directionForText(text), direction);
 }
 
-void tst_Locale::takesNamesApart_data()
+void TestLocale::takesNamesApart_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("script");
@@ -94,7 +94,7 @@ void tst_Locale::takesNamesApart_data()
                                 << "RS";
 }
 
-void tst_Locale::takesNamesApart()
+void TestLocale::takesNamesApart()
 {
     QFETCH(QString, language);
     QFETCH(QString, script);
@@ -108,7 +108,7 @@ void tst_Locale::takesNamesApart()
     QCOMPARE(int(Locale::TimeMedium), 2);
 }
 
-void tst_Locale::writesCapitalsByTheRulesOfTheLanguage()
+void TestLocale::writesCapitalsByTheRulesOfTheLanguage()
 {
     QCOMPARE(Locale(u"en_US"_qs).toUpper(u"i"_qs), u"I"_qs);
     QCOMPARE(Locale(u"tr_TR"_qs).toUpper(u"i"_qs), u"İ"_qs);
@@ -116,7 +116,7 @@ void tst_Locale::writesCapitalsByTheRulesOfTheLanguage()
     QCOMPARE(Locale(u"de_DE"_qs).toUpper(QString()), QString());
 }
 
-void tst_Locale::namesHourAndMinute()
+void TestLocale::namesHourAndMinute()
 {
     QCOMPARE(Locale(u"en_US"_qs).timeFieldName(Locale::HourField), u"hour"_qs);
     QCOMPARE(Locale(u"en_US"_qs).timeFieldName(Locale::MinuteField), u"minute"_qs);
@@ -124,7 +124,7 @@ void tst_Locale::namesHourAndMinute()
     QCOMPARE(Locale(u"ar_EG"_qs).timeFieldName(Locale::MinuteField), u"الدقائق"_qs);
 }
 
-void tst_Locale::tellsWhenTheTimeFormatIsSet()
+void TestLocale::tellsWhenTheTimeFormatIsSet()
 {
     Locale locale(u"de_DE"_qs);
     QSignalSpy spy(&locale, &Locale::settingsChanged);
@@ -134,7 +134,7 @@ void tst_Locale::tellsWhenTheTimeFormatIsSet()
     QCOMPARE(spy.count(), 1);
 }
 
-void tst_Locale::copiesAreIndependent()
+void TestLocale::copiesAreIndependent()
 {
     Locale locale(u"de_DE"_qs);
     const Locale copy(locale);
@@ -145,7 +145,7 @@ void tst_Locale::copiesAreIndependent()
     QCOMPARE(locale.language(), u"fi"_qs);
 }
 
-void tst_Locale::tellsWhenTheDefaultIsReplaced()
+void TestLocale::tellsWhenTheDefaultIsReplaced()
 {
     QSignalSpy spy(&Locale::getDefault(), &Locale::settingsChanged);
     Locale::setDefault(Locale(u"fi_FI"_qs));
@@ -157,11 +157,11 @@ void tst_Locale::tellsWhenTheDefaultIsReplaced()
     QCOMPARE(spy.count(), 1);
 }
 
-void tst_Locale::hasTheValuesThatCallersCountOn()
+void TestLocale::hasTheValuesThatCallersCountOn()
 {
     QCOMPARE(int(Locale::TimeCategory), 1);
     QCOMPARE(int(Locale::TimeMedium), 2);
 }
 
-QTEST_GUILESS_MAIN(tst_Locale)
+QTEST_GUILESS_MAIN(TestLocale)
 #include "tst_locale.moc"

@@ -24,7 +24,7 @@ QString ownPattern(const icu::Locale &locale, icu::DateFormat::EStyle time)
 
 } // namespace
 
-class tst_LocaleFormats : public QObject
+class TestLocaleFormats : public QObject
 {
     Q_OBJECT
 
@@ -47,7 +47,7 @@ private Q_SLOTS:
     void replacesDirectives();
 };
 
-void tst_LocaleFormats::hasTheTimePatternOfTheLocale_data()
+void TestLocaleFormats::hasTheTimePatternOfTheLocale_data()
 {
     QTest::addColumn<QString>("usual");
     QTest::addColumn<QString>("twelve");
@@ -101,7 +101,7 @@ void tst_LocaleFormats::hasTheTimePatternOfTheLocale_data()
                            << "HH:mm:ss";
 }
 
-void tst_LocaleFormats::hasTheTimePatternOfTheLocale()
+void TestLocaleFormats::hasTheTimePatternOfTheLocale()
 {
     QFETCH(QString, usual);
     QFETCH(QString, twelve);
@@ -121,7 +121,7 @@ void tst_LocaleFormats::hasTheTimePatternOfTheLocale()
     QVERIFY(!locale.isTwelveHour());
 }
 
-void tst_LocaleFormats::usesIcusOwnPatternsInEveryLocale()
+void TestLocaleFormats::usesIcusOwnPatternsInEveryLocale()
 {
     int count = 0;
     const icu::Locale *all = icu::Locale::getAvailableLocales(count);
@@ -138,7 +138,7 @@ void tst_LocaleFormats::usesIcusOwnPatternsInEveryLocale()
     }
 }
 
-void tst_LocaleFormats::formatsTheTimeInTheUsersHours_data()
+void TestLocaleFormats::formatsTheTimeInTheUsersHours_data()
 {
     QTest::addColumn<QString>("twelve");
     QTest::addColumn<QString>("twentyFour");
@@ -167,7 +167,7 @@ void tst_LocaleFormats::formatsTheTimeInTheUsersHours_data()
                            << "13:05";
 }
 
-void tst_LocaleFormats::formatsTheTimeInTheUsersHours()
+void TestLocaleFormats::formatsTheTimeInTheUsersHours()
 {
     QFETCH(QString, twelve);
     QFETCH(QString, twentyFour);
@@ -181,7 +181,7 @@ void tst_LocaleFormats::formatsTheTimeInTheUsersHours()
     QCOMPARE(time(), twentyFour);
 }
 
-void tst_LocaleFormats::convertsTheTimeBesideADate()
+void TestLocaleFormats::convertsTheTimeBesideADate()
 {
     Locale german(u"de_DE"_qs);
     const auto text = [&german] {
@@ -194,7 +194,7 @@ void tst_LocaleFormats::convertsTheTimeBesideADate()
     QCOMPARE(german.formatDateTime(afternoon, Locale::DateNone, Locale::TimeNone), QString());
 }
 
-void tst_LocaleFormats::startsTimesOfIranWithARightToLeftMark()
+void TestLocaleFormats::startsTimesOfIranWithARightToLeftMark()
 {
     // Without a country the language decides.
     const Locale persian(u"fa"_qs);
@@ -204,7 +204,7 @@ void tst_LocaleFormats::startsTimesOfIranWithARightToLeftMark()
     QCOMPARE(Locale(u"fa_AF"_qs).icuFormatString(Locale::DateNone, Locale::TimeShort), u"H:mm"_qs);
 }
 
-void tst_LocaleFormats::formatsFieldsWhateverTheZone_data()
+void TestLocaleFormats::formatsFieldsWhateverTheZone_data()
 {
     QTest::addColumn<QDateTime>("dateTime");
     const QDate date(2026, 3, 9);
@@ -216,13 +216,13 @@ void tst_LocaleFormats::formatsFieldsWhateverTheZone_data()
     QTest::newRow("the day the clocks change") << QDateTime(QDate(2026, 3, 8), time, QTimeZone("America/New_York"));
 }
 
-void tst_LocaleFormats::formatsFieldsWhateverTheZone()
+void TestLocaleFormats::formatsFieldsWhateverTheZone()
 {
     QFETCH(QDateTime, dateTime);
     QCOMPARE(Locale(u"de_DE"_qs).formatDateTimeICU(dateTime, u"HH:mm"_qs), u"08:05"_qs);
 }
 
-void tst_LocaleFormats::namesTheZoneOfTheDateTime()
+void TestLocaleFormats::namesTheZoneOfTheDateTime()
 {
     const Locale english(u"en_GB"_qs);
     const QDateTime offset(QDate(2026, 3, 9), QTime(8, 5), Qt::OffsetFromUTC, 5 * 3600 + 45 * 60);
@@ -232,14 +232,14 @@ void tst_LocaleFormats::namesTheZoneOfTheDateTime()
     QCOMPARE(english.formatDateTimeICU(berlin, u"HH 'x' mm"_qs), u"08 x 05"_qs);
 }
 
-void tst_LocaleFormats::formatsNothingForAnInvalidDateTime()
+void TestLocaleFormats::formatsNothingForAnInvalidDateTime()
 {
     const Locale english(u"en_GB"_qs);
     QCOMPARE(english.formatDateTime(QDateTime()), QString());
     QCOMPARE(english.formatDateTimeICU(QDateTime(), u"HH:mm"_qs), QString());
 }
 
-void tst_LocaleFormats::countsByTheCalendarAskedFor()
+void TestLocaleFormats::countsByTheCalendarAskedFor()
 {
     const Locale thai(u"th_TH"_qs);
     QVERIFY(thai.formatDateTime(afternoon, Locale::DateLong, Locale::TimeNone).contains(u"2569"));
@@ -248,7 +248,7 @@ void tst_LocaleFormats::countsByTheCalendarAskedFor()
     QVERIFY2(gregorian.contains(u"2026"), qPrintable(gregorian));
 }
 
-void tst_LocaleFormats::arrangesFieldsAsTheLocaleDoes_data()
+void TestLocaleFormats::arrangesFieldsAsTheLocaleDoes_data()
 {
     QTest::addColumn<QString>("date");
     QTest::newRow("en_US") << "Monday, March 9";
@@ -258,14 +258,14 @@ void tst_LocaleFormats::arrangesFieldsAsTheLocaleDoes_data()
     QTest::newRow("fa_IR") << u"دوشنبه ۱۸ اسفند"_qs;
 }
 
-void tst_LocaleFormats::arrangesFieldsAsTheLocaleDoes()
+void TestLocaleFormats::arrangesFieldsAsTheLocaleDoes()
 {
     QFETCH(QString, date);
     const Locale locale(QString::fromLatin1(QTest::currentDataTag()));
     QCOMPARE(locale.formatDateTimeICU(afternoon, locale.icuFormatString(u"MMMMEEEEd"_qs)), date);
 }
 
-void tst_LocaleFormats::replacesDirectives_data()
+void TestLocaleFormats::replacesDirectives_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("format");
@@ -312,7 +312,7 @@ void tst_LocaleFormats::replacesDirectives_data()
                              << "%Q'a'";
 }
 
-void tst_LocaleFormats::replacesDirectives()
+void TestLocaleFormats::replacesDirectives()
 {
     QFETCH(QString, locale);
     QFETCH(QString, format);
@@ -320,5 +320,5 @@ void tst_LocaleFormats::replacesDirectives()
     QCOMPARE(Locale(locale).formatDateTime(afternoon, format), text);
 }
 
-QTEST_GUILESS_MAIN(tst_LocaleFormats)
+QTEST_GUILESS_MAIN(TestLocaleFormats)
 #include "tst_localeformats.moc"

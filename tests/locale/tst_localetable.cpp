@@ -14,7 +14,7 @@ const QDateTime afternoon(QDate(2026, 3, 9), QTime(13, 5));
 } // namespace
 
 /// The sixteen locales that every operation is held to. Each row bears the name of its locale.
-class tst_LocaleTable : public QObject
+class TestLocaleTable : public QObject
 {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ private Q_SLOTS:
     void writesMinutes();
 };
 
-void tst_LocaleTable::writesTimesAndDates_data()
+void TestLocaleTable::writesTimesAndDates_data()
 {
     QTest::addColumn<QString>("am");
     QTest::addColumn<QString>("pm");
@@ -83,7 +83,7 @@ void tst_LocaleTable::writesTimesAndDates_data()
                            << "13:05" << u"понедельник, 9 марта 2026\u202Fг."_qs;
 }
 
-void tst_LocaleTable::writesTimesAndDates()
+void TestLocaleTable::writesTimesAndDates()
 {
     Locale locale(QString::fromLatin1(QTest::currentDataTag()));
     QTEST(locale.formatDateTime(morning, u"%p"_qs), "am");
@@ -97,7 +97,7 @@ void tst_LocaleTable::writesTimesAndDates()
     QTEST(locale.formatDateTime(afternoon, Locale::DateFull, Locale::TimeNone), "date");
 }
 
-void tst_LocaleTable::writesNumbersAndLetters_data()
+void TestLocaleTable::writesNumbersAndLetters_data()
 {
     QTest::addColumn<QString>("zero");
     QTest::addColumn<QString>("number");
@@ -127,7 +127,7 @@ void tst_LocaleTable::writesNumbersAndLetters_data()
     row("ru_RU", "0", u"1\u00A0234\u00A0567"_qs, "I", "Cyrl", "Cyrl", Qt::LeftToRight);
 }
 
-void tst_LocaleTable::writesNumbersAndLetters()
+void TestLocaleTable::writesNumbersAndLetters()
 {
     const QString name = QString::fromLatin1(QTest::currentDataTag());
     const Locale locale(name);
@@ -141,7 +141,7 @@ void tst_LocaleTable::writesNumbersAndLetters()
     QCOMPARE(locale.language(), name.left(2));
 }
 
-void tst_LocaleTable::writesMinutes_data()
+void TestLocaleTable::writesMinutes_data()
 {
     QTest::addColumn<QString>("minutes");
     QTest::newRow("en_US") << "5 min";
@@ -153,10 +153,10 @@ void tst_LocaleTable::writesMinutes_data()
     QTest::newRow("ru_RU") << u"5 мин"_qs;
 }
 
-void tst_LocaleTable::writesMinutes()
+void TestLocaleTable::writesMinutes()
 {
     QTEST(Locale(QString::fromLatin1(QTest::currentDataTag())).formatMinutes(5), "minutes");
 }
 
-QTEST_GUILESS_MAIN(tst_LocaleTable)
+QTEST_GUILESS_MAIN(TestLocaleTable)
 #include "tst_localetable.moc"

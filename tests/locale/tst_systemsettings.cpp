@@ -39,7 +39,7 @@ void setEnvironment(const QByteArrayList &assignments)
 
 } // namespace
 
-class tst_SystemSettings : public QObject
+class TestSystemSettings : public QObject
 {
     Q_OBJECT
 
@@ -59,7 +59,7 @@ private:
 };
 
 // The settings are read when the process starts and when the file changes: each row changes the file.
-void tst_SystemSettings::changeFile(const QByteArray &content)
+void TestSystemSettings::changeFile(const QByteArray &content)
 {
     Touch::SystemSettings &system = Touch::SystemSettings::instance();
     QSignalSpy spy(&system, &Touch::SystemSettings::changed);
@@ -67,7 +67,7 @@ void tst_SystemSettings::changeFile(const QByteArray &content)
     QVERIFY(spy.wait());
 }
 
-void tst_SystemSettings::initTestCase()
+void TestSystemSettings::initTestCase()
 {
     setEnvironment({"LANG=en_GB.UTF-8"});
     // Watches from before the folder exists.
@@ -77,14 +77,14 @@ void tst_SystemSettings::initTestCase()
     QCOMPARE(Locale().language(), u"sv"_qs);
 }
 
-void tst_SystemSettings::cleanup()
+void TestSystemSettings::cleanup()
 {
     setEnvironment({"LANG=en_GB.UTF-8"});
     if (Locale().categoryName(Locale::TimeCategory) != u"sv_SE")
         changeFile("language=sv_SE\n");
 }
 
-void tst_SystemSettings::readsPosixNames_data()
+void TestSystemSettings::readsPosixNames_data()
 {
     QTest::addColumn<QByteArray>("icu");
     QTest::newRow("de_DE.UTF-8") << QByteArray("de_DE");
@@ -100,13 +100,13 @@ void tst_SystemSettings::readsPosixNames_data()
     QTest::newRow("") << QByteArray("en_US_POSIX");
 }
 
-void tst_SystemSettings::readsPosixNames()
+void TestSystemSettings::readsPosixNames()
 {
     QFETCH(QByteArray, icu);
     QCOMPARE(Touch::icuLocaleName(QTest::currentDataTag()), icu);
 }
 
-void tst_SystemSettings::takesCategoriesFromEnvironmentAndFile_data()
+void TestSystemSettings::takesCategoriesFromEnvironmentAndFile_data()
 {
     QTest::addColumn<QByteArrayList>("environment");
     QTest::addColumn<QByteArray>("file");
@@ -145,7 +145,7 @@ void tst_SystemSettings::takesCategoriesFromEnvironmentAndFile_data()
                                  << Names{"en_US", "en_US", "en_US"} << Locale::LocaleDefault;
 }
 
-void tst_SystemSettings::takesCategoriesFromEnvironmentAndFile()
+void TestSystemSettings::takesCategoriesFromEnvironmentAndFile()
 {
     QFETCH(QByteArrayList, environment);
     QFETCH(QByteArray, file);
@@ -161,7 +161,7 @@ void tst_SystemSettings::takesCategoriesFromEnvironmentAndFile()
     QCOMPARE(Locale::getDefault().categoryName(Locale::TimeCategory), names[1]);
 }
 
-void tst_SystemSettings::tellsEachChangeOfTheFileOnce()
+void TestSystemSettings::tellsEachChangeOfTheFileOnce()
 {
     Locale locale;
     locale.connectSettings();
@@ -185,7 +185,7 @@ void tst_SystemSettings::tellsEachChangeOfTheFileOnce()
     QCOMPARE(locale.language(), u"en"_qs);
 }
 
-void tst_SystemSettings::aFixedLocaleFollowsTheTimeFormatAlone()
+void TestSystemSettings::aFixedLocaleFollowsTheTimeFormatAlone()
 {
     Locale locale(u"de_DE"_qs);
     locale.connectSettings();
@@ -198,7 +198,7 @@ void tst_SystemSettings::aFixedLocaleFollowsTheTimeFormatAlone()
     QCOMPARE(locale.timeFormat24h(), Locale::TwelveHour);
 }
 
-void tst_SystemSettings::aLocaleThatIsNotConnectedFollowsNothing()
+void TestSystemSettings::aLocaleThatIsNotConnectedFollowsNothing()
 {
     const Locale locale;
     changeFile("language=ja_JP\ntimeFormat=12\n");
@@ -206,5 +206,5 @@ void tst_SystemSettings::aLocaleThatIsNotConnectedFollowsNothing()
     QCOMPARE(locale.timeFormat24h(), Locale::LocaleDefault);
 }
 
-QTEST_GUILESS_MAIN(tst_SystemSettings)
+QTEST_GUILESS_MAIN(TestSystemSettings)
 #include "tst_systemsettings.moc"

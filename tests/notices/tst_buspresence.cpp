@@ -28,7 +28,7 @@ QDBusMessage question()
 
 } // namespace
 
-class BusPresenceTest : public QObject
+class TestBusPresence : public QObject
 {
     Q_OBJECT
 
@@ -45,18 +45,18 @@ private:
     std::unique_ptr<Support::PrivateBus> m_bus;
 };
 
-void BusPresenceTest::initTestCase()
+void TestBusPresence::initTestCase()
 {
     m_bus = std::make_unique<Support::PrivateBus>();
     QVERIFY(m_bus->isRunning());
 }
 
-void BusPresenceTest::cleanup()
+void TestBusPresence::cleanup()
 {
     bus().unregisterService(Service);
 }
 
-void BusPresenceTest::serviceThatIsThereAppearsOnce()
+void TestBusPresence::serviceThatIsThereAppearsOnce()
 {
     QVERIFY(bus().registerService(Service));
     const BusPresence presence(Service, bus());
@@ -69,7 +69,7 @@ void BusPresenceTest::serviceThatIsThereAppearsOnce()
     QCOMPARE(appeared.count(), 1);
 }
 
-void BusPresenceTest::tellsWhoComesAndGoes()
+void TestBusPresence::tellsWhoComesAndGoes()
 {
     const BusPresence presence(Service, bus());
     QSignalSpy appeared(&presence, &BusPresence::appeared);
@@ -84,7 +84,7 @@ void BusPresenceTest::tellsWhoComesAndGoes()
     }
 }
 
-void BusPresenceTest::isKnownBeforeWhatWasAskedLater()
+void TestBusPresence::isKnownBeforeWhatWasAskedLater()
 {
     QVERIFY(bus().registerService(Service));
     std::optional<Support::AnswersFirst> busyMachine(std::in_place);
@@ -103,5 +103,5 @@ void BusPresenceTest::isKnownBeforeWhatWasAskedLater()
     QVERIFY(wasKnown);
 }
 
-QTEST_GUILESS_MAIN(BusPresenceTest)
+QTEST_GUILESS_MAIN(TestBusPresence)
 #include "tst_buspresence.moc"

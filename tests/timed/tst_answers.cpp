@@ -8,7 +8,7 @@
 using namespace Astel::Timed;
 
 /** What becomes of a ringing event by an answer, or for want of one, with time in the test's hand. */
-class tst_Answers : public QObject
+class TestAnswers : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private slots:
     void twoEventsOfOneMinuteAreAnsweredOneByOne();
 };
 
-void tst_Answers::snoozeLastsAsAsked_data()
+void TestAnswers::snoozeLastsAsAsked_data()
 {
     QTest::addColumn<quint32>("flags");
     QTest::addColumn<qint64>("answeredAfter");
@@ -38,7 +38,7 @@ void tst_Answers::snoozeLastsAsAsked_data()
     QTest::newRow("aligned, whole already") << quint32(Wire::AlignedSnooze) << qint64(0) << 300u << Seven + 5 * Minute;
 }
 
-void tst_Answers::snoozeLastsAsAsked()
+void TestAnswers::snoozeLastsAsAsked()
 {
     QFETCH(quint32, flags);
     QFETCH(qint64, answeredAfter);
@@ -63,7 +63,7 @@ void tst_Answers::snoozeLastsAsAsked()
     QCOMPARE(world.moment(cookie), std::optional(Seven + Day));
 }
 
-void tst_Answers::snoozeNeedsALengthAndARingingEvent()
+void TestAnswers::snoozeNeedsALengthAndARingingEvent()
 {
     World world(Seven - Hour);
     const quint32 waiting = world.add(daily(8, 0));
@@ -83,7 +83,7 @@ void tst_Answers::snoozeNeedsALengthAndARingingEvent()
     QCOMPARE(world.state(noButton), State::Triggered);
 }
 
-void tst_Answers::buttonDoesWhatItsNumberSays_data()
+void TestAnswers::buttonDoesWhatItsNumberSays_data()
 {
     QTest::addColumn<quint32>("flags");
     QTest::addColumn<quint32>("button");
@@ -98,7 +98,7 @@ void tst_Answers::buttonDoesWhatItsNumberSays_data()
     QTest::newRow("aligned") << aligned << 3u << State::Snoozed << Seven + 6 * Minute << "snooze of 300 s by user";
 }
 
-void tst_Answers::buttonDoesWhatItsNumberSays()
+void TestAnswers::buttonDoesWhatItsNumberSays()
 {
     QFETCH(quint32, flags);
     QFETCH(quint32, button);
@@ -122,7 +122,7 @@ void tst_Answers::buttonDoesWhatItsNumberSays()
     QCOMPARE(world.store.entries.last().detail, answer);
 }
 
-void tst_Answers::buttonNeedsANumberAndARingingEvent()
+void TestAnswers::buttonNeedsANumberAndARingingEvent()
 {
     World world(Seven - Hour);
     const quint32 cookie = world.add(daily7());
@@ -139,7 +139,7 @@ void tst_Answers::buttonNeedsANumberAndARingingEvent()
     QCOMPARE(world.state(cookie), State::Snoozed);
 }
 
-void tst_Answers::unansweredRingingSnoozesUntilItsCounterIsUsedUp()
+void TestAnswers::unansweredRingingSnoozesUntilItsCounterIsUsedUp()
 {
     World world(Seven - Hour);
     Wire::Event event = daily7();
@@ -166,7 +166,7 @@ void tst_Answers::unansweredRingingSnoozesUntilItsCounterIsUsedUp()
     QCOMPARE(world.moment(cookie), std::optional(Seven + Day));
 }
 
-void tst_Answers::answeringBeginsTheCounterAgain()
+void TestAnswers::answeringBeginsTheCounterAgain()
 {
     World world(Seven - Hour);
     Wire::Event event = daily7();
@@ -182,7 +182,7 @@ void tst_Answers::answeringBeginsTheCounterAgain()
     QVERIFY(!world.store.words().contains("missed"));
 }
 
-void tst_Answers::snoozedEventCanBeDismissed()
+void TestAnswers::snoozedEventCanBeDismissed()
 {
     World world(Seven - Hour);
     const quint32 cookie = world.add(daily7(Wire::SingleShot | Wire::KeepAlive));
@@ -195,7 +195,7 @@ void tst_Answers::snoozedEventCanBeDismissed()
     QVERIFY(world.ringer.rung.isEmpty());
 }
 
-void tst_Answers::twoEventsOfOneMinuteAreAnsweredOneByOne()
+void TestAnswers::twoEventsOfOneMinuteAreAnsweredOneByOne()
 {
     World world(Seven - Hour);
     const quint32 one = world.add(daily7());
@@ -212,5 +212,5 @@ void tst_Answers::twoEventsOfOneMinuteAreAnsweredOneByOne()
     QCOMPARE(world.state(two), State::Snoozed);
 }
 
-QTEST_GUILESS_MAIN(tst_Answers)
+QTEST_GUILESS_MAIN(TestAnswers)
 #include "tst_answers.moc"

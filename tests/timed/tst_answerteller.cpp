@@ -38,7 +38,7 @@ struct Told
 } // namespace
 
 /** What the user is shown of an alarm after the answer. */
-class tst_AnswerTeller : public QObject
+class TestAnswerTeller : public QObject
 {
     Q_OBJECT
 
@@ -56,14 +56,14 @@ private slots:
     void onlyItsOwnActionsCount();
 };
 
-void tst_AnswerTeller::initTestCase()
+void TestAnswerTeller::initTestCase()
 {
     // Whatever the language of the machine.
     Touch::Locale::setDefault(Touch::Locale(QStringLiteral("en_GB")));
     NoticeTexts::install();
 }
 
-void tst_AnswerTeller::snoozedAlarmSaysWhenItRingsAgain()
+void TestAnswerTeller::snoozedAlarmSaysWhenItRingsAgain()
 {
     Told alarm;
     auto &[world, notifier, teller, cookie] = alarm;
@@ -76,7 +76,7 @@ void tst_AnswerTeller::snoozedAlarmSaysWhenItRingsAgain()
     QCOMPARE(notifier.notices[0].urgency, Notice::Urgency::Low);
 }
 
-void tst_AnswerTeller::noticeOfASnoozeStopsIt()
+void TestAnswerTeller::noticeOfASnoozeStopsIt()
 {
     Told alarm;
     auto &[world, notifier, teller, cookie] = alarm;
@@ -87,7 +87,7 @@ void tst_AnswerTeller::noticeOfASnoozeStopsIt()
     QCOMPARE(notifier.closed, QStringList(notifier.notices[0].tag));
 }
 
-void tst_AnswerTeller::noticeOfASnoozeGoesWhenItRings()
+void TestAnswerTeller::noticeOfASnoozeGoesWhenItRings()
 {
     Told alarm;
     auto &[world, notifier, teller, cookie] = alarm;
@@ -97,7 +97,7 @@ void tst_AnswerTeller::noticeOfASnoozeGoesWhenItRings()
     QCOMPARE(notifier.closed, QStringList(notifier.notices[0].tag));
 }
 
-void tst_AnswerTeller::noticeOfASnoozeOutlivesTheDaemon()
+void TestAnswerTeller::noticeOfASnoozeOutlivesTheDaemon()
 {
     World world(Seven - Minute);
     const quint32 cookie = world.add(wakeUp(Wire::KeepAlive));
@@ -114,7 +114,7 @@ void tst_AnswerTeller::noticeOfASnoozeOutlivesTheDaemon()
     QCOMPARE(notifier.notices[1].tag, notifier.notices[0].tag);
 }
 
-void tst_AnswerTeller::stoppedAlarmRingsAgainWhenAskedFor_data()
+void TestAnswerTeller::stoppedAlarmRingsAgainWhenAskedFor_data()
 {
     QTest::addColumn<quint32>("flags");
     QTest::newRow("recurring") << quint32(Wire::KeepAlive);
@@ -122,7 +122,7 @@ void tst_AnswerTeller::stoppedAlarmRingsAgainWhenAskedFor_data()
     QTest::newRow("single shot, stored no more") << quint32(Wire::SingleShot);
 }
 
-void tst_AnswerTeller::stoppedAlarmRingsAgainWhenAskedFor()
+void TestAnswerTeller::stoppedAlarmRingsAgainWhenAskedFor()
 {
     QFETCH(quint32, flags);
     Told alarm(flags);
@@ -143,7 +143,7 @@ void tst_AnswerTeller::stoppedAlarmRingsAgainWhenAskedFor()
     QCOMPARE(world.state(cookie), State::Triggered);
 }
 
-void tst_AnswerTeller::offerGoesWithTheAlarm()
+void TestAnswerTeller::offerGoesWithTheAlarm()
 {
     Told alarm;
     auto &[world, notifier, teller, cookie] = alarm;
@@ -154,7 +154,7 @@ void tst_AnswerTeller::offerGoesWithTheAlarm()
     QVERIFY(!world.parts->book.find(cookie));
 }
 
-void tst_AnswerTeller::offerIsForOneTime()
+void TestAnswerTeller::offerIsForOneTime()
 {
     Told alarm;
     auto &[world, notifier, teller, cookie] = alarm;
@@ -166,7 +166,7 @@ void tst_AnswerTeller::offerIsForOneTime()
     QCOMPARE(world.moment(cookie), Seven + 5 * Minute);
 }
 
-void tst_AnswerTeller::offerEndsWhenItsTimeIsOver()
+void TestAnswerTeller::offerEndsWhenItsTimeIsOver()
 {
     QCOMPARE(AnswerTeller::TimeToTakeBack, std::chrono::milliseconds(5 * Minute));
     World world(Seven - Minute);
@@ -183,7 +183,7 @@ void tst_AnswerTeller::offerEndsWhenItsTimeIsOver()
     QCOMPARE(world.moment(cookie), Seven + Day);
 }
 
-void tst_AnswerTeller::onlyItsOwnActionsCount()
+void TestAnswerTeller::onlyItsOwnActionsCount()
 {
     Told alarm;
     auto &[world, notifier, teller, cookie] = alarm;
@@ -194,5 +194,5 @@ void tst_AnswerTeller::onlyItsOwnActionsCount()
     QCOMPARE(world.state(cookie), State::Snoozed);
 }
 
-QTEST_GUILESS_MAIN(tst_AnswerTeller)
+QTEST_GUILESS_MAIN(TestAnswerTeller)
 #include "tst_answerteller.moc"

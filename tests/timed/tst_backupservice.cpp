@@ -23,7 +23,7 @@ Wire::Event titled(Wire::Event event, const QString &title)
 } // namespace
 
 /** The records that a backup takes, put into the same daemon or a fresh one, with time in the test's hand. */
-class tst_BackupService : public QObject
+class TestBackupService : public QObject
 {
     Q_OBJECT
 
@@ -40,7 +40,7 @@ private slots:
     void aFullDiskLeavesEverythingAsItWas();
 };
 
-void tst_BackupService::takesTheEventsWithTheFlagAndHowTheyStand()
+void TestBackupService::takesTheEventsWithTheFlagAndHowTheyStand()
 {
     World world(utc("2026-11-20T05:00:00"));
     world.add(daily(7, 0, Kept));
@@ -59,7 +59,7 @@ void tst_BackupService::takesTheEventsWithTheFlagAndHowTheyStand()
     QCOMPARE(taken.records[1].moment, quint64(0));
 }
 
-void tst_BackupService::bringsAllBackIntoAnEmptyDaemon()
+void TestBackupService::bringsAllBackIntoAnEmptyDaemon()
 {
     World before(utc("2026-11-20T05:00:00"));
     before.add(daily(7, 0, Kept));
@@ -74,7 +74,7 @@ void tst_BackupService::bringsAllBackIntoAnEmptyDaemon()
     QCOMPARE(after.timer.armed, before.moment(1));
 }
 
-void tst_BackupService::storesNothingTwice()
+void TestBackupService::storesNothingTwice()
 {
     World world(utc("2026-11-20T05:00:00"));
     const quint32 first = world.add(daily(7, 0, Kept));
@@ -87,7 +87,7 @@ void tst_BackupService::storesNothingTwice()
     QCOMPARE(world.parts->book.events().size(), 2u);
 }
 
-void tst_BackupService::storesEqualEventsAsOftenAsTheyWere()
+void TestBackupService::storesEqualEventsAsOftenAsTheyWere()
 {
     World world(utc("2026-11-20T05:00:00"));
     world.add(daily(7, 0, Kept));
@@ -97,7 +97,7 @@ void tst_BackupService::storesEqualEventsAsOftenAsTheyWere()
     QCOMPARE(*world.parts->backup.restore(taken), (QList<quint32>{0, 0, 0}));
 }
 
-void tst_BackupService::putsASingleShotWhereItBelongs_data()
+void TestBackupService::putsASingleShotWhereItBelongs_data()
 {
     QTest::addColumn<quint32>("flags");
     QTest::addColumn<QString>("state");
@@ -127,7 +127,7 @@ void tst_BackupService::putsASingleShotWhereItBelongs_data()
     row("recurring, snoozed", Kept, "SNOOZED", now - Day, "WAITING", next);
 }
 
-void tst_BackupService::putsASingleShotWhereItBelongs()
+void TestBackupService::putsASingleShotWhereItBelongs()
 {
     QFETCH(const quint32, flags);
     QFETCH(const QString, state);
@@ -146,7 +146,7 @@ void tst_BackupService::putsASingleShotWhereItBelongs()
     QCOMPARE(*world.parts->backup.restore(records), QList<quint32>{0u});
 }
 
-void tst_BackupService::refusesAllForOneBadRecord_data()
+void TestBackupService::refusesAllForOneBadRecord_data()
 {
     QTest::addColumn<Wire::Record>("bad");
     QTest::addColumn<QString>("error");
@@ -160,7 +160,7 @@ void tst_BackupService::refusesAllForOneBadRecord_data()
                           << QString(Wire::LimitError);
 }
 
-void tst_BackupService::refusesAllForOneBadRecord()
+void TestBackupService::refusesAllForOneBadRecord()
 {
     QFETCH(const Wire::Record, bad);
     QFETCH(const QString, error);
@@ -173,7 +173,7 @@ void tst_BackupService::refusesAllForOneBadRecord()
     QCOMPARE(world.add(daily(7, 0)), 1u);
 }
 
-void tst_BackupService::staysWithinTheLimits()
+void TestBackupService::staysWithinTheLimits()
 {
     World world(utc("2026-11-20T05:00:00"));
     world.add(daily(6, 0));
@@ -194,7 +194,7 @@ void tst_BackupService::staysWithinTheLimits()
     QCOMPARE(world.parts->book.events().size(), 1u);
 }
 
-void tst_BackupService::aFullDiskLeavesEverythingAsItWas()
+void TestBackupService::aFullDiskLeavesEverythingAsItWas()
 {
     World world(utc("2026-11-20T05:00:00"));
     world.store.failing = true;
@@ -205,5 +205,5 @@ void tst_BackupService::aFullDiskLeavesEverythingAsItWas()
     QVERIFY(!world.timer.armed);
 }
 
-QTEST_GUILESS_MAIN(tst_BackupService)
+QTEST_GUILESS_MAIN(TestBackupService)
 #include "tst_backupservice.moc"

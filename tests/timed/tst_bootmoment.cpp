@@ -20,7 +20,7 @@ constexpr quint32 Boots = Wire::KeepAlive | Wire::Boot;
 } // namespace
 
 /** The file through which the system learns for when the device is to be turned on. */
-class tst_BootMoment : public QObject
+class TestBootMoment : public QObject
 {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ private:
     }
 };
 
-void tst_BootMoment::fileFollowsTheNextMoment()
+void TestBootMoment::fileFollowsTheNextMoment()
 {
     const QTemporaryDir folder;
     const QTemporaryDir clocks;
@@ -73,7 +73,7 @@ void tst_BootMoment::fileFollowsTheNextMoment()
     QTRY_COMPARE(content(folder), "none");
 }
 
-void tst_BootMoment::lastChangeIsWrittenAtTheEnd()
+void TestBootMoment::lastChangeIsWrittenAtTheEnd()
 {
     const QTemporaryDir folder;
     World world(Start);
@@ -86,7 +86,7 @@ void tst_BootMoment::lastChangeIsWrittenAtTheEnd()
     QCOMPARE(content(folder), QByteArray::number(Seven / 1000) + '\n');
 }
 
-void tst_BootMoment::missingFolderIsReported()
+void TestBootMoment::missingFolderIsReported()
 {
     World world(Start);
     BootMoment boot(world.parts->book, world.parts->schedule, world.clock, "/nonexistent", "/nonexistent");
@@ -103,7 +103,7 @@ void tst_BootMoment::missingFolderIsReported()
     QVERIFY(boot.facts().value("boot_reason").toString().startsWith("/nonexistent/"));
 }
 
-void tst_BootMoment::fullDiskIsReportedAndLeavesTheMomentOfBefore()
+void TestBootMoment::fullDiskIsReportedAndLeavesTheMomentOfBefore()
 {
     const QTemporaryDir folder;
     const QTemporaryDir clocks;
@@ -128,7 +128,7 @@ void tst_BootMoment::fullDiskIsReportedAndLeavesTheMomentOfBefore()
     QCOMPARE(content(folder), QByteArray::number((Seven - Hour / 2) / 1000) + '\n');
 }
 
-void tst_BootMoment::missingHardwareClockIsReported()
+void TestBootMoment::missingHardwareClockIsReported()
 {
     const QTemporaryDir folder;
     const QTemporaryDir clocks;
@@ -142,5 +142,5 @@ void tst_BootMoment::missingHardwareClockIsReported()
     QCOMPARE(boot.facts().value("boot_ready"), true);
 }
 
-QTEST_GUILESS_MAIN(tst_BootMoment)
+QTEST_GUILESS_MAIN(TestBootMoment)
 #include "tst_bootmoment.moc"

@@ -45,7 +45,7 @@ QDBusPendingCall restore(const QDBusConnection &client, const Wire::Records &rec
 } // namespace
 
 /** The object on the bus, in this process, with time in the test's hand. */
-class tst_BusService : public QObject
+class TestBusService : public QObject
 {
     Q_OBJECT
 
@@ -62,13 +62,13 @@ private:
     QDBusConnection m_client{"client"};
 };
 
-void tst_BusService::initTestCase()
+void TestBusService::initTestCase()
 {
     QVERIFY(m_bus.isRunning());
     m_client = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "client");
 }
 
-void tst_BusService::settingsChangedComesAfterThePublication_data()
+void TestBusService::settingsChangedComesAfterThePublication_data()
 {
     QTest::addColumn<QByteArray>("zone");
     QTest::addColumn<qint64>("jump");
@@ -79,7 +79,7 @@ void tst_BusService::settingsChangedComesAfterThePublication_data()
     QTest::newRow("clock, nothing changes") << QByteArray("Europe/Berlin") << Second << QStringList{"settings clock"};
 }
 
-void tst_BusService::settingsChangedComesAfterThePublication()
+void TestBusService::settingsChangedComesAfterThePublication()
 {
     QFETCH(QByteArray, zone);
     QFETCH(qint64, jump);
@@ -98,7 +98,7 @@ void tst_BusService::settingsChangedComesAfterThePublication()
     QTRY_COMPARE(watch.arrived, arrived);
 }
 
-void tst_BusService::eachRestoredEventIsAChangeOfItsOwn()
+void TestBusService::eachRestoredEventIsAChangeOfItsOwn()
 {
     World world(Start);
     world.add(daily(7, 0));
@@ -115,7 +115,7 @@ void tst_BusService::eachRestoredEventIsAChangeOfItsOwn()
     QCOMPARE(watch.lastMap.keys(), (QStringList{"1", "2", "4"}));
 }
 
-void tst_BusService::veryManyRestoredEventsArePublishedAtOnce()
+void TestBusService::veryManyRestoredEventsArePublishedAtOnce()
 {
     World world(Start);
     const Served served(world);
@@ -127,7 +127,7 @@ void tst_BusService::veryManyRestoredEventsArePublishedAtOnce()
     QTRY_COMPARE(watch.arrived, (QStringList{"reply", "published 501"}));
 }
 
-void tst_BusService::aRefusedRestorePublishesNothing()
+void TestBusService::aRefusedRestorePublishesNothing()
 {
     World world(Start);
     const Served served(world);
@@ -143,7 +143,7 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     Wire::registerTypes();
-    tst_BusService test;
+    TestBusService test;
     return QTest::qExec(&test, argc, argv);
 }
 #include "tst_busservice.moc"

@@ -13,7 +13,7 @@ const qint64 BuildDate = utc("2026-02-01T05:00:00");
 } // namespace
 
 /** A device without a battery for its clock starts when its system was built, and is told the time later. */
-class tst_ClockDoubt : public QObject
+class TestClockDoubt : public QObject
 {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ private slots:
     void smallCorrectionEndsNoDoubt();
 };
 
-void tst_ClockDoubt::nothingFalseRingsAndNothingIsLost_data()
+void TestClockDoubt::nothingFalseRingsAndNothingIsLost_data()
 {
     QTest::addColumn<qint64>("first");
     QTest::addColumn<qint64>("set");
@@ -42,7 +42,7 @@ void tst_ClockDoubt::nothingFalseRingsAndNothingIsLost_data()
     }
 }
 
-void tst_ClockDoubt::nothingFalseRingsAndNothingIsLost()
+void TestClockDoubt::nothingFalseRingsAndNothingIsLost()
 {
     QFETCH(qint64, first);
     QFETCH(qint64, set);
@@ -65,7 +65,7 @@ void tst_ClockDoubt::nothingFalseRingsAndNothingIsLost()
     QVERIFY(world.state(recurring) == (rings ? State::Triggered : State::Waiting));
 }
 
-void tst_ClockDoubt::snoozeWaitsForTheRightTime()
+void TestClockDoubt::snoozeWaitsForTheRightTime()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -79,7 +79,7 @@ void tst_ClockDoubt::snoozeWaitsForTheRightTime()
     QCOMPARE(world.ringer.rung, QList<quint32>{cookie});
 }
 
-void tst_ClockDoubt::snoozeOfADoubtedClockBeginsAgain()
+void TestClockDoubt::snoozeOfADoubtedClockBeginsAgain()
 {
     World world(BuildDate - 60 * Day);
     const quint32 cookie = world.add(daily(7, 0, Wire::SingleShot | Wire::KeepAlive));
@@ -91,7 +91,7 @@ void tst_ClockDoubt::snoozeOfADoubtedClockBeginsAgain()
     QVERIFY(world.store.misses.isEmpty());
 }
 
-void tst_ClockDoubt::eventOfADoubtedClockIsNotMissed()
+void TestClockDoubt::eventOfADoubtedClockIsNotMissed()
 {
     World world(Start);
     world.add(daily(7, 0));
@@ -103,7 +103,7 @@ void tst_ClockDoubt::eventOfADoubtedClockIsNotMissed()
     QVERIFY(world.store.misses.isEmpty());
 }
 
-void tst_ClockDoubt::alarmRingsByADoubtedClockThatStays()
+void TestClockDoubt::alarmRingsByADoubtedClockThatStays()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -117,7 +117,7 @@ void tst_ClockDoubt::alarmRingsByADoubtedClockThatStays()
     QVERIFY(world.store.misses.isEmpty());
 }
 
-void tst_ClockDoubt::smallCorrectionEndsNoDoubt()
+void TestClockDoubt::smallCorrectionEndsNoDoubt()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -129,5 +129,5 @@ void tst_ClockDoubt::smallCorrectionEndsNoDoubt()
     QCOMPARE(world.ringer.rung, QList<quint32>{cookie});
 }
 
-QTEST_GUILESS_MAIN(tst_ClockDoubt)
+QTEST_GUILESS_MAIN(TestClockDoubt)
 #include "tst_clockdoubt.moc"

@@ -68,7 +68,7 @@ QVariantList randomArguments(QRandomGenerator &random)
 } // namespace
 
 /** What the real program answers, on a bus of its own. */
-class tst_Daemon : public QObject, private DaemonClient
+class TestDaemon : public QObject, private DaemonClient
 {
     Q_OBJECT
 
@@ -90,19 +90,19 @@ private:
     Support::TimedProcess m_daemon;
 };
 
-void tst_Daemon::initTestCase()
+void TestDaemon::initTestCase()
 {
     QVERIFY(m_bus.isRunning());
     Wire::registerTypes();
     QVERIFY(m_daemon.start());
 }
 
-void tst_Daemon::cleanup()
+void TestDaemon::cleanup()
 {
     QVERIFY(cancelAll());
 }
 
-void tst_Daemon::introspectionEqualsTheDescription()
+void TestDaemon::introspectionEqualsTheDescription()
 {
     QFile file(Places::source("platform/timedclient/com.astel.timed.xml"));
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -116,7 +116,7 @@ void tst_Daemon::introspectionEqualsTheDescription()
     QCOMPARE(described(live.value().toUtf8()), expected);
 }
 
-void tst_Daemon::scheduledEventSaysWaitingAtOnce()
+void TestDaemon::scheduledEventSaysWaitingAtOnce()
 {
     const uint cookie = add(daily(7, 0));
     QCOMPARE(stateOf(cookie), "WAITING");
@@ -129,7 +129,7 @@ void tst_Daemon::scheduledEventSaysWaitingAtOnce()
     QCOMPARE(stateOf(add({})), "INACTIVE");
 }
 
-void tst_Daemon::eachChangeIsAnsweredAndThenPublishedOnce()
+void TestDaemon::eachChangeIsAnsweredAndThenPublishedOnce()
 {
     BusWatch watch(QDBusConnection::sessionBus());
     QStringList expected;
@@ -154,7 +154,7 @@ void tst_Daemon::eachChangeIsAnsweredAndThenPublishedOnce()
     QVERIFY(!watch.lastMap.contains(QString::number(one)));
 }
 
-void tst_Daemon::unknownCookieIsNoError()
+void TestDaemon::unknownCookieIsNoError()
 {
     QDBusPendingReply<bool> cancelled = call("cancel", {4711u});
     cancelled.waitForFinished();
@@ -166,7 +166,7 @@ void tst_Daemon::unknownCookieIsNoError()
     QVERIFY(attributes.value().isEmpty());
 }
 
-void tst_Daemon::queryHoldsAllAttributesInCookieOrder()
+void TestDaemon::queryHoldsAllAttributesInCookieOrder()
 {
     const auto event = [](const Wire::Attributes &attributes) {
         Wire::Event result = daily(7, 0);
@@ -184,7 +184,7 @@ void tst_Daemon::queryHoldsAllAttributesInCookieOrder()
     QCOMPARE(query({}), (QVariantList{one, two, three}));
 }
 
-void tst_Daemon::refusalsAreNamed()
+void TestDaemon::refusalsAreNamed()
 {
     Wire::Event invalid;
     invalid.ticker = -2;
@@ -200,7 +200,7 @@ void tst_Daemon::refusalsAreNamed()
     QCOMPARE(errorOf("dismiss", {4711u, "user"}), Wire::UnknownError);
 }
 
-void tst_Daemon::healthKnowsWhatTheTimerIsArmedFor()
+void TestDaemon::healthKnowsWhatTheTimerIsArmedFor()
 {
     QVERIFY(!ask<QVariantMap>("health", {}).contains("armed_moment"));
     add(daily(7, 0));
@@ -215,7 +215,7 @@ void tst_Daemon::healthKnowsWhatTheTimerIsArmedFor()
     QCOMPARE(facts.value("zone").toString(), qEnvironmentVariable("TZ"));
 }
 
-void tst_Daemon::randomCallsEndInAnswersOrNamedErrors()
+void TestDaemon::randomCallsEndInAnswersOrNamedErrors()
 {
     constexpr int calls = 10000;
     constexpr int atOnce = 100;
@@ -239,5 +239,5 @@ void tst_Daemon::randomCallsEndInAnswersOrNamedErrors()
     QCOMPARE(stateOf(cookie), "WAITING");
 }
 
-QTEST_GUILESS_MAIN(tst_Daemon)
+QTEST_GUILESS_MAIN(TestDaemon)
 #include "tst_daemon.moc"

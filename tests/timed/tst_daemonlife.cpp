@@ -14,7 +14,7 @@
 using namespace Astel::Timed;
 
 /** The real program as it rings, ends and starts again, on a bus of its own. */
-class tst_DaemonLife : public QObject, private DaemonClient
+class TestDaemonLife : public QObject, private DaemonClient
 {
     Q_OBJECT
 
@@ -37,19 +37,19 @@ private:
     Support::TimedProcess m_daemon;
 };
 
-void tst_DaemonLife::initTestCase()
+void TestDaemonLife::initTestCase()
 {
     QVERIFY(m_bus.isRunning());
     Wire::registerTypes();
     QVERIFY(m_daemon.start());
 }
 
-void tst_DaemonLife::cleanup()
+void TestDaemonLife::cleanup()
 {
     QVERIFY(cancelAll());
 }
 
-void tst_DaemonLife::cookiesGrowOverRestartAndDeletion()
+void TestDaemonLife::cookiesGrowOverRestartAndDeletion()
 {
     const uint first = add(daily(7, 0));
     QVERIFY(ask<bool>("cancel", {first}));
@@ -62,7 +62,7 @@ void tst_DaemonLife::cookiesGrowOverRestartAndDeletion()
     QVERIFY(add(daily(7, 0)) > second);
 }
 
-void tst_DaemonLife::acknowledgedEventOutlivesAKill()
+void TestDaemonLife::acknowledgedEventOutlivesAKill()
 {
     Wire::Event event = daily(7, 0);
     event.attributes = {{"TITLE", "Wake up"}};
@@ -74,7 +74,7 @@ void tst_DaemonLife::acknowledgedEventOutlivesAKill()
     QCOMPARE(ask<QList<Wire::Trigger>>("next_triggers", {1u}).value(0).cookie, cookie);
 }
 
-void tst_DaemonLife::acknowledgedEventRingsAfterAKill()
+void TestDaemonLife::acknowledgedEventRingsAfterAKill()
 {
     const NotingRinger ringer(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "ringer"));
     Wire::Event event;
@@ -87,7 +87,7 @@ void tst_DaemonLife::acknowledgedEventRingsAfterAKill()
     QVERIFY(QDateTime::currentSecsSinceEpoch() >= event.ticker);
 }
 
-void tst_DaemonLife::dueEventRingsAndIsAnswered()
+void TestDaemonLife::dueEventRingsAndIsAnswered()
 {
     NotingRinger ringer(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "ringer"));
     const qint64 begin = QDateTime::currentMSecsSinceEpoch();
@@ -116,7 +116,7 @@ void tst_DaemonLife::dueEventRingsAndIsAnswered()
     QCOMPARE(words, (QStringList{"due", "rang", "sounded", "answered", "due", "answered"}));
 }
 
-void tst_DaemonLife::buttonsArePressedByNumber()
+void TestDaemonLife::buttonsArePressedByNumber()
 {
     const NotingRinger ringer(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "ringer"));
     Wire::Event event;
@@ -140,7 +140,7 @@ void tst_DaemonLife::buttonsArePressedByNumber()
     QCOMPARE(errorOf("press", {cookie, 1u, "user"}), Wire::UnknownError);
 }
 
-void tst_DaemonLife::ringerThatGoesIsCalledAgain()
+void TestDaemonLife::ringerThatGoesIsCalledAgain()
 {
     Wire::Event event;
     event.ticker = QDateTime::currentSecsSinceEpoch();
@@ -156,7 +156,7 @@ void tst_DaemonLife::ringerThatGoesIsCalledAgain()
     QTRY_VERIFY_WITH_TIMEOUT(next.calls.contains(QStringLiteral("ring %1").arg(cookie)), 30000);
 }
 
-void tst_DaemonLife::secondDaemonSaysWhyItEnds()
+void TestDaemonLife::secondDaemonSaysWhyItEnds()
 {
     const auto run = [](const QString &dataHome) {
         QProcess second;
@@ -174,7 +174,7 @@ void tst_DaemonLife::secondDaemonSaysWhyItEnds()
     QVERIFY2(sameName.startsWith("1 ") && sameName.contains("com.astel.timed is taken"), qPrintable(sameName));
 }
 
-void tst_DaemonLife::alarmsRingAlsoWhereNobodyCanFollowThem()
+void TestDaemonLife::alarmsRingAlsoWhereNobodyCanFollowThem()
 {
     m_daemon.terminate();
     auto squatter = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "squatter");
@@ -190,7 +190,7 @@ void tst_DaemonLife::alarmsRingAlsoWhereNobodyCanFollowThem()
     QVERIFY(m_daemon.start());
 }
 
-void tst_DaemonLife::terminatedDaemonEndsCleanly()
+void TestDaemonLife::terminatedDaemonEndsCleanly()
 {
     const uint cookie = add(daily(7, 0));
     m_daemon.terminate();
@@ -200,5 +200,5 @@ void tst_DaemonLife::terminatedDaemonEndsCleanly()
     QCOMPARE(stateOf(cookie), "WAITING");
 }
 
-QTEST_GUILESS_MAIN(tst_DaemonLife)
+QTEST_GUILESS_MAIN(TestDaemonLife)
 #include "tst_daemonlife.moc"

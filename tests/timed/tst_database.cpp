@@ -46,7 +46,7 @@ int versionOf(const QString &path)
 } // namespace
 
 /** What the store does with the files that it finds. */
-class tst_Database : public QObject
+class TestDatabase : public QObject
 {
     Q_OBJECT
 
@@ -82,7 +82,7 @@ private:
     std::unique_ptr<StoreFolder> m_folder;
 };
 
-void tst_Database::writeVersionOne() const
+void TestDatabase::writeVersionOne() const
 {
     QVERIFY(QDir().mkpath(folder()));
     QVERIFY(execute(
@@ -104,7 +104,7 @@ void tst_Database::writeVersionOne() const
          QStringLiteral("INSERT INTO journal VALUES (%1, 5, 'due', '0 ms late')").arg(Now), "PRAGMA user_version=1"}));
 }
 
-void tst_Database::keepsFewPagesInMemory()
+void TestDatabase::keepsFewPagesInMemory()
 {
     const auto database = Database::open(folder());
     QVERIFY(database);
@@ -114,7 +114,7 @@ void tst_Database::keepsFewPagesInMemory()
     QCOMPARE(query.value(0).toInt(), -64);
 }
 
-void tst_Database::secondStoreIsRefused()
+void TestDatabase::secondStoreIsRefused()
 {
     const auto first = open();
     const auto second = SqliteStore::create(folder(), Now);
@@ -122,7 +122,7 @@ void tst_Database::secondStoreIsRefused()
     QVERIFY2(second.error().text.contains("another daemon"), qPrintable(second.error().text));
 }
 
-void tst_Database::newerSchemaIsRefusedAndLeftAlone()
+void TestDatabase::newerSchemaIsRefusedAndLeftAlone()
 {
     QVERIFY(open()->commit({{stored(1)}, {}, {}}));
     {
@@ -135,7 +135,7 @@ void tst_Database::newerSchemaIsRefusedAndLeftAlone()
     QVERIFY(QDir(folder()).entryList({"*.damaged-*"}).isEmpty());
 }
 
-void tst_Database::folderThatCannotBeMadeIsRefused()
+void TestDatabase::folderThatCannotBeMadeIsRefused()
 {
     QVERIFY(StoreFolder::overwrite(folder(), 0, "a file"));
     const auto store = SqliteStore::create(folder(), Now);
@@ -143,7 +143,7 @@ void tst_Database::folderThatCannotBeMadeIsRefused()
     QVERIFY2(store.error().text.contains("cannot write"), qPrintable(store.error().text));
 }
 
-void tst_Database::damagedFileIsSetAsideAndTheSnapshotRestored_data()
+void TestDatabase::damagedFileIsSetAsideAndTheSnapshotRestored_data()
 {
     QTest::addColumn<qint64>("offset");
 
@@ -152,7 +152,7 @@ void tst_Database::damagedFileIsSetAsideAndTheSnapshotRestored_data()
     QTest::newRow("later page") << qint64(4096);
 }
 
-void tst_Database::damagedFileIsSetAsideAndTheSnapshotRestored()
+void TestDatabase::damagedFileIsSetAsideAndTheSnapshotRestored()
 {
     QFETCH(qint64, offset);
 
@@ -183,7 +183,7 @@ void tst_Database::damagedFileIsSetAsideAndTheSnapshotRestored()
     QCOMPARE(kept.read(Garbage.size()), Garbage);
 }
 
-void tst_Database::damagedSnapshotGivesAnEmptyStore()
+void TestDatabase::damagedSnapshotGivesAnEmptyStore()
 {
     QVERIFY(open()->commit({{stored(1)}, {}, {}}));
     QVERIFY(StoreFolder::overwrite(file(), 0, Garbage));
@@ -196,7 +196,7 @@ void tst_Database::damagedSnapshotGivesAnEmptyStore()
     QCOMPARE(QDir(folder()).entryList({"events.db.damaged-*"}).size(), 2);
 }
 
-void tst_Database::oldSchemaIsBroughtToTheCurrentOne()
+void TestDatabase::oldSchemaIsBroughtToTheCurrentOne()
 {
     writeVersionOne();
     auto store = open();
@@ -215,7 +215,7 @@ void tst_Database::oldSchemaIsBroughtToTheCurrentOne()
     QCOMPARE(versionOf(file()), Schema::Version);
 }
 
-void tst_Database::migrationThatFailsLeavesTheOldSchema()
+void TestDatabase::migrationThatFailsLeavesTheOldSchema()
 {
     writeVersionOne();
     // What the step to version 2 would add is there already.
@@ -226,7 +226,7 @@ void tst_Database::migrationThatFailsLeavesTheOldSchema()
     QCOMPARE(versionOf(file()), 1);
 }
 
-void tst_Database::restoredStoreGivesNoCookieAgain()
+void TestDatabase::restoredStoreGivesNoCookieAgain()
 {
     quint32 given = 0;
     {
@@ -247,7 +247,7 @@ void tst_Database::restoredStoreGivesNoCookieAgain()
     QVERIFY(store->lastCookie() >= given);
 }
 
-void tst_Database::lostFileIsRestoredAsWell_data()
+void TestDatabase::lostFileIsRestoredAsWell_data()
 {
     QTest::addColumn<bool>("empty");
 
@@ -255,7 +255,7 @@ void tst_Database::lostFileIsRestoredAsWell_data()
     QTest::newRow("empty") << true;
 }
 
-void tst_Database::lostFileIsRestoredAsWell()
+void TestDatabase::lostFileIsRestoredAsWell()
 {
     QFETCH(bool, empty);
 
@@ -274,7 +274,7 @@ void tst_Database::lostFileIsRestoredAsWell()
     QVERIFY(store->facts().value("store_restored").toBool());
 }
 
-void tst_Database::restorationIsRememberedAfterTheNextStart()
+void TestDatabase::restorationIsRememberedAfterTheNextStart()
 {
     QVERIFY(open());
     QVERIFY(StoreFolder::overwrite(file(), 0, Garbage));
@@ -285,7 +285,7 @@ void tst_Database::restorationIsRememberedAfterTheNextStart()
     QCOMPARE(store->facts().value("store_restored_moment").toULongLong(), quint64(Now) * 1000000);
 }
 
-void tst_Database::readOnlyDiskIsReadAndTakesNoChange()
+void TestDatabase::readOnlyDiskIsReadAndTakesNoChange()
 {
     {
         const auto store = open();
@@ -314,7 +314,7 @@ void tst_Database::readOnlyDiskIsReadAndTakesNoChange()
     QCOMPARE(open()->events().size(), 2);
 }
 
-void tst_Database::readOnlyFileIsReadAndTakesNoChange()
+void TestDatabase::readOnlyFileIsReadAndTakesNoChange()
 {
     QVERIFY(open()->commit({{stored(1)}, {}, {}}));
     const ReadOnlyDisk disk(file());
@@ -327,7 +327,7 @@ void tst_Database::readOnlyFileIsReadAndTakesNoChange()
     QVERIFY(!store->facts().value("store_writable").toBool());
 }
 
-void tst_Database::fullDiskIsReadAndTakesNoChange_data()
+void TestDatabase::fullDiskIsReadAndTakesNoChange_data()
 {
     QTest::addColumn<bool>("damaged");
 
@@ -335,7 +335,7 @@ void tst_Database::fullDiskIsReadAndTakesNoChange_data()
     QTest::newRow("damaged file") << true;
 }
 
-void tst_Database::fullDiskIsReadAndTakesNoChange()
+void TestDatabase::fullDiskIsReadAndTakesNoChange()
 {
     QFETCH(bool, damaged);
 
@@ -359,7 +359,7 @@ void tst_Database::fullDiskIsReadAndTakesNoChange()
     QCOMPARE(open()->events().size(), 1);
 }
 
-void tst_Database::damagedFileOnAReadOnlyDiskIsReadFromTheSnapshot()
+void TestDatabase::damagedFileOnAReadOnlyDiskIsReadFromTheSnapshot()
 {
     {
         const auto store = open();
@@ -377,5 +377,5 @@ void tst_Database::damagedFileOnAReadOnlyDiskIsReadFromTheSnapshot()
     QCOMPARE(QDir(folder()).entryList({"*.damaged-*"}).size(), 1);
 }
 
-QTEST_GUILESS_MAIN(tst_Database)
+QTEST_GUILESS_MAIN(TestDatabase)
 #include "tst_database.moc"

@@ -7,7 +7,7 @@
 using namespace Astel::Timed;
 
 /** What rings while the ringer does not. */
-class tst_Fallback : public QObject
+class TestFallback : public QObject
 {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ private slots:
     void soundIsWrittenDownOnceForEachRinging();
 };
 
-void tst_Fallback::ringsWhenTheRingerWasCalledInVain()
+void TestFallback::ringsWhenTheRingerWasCalledInVain()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -37,7 +37,7 @@ void tst_Fallback::ringsWhenTheRingerWasCalledInVain()
     QCOMPARE(world.fallback.rung.size(), 2);
 }
 
-void tst_Fallback::ringsAtOnceWhenTheRingerCannotBeCalled()
+void TestFallback::ringsAtOnceWhenTheRingerCannotBeCalled()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -56,7 +56,7 @@ void tst_Fallback::ringsAtOnceWhenTheRingerCannotBeCalled()
     QCOMPARE(world.ringer.rung.size(), 5);
 }
 
-void tst_Fallback::oneRefusalIsNoReasonToRing()
+void TestFallback::oneRefusalIsNoReasonToRing()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -71,7 +71,7 @@ void tst_Fallback::oneRefusalIsNoReasonToRing()
     QVERIFY(world.fallback.rung.isEmpty());
 }
 
-void tst_Fallback::ringsWhenARingerThatRangHangs()
+void TestFallback::ringsWhenARingerThatRangHangs()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -94,7 +94,7 @@ void tst_Fallback::ringsWhenARingerThatRangHangs()
     QCOMPARE(world.fallback.stopped, QList<quint32>{cookie});
 }
 
-void tst_Fallback::fallsSilentWhenTheRingerRings()
+void TestFallback::fallsSilentWhenTheRingerRings()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -105,7 +105,7 @@ void tst_Fallback::fallsSilentWhenTheRingerRings()
     QVERIFY(world.ringer.stopped.isEmpty());
 }
 
-void tst_Fallback::fallsSilentWhenTheAlarmIsAnswered()
+void TestFallback::fallsSilentWhenTheAlarmIsAnswered()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -115,7 +115,7 @@ void tst_Fallback::fallsSilentWhenTheAlarmIsAnswered()
     QCOMPARE(world.state(cookie), State::Snoozed);
 }
 
-void tst_Fallback::soundIsWrittenDownOnceForEachRinging()
+void TestFallback::soundIsWrittenDownOnceForEachRinging()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -132,5 +132,5 @@ void tst_Fallback::soundIsWrittenDownOnceForEachRinging()
     QCOMPARE(world.store.words(), (QStringList{"due", "failed", "sounded", "rang", "sounded"}));
 }
 
-QTEST_GUILESS_MAIN(tst_Fallback)
+QTEST_GUILESS_MAIN(TestFallback)
 #include "tst_fallback.moc"

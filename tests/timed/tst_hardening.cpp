@@ -68,7 +68,7 @@ Wire::Event withText(const QString &text)
 } // namespace
 
 /** The real program and callers that mean it harm, or do not know better. */
-class tst_Hardening : public QObject, private DaemonClient
+class TestHardening : public QObject, private DaemonClient
 {
     Q_OBJECT
 
@@ -94,7 +94,7 @@ private:
     Support::TimedProcess m_daemon;
 };
 
-void tst_Hardening::initTestCase()
+void TestHardening::initTestCase()
 {
     QVERIFY(m_bus.isRunning());
     Wire::registerTypes();
@@ -102,12 +102,12 @@ void tst_Hardening::initTestCase()
     QVERIFY(workDone() > 0);
 }
 
-void tst_Hardening::cleanup()
+void TestHardening::cleanup()
 {
     QVERIFY(cancelAll());
 }
 
-void tst_Hardening::argumentsThatDoNotFitAreRefused_data()
+void TestHardening::argumentsThatDoNotFitAreRefused_data()
 {
     QTest::addColumn<QString>("method");
     QTest::addColumn<QVariantList>("arguments");
@@ -127,7 +127,7 @@ void tst_Hardening::argumentsThatDoNotFitAreRefused_data()
     QTest::newRow("negative count") << "next_triggers" << QVariantList{-1};
 }
 
-void tst_Hardening::argumentsThatDoNotFitAreRefused()
+void TestHardening::argumentsThatDoNotFitAreRefused()
 {
     QFETCH(QString, method);
     QFETCH(QVariantList, arguments);
@@ -136,7 +136,7 @@ void tst_Hardening::argumentsThatDoNotFitAreRefused()
     QVERIFY(cookies().isEmpty());
 }
 
-void tst_Hardening::hugeEventIsRefusedAtOnce_data()
+void TestHardening::hugeEventIsRefusedAtOnce_data()
 {
     QTest::addColumn<Edit>("edit");
 
@@ -149,7 +149,7 @@ void tst_Hardening::hugeEventIsRefusedAtOnce_data()
     row("value of 16 million", [](auto &event) { event.attributes = {{"TITLE", QString(16000000, 'x')}}; });
 }
 
-void tst_Hardening::hugeEventIsRefusedAtOnce()
+void TestHardening::hugeEventIsRefusedAtOnce()
 {
     QFETCH(Edit, edit);
 
@@ -165,7 +165,7 @@ void tst_Hardening::hugeEventIsRefusedAtOnce()
     QCOMPARE(attributesOf(other).value("STATE").toString(), "WAITING");
 }
 
-void tst_Hardening::hugeQueryIsRefusedAtOnce()
+void TestHardening::hugeQueryIsRefusedAtOnce()
 {
     QVariantMap attributes;
     for (int i = 0; i < 200000; ++i)
@@ -177,7 +177,7 @@ void tst_Hardening::hugeQueryIsRefusedAtOnce()
     QVERIFY(work < LongestWork);
 }
 
-void tst_Hardening::rareMomentsKeepNobodyWaiting()
+void TestHardening::rareMomentsKeepNobodyWaiting()
 {
     // On a 29 February that is a Monday, every 28 years.
     Wire::Event rare = daily(7, 0);
@@ -200,7 +200,7 @@ void tst_Hardening::rareMomentsKeepNobodyWaiting()
     QVERIFY(work < 10 * LongestWork);
 }
 
-void tst_Hardening::everyTextOutlivesAKill()
+void TestHardening::everyTextOutlivesAKill()
 {
     const QString text = everyCharacter();
     QVERIFY(text.size() > 60000);
@@ -222,7 +222,7 @@ void tst_Hardening::everyTextOutlivesAKill()
     }
 }
 
-void tst_Hardening::storeTakesSoMuchTextAndNoMore()
+void TestHardening::storeTakesSoMuchTextAndNoMore()
 {
     const Wire::Event large = withText(QString(32000, 'x'));
     const qsizetype fitting = MaximalText / textSize(large);
@@ -239,5 +239,5 @@ void tst_Hardening::storeTakesSoMuchTextAndNoMore()
     QVERIFY(add(large) > 0);
 }
 
-QTEST_GUILESS_MAIN(tst_Hardening)
+QTEST_GUILESS_MAIN(TestHardening)
 #include "tst_hardening.moc"

@@ -21,7 +21,7 @@ Miss miss(qint64 due, bool told)
 } // namespace
 
 /** The past as the store keeps it. */
-class tst_History : public QObject
+class TestHistory : public QObject
 {
     Q_OBJECT
 
@@ -54,14 +54,14 @@ private:
     std::unique_ptr<SqliteStore> m_store;
 };
 
-void tst_History::init()
+void TestHistory::init()
 {
     m_store.reset();
     m_folder = std::make_unique<QTemporaryDir>();
     open(Now);
 }
 
-void tst_History::journalIsKeptForAYear()
+void TestHistory::journalIsKeptForAYear()
 {
     note(Now);
     note(Now + Hour);
@@ -72,7 +72,7 @@ void tst_History::journalIsKeptForAYear()
     QCOMPARE(moments(), (QList<qint64>{Now + Year / 2, Now + Year, Now + Year + Day}));
 }
 
-void tst_History::journalForgetsOnlyOnceADay()
+void TestHistory::journalForgetsOnlyOnceADay()
 {
     note(Now);
     note(Now + Year - Hour);
@@ -82,7 +82,7 @@ void tst_History::journalForgetsOnlyOnceADay()
     QCOMPARE(moments().size(), 3);
 }
 
-void tst_History::startForgetsToo()
+void TestHistory::startForgetsToo()
 {
     note(Now);
     note(Now + Year / 2);
@@ -90,7 +90,7 @@ void tst_History::startForgetsToo()
     QCOMPARE(moments(), QList<qint64>{Now + Year / 2});
 }
 
-void tst_History::clockThatJumpsByYearsForgetsNothing()
+void TestHistory::clockThatJumpsByYearsForgetsNothing()
 {
     note(Now);
     note(Now + 56 * Year);
@@ -101,7 +101,7 @@ void tst_History::clockThatJumpsByYearsForgetsNothing()
     QCOMPARE(moments().size(), 2);
 }
 
-void tst_History::missIsKeptUntilToldAndAWeekLonger()
+void TestHistory::missIsKeptUntilToldAndAWeekLonger()
 {
     QVERIFY(m_store->commit({{}, {}, {{Now, 7, "missed", ""}}, {miss(Now, false), miss(Now + Hour, false)}}));
     QVERIFY(m_store->commit({{}, {}, {}, {miss(Now, true)}}));
@@ -112,5 +112,5 @@ void tst_History::missIsKeptUntilToldAndAWeekLonger()
     QCOMPARE(m_store->missed(), QList<Miss>{miss(Now + Hour, false)});
 }
 
-QTEST_GUILESS_MAIN(tst_History)
+QTEST_GUILESS_MAIN(TestHistory)
 #include "tst_history.moc"

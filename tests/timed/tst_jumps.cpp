@@ -33,7 +33,7 @@ constexpr quint32 Saturdays = 1u << 6;
 } // namespace
 
 /** Jumps of the clock and flights, each with the ring, the miss and the journal that follow. */
-class tst_Jumps : public QObject
+class TestJumps : public QObject
 {
     Q_OBJECT
 
@@ -52,7 +52,7 @@ private slots:
     void flightOverTheDateLine();
 };
 
-void tst_Jumps::jumpJustBeforeAnAlarm_data()
+void TestJumps::jumpJustBeforeAnAlarm_data()
 {
     QTest::addColumn<qint64>("jump");
     QTest::addColumn<QStringList>("journal");
@@ -71,7 +71,7 @@ void tst_Jumps::jumpJustBeforeAnAlarm_data()
     QTest::newRow("+56 years") << FiftySixYears << none << std::optional(utc("2082-11-06T06:00:00"));
 }
 
-void tst_Jumps::jumpJustBeforeAnAlarm()
+void TestJumps::jumpJustBeforeAnAlarm()
 {
     QFETCH(qint64, jump);
     QFETCH(QStringList, journal);
@@ -90,7 +90,7 @@ void tst_Jumps::jumpJustBeforeAnAlarm()
         QCOMPARE(miss, (Miss{cookie, Seven, before + jump, MissReason::ClockSet, false, daily(7, 0)}));
 }
 
-void tst_Jumps::jumpWhileSnoozed_data()
+void TestJumps::jumpWhileSnoozed_data()
 {
     QTest::addColumn<qint64>("jump");
     QTest::addColumn<QStringList>("journal");
@@ -111,7 +111,7 @@ void tst_Jumps::jumpWhileSnoozed_data()
     QTest::newRow("+56 years") << FiftySixYears << none << State::Waiting << FarSeven;
 }
 
-void tst_Jumps::jumpWhileSnoozed()
+void TestJumps::jumpWhileSnoozed()
 {
     QFETCH(qint64, jump);
     QFETCH(QStringList, journal);
@@ -132,7 +132,7 @@ void tst_Jumps::jumpWhileSnoozed()
         QCOMPARE(miss.due, Seven);
 }
 
-void tst_Jumps::snoozeStaysAlignedWhenTheClockGoesBack()
+void TestJumps::snoozeStaysAlignedWhenTheClockGoesBack()
 {
     World world(Seven - Hour);
     const quint32 cookie = snoozeAtSeven(world, Wire::KeepAlive | Wire::AlignedSnooze);
@@ -141,7 +141,7 @@ void tst_Jumps::snoozeStaysAlignedWhenTheClockGoesBack()
     QCOMPARE(world.moment(cookie), std::optional(Seven - 2 * Day + 11 * Minute));
 }
 
-void tst_Jumps::unansweredSnoozesAreCountedOnWhenTheClockGoesBack()
+void TestJumps::unansweredSnoozesAreCountedOnWhenTheClockGoesBack()
 {
     World world(Seven - Hour);
     Wire::Event event = daily(7, 0);
@@ -157,7 +157,7 @@ void tst_Jumps::unansweredSnoozesAreCountedOnWhenTheClockGoesBack()
     QCOMPARE(world.store.words().last(), "missed");
 }
 
-void tst_Jumps::jumpByYearsLeavesASnoozeAsItIs()
+void TestJumps::jumpByYearsLeavesASnoozeAsItIs()
 {
     World world(Seven - Hour);
     const quint32 cookie = snoozeAtSeven(world, Wire::SingleShot | Wire::KeepAlive);
@@ -175,7 +175,7 @@ void tst_Jumps::jumpByYearsLeavesASnoozeAsItIs()
     QCOMPARE(world.state(cookie), State::Finished);
 }
 
-void tst_Jumps::jumpByYearsAndBackKeepsASnooze_data()
+void TestJumps::jumpByYearsAndBackKeepsASnooze_data()
 {
     QTest::addColumn<qint64>("back");
     QTest::addColumn<bool>("restarted");
@@ -197,7 +197,7 @@ void tst_Jumps::jumpByYearsAndBackKeepsASnooze_data()
     QTest::newRow("too late, restarted") << end + Hour << true << none << State::Waiting << FarSeven;
 }
 
-void tst_Jumps::jumpByYearsAndBackKeepsASnooze()
+void TestJumps::jumpByYearsAndBackKeepsASnooze()
 {
     QFETCH(qint64, back);
     QFETCH(bool, restarted);
@@ -227,7 +227,7 @@ void tst_Jumps::jumpByYearsAndBackKeepsASnooze()
     QCOMPARE(world.ringer.rung.size(), journal.contains("due") ? 1 : 0);
 }
 
-void tst_Jumps::snoozeThatEndedBeforeTheYearsDoesNotRing()
+void TestJumps::snoozeThatEndedBeforeTheYearsDoesNotRing()
 {
     World world(Seven - Hour);
     const quint32 cookie = snoozeAtSeven(world);
@@ -243,7 +243,7 @@ void tst_Jumps::snoozeThatEndedBeforeTheYearsDoesNotRing()
     QCOMPARE(world.moment(cookie), std::optional(Seven + Day));
 }
 
-void tst_Jumps::flightOverTheDateLine_data()
+void TestJumps::flightOverTheDateLine_data()
 {
     QTest::addColumn<QByteArray>("from");
     QTest::addColumn<QByteArray>("to");
@@ -271,7 +271,7 @@ void tst_Jumps::flightOverTheDateLine_data()
     row("Fridays, 25 hours ahead", pagoPago, kiritimati, Fridays, "2026-11-20T18:00:00", "2026-11-26T17:00:00");
 }
 
-void tst_Jumps::flightOverTheDateLine()
+void TestJumps::flightOverTheDateLine()
 {
     QFETCH(QByteArray, from);
     QFETCH(QByteArray, to);
@@ -295,5 +295,5 @@ void tst_Jumps::flightOverTheDateLine()
     QVERIFY(world.store.misses.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(tst_Jumps)
+QTEST_GUILESS_MAIN(TestJumps)
 #include "tst_jumps.moc"

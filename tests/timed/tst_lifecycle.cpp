@@ -21,7 +21,7 @@ Wire::Event ticker(qint64 milliseconds, quint32 flags = Wire::SingleShot | Wire:
 } // namespace
 
 /** From a new event to one that was served, with time in the test's hand. */
-class tst_LifeCycle : public QObject
+class TestLifeCycle : public QObject
 {
     Q_OBJECT
 
@@ -40,7 +40,7 @@ private slots:
     void textsThatTwoEventsHoldAreKeptOnce();
 };
 
-void tst_LifeCycle::newEventStandsAsItsTimesSay_data()
+void TestLifeCycle::newEventStandsAsItsTimesSay_data()
 {
     QTest::addColumn<Wire::Event>("event");
     QTest::addColumn<State>("state");
@@ -70,7 +70,7 @@ void tst_LifeCycle::newEventStandsAsItsTimesSay_data()
     QTest::newRow("30 February") << never << State::Inactive << qint64(0);
 }
 
-void tst_LifeCycle::newEventStandsAsItsTimesSay()
+void TestLifeCycle::newEventStandsAsItsTimesSay()
 {
     QFETCH(Wire::Event, event);
     QFETCH(State, state);
@@ -89,7 +89,7 @@ void tst_LifeCycle::newEventStandsAsItsTimesSay()
     }
 }
 
-void tst_LifeCycle::eventWithoutMomentNeverRings()
+void TestLifeCycle::eventWithoutMomentNeverRings()
 {
     World world(Start);
     Wire::Event disabled = daily7();
@@ -99,7 +99,7 @@ void tst_LifeCycle::eventWithoutMomentNeverRings()
     QVERIFY(world.ringer.rung.isEmpty());
 }
 
-void tst_LifeCycle::dueEventIsStoredAsTriggeredBeforeItRings()
+void TestLifeCycle::dueEventIsStoredAsTriggeredBeforeItRings()
 {
     World world(Start);
     const quint32 cookie = world.add(daily7());
@@ -124,7 +124,7 @@ void tst_LifeCycle::dueEventIsStoredAsTriggeredBeforeItRings()
     QCOMPARE(world.parts->book.triggers().size(), 1);
 }
 
-void tst_LifeCycle::servedEventGoesOnAsItsFlagsSay_data()
+void TestLifeCycle::servedEventGoesOnAsItsFlagsSay_data()
 {
     QTest::addColumn<Wire::Event>("event");
     QTest::addColumn<std::optional<State>>("state");
@@ -136,7 +136,7 @@ void tst_LifeCycle::servedEventGoesOnAsItsFlagsSay_data()
     QTest::newRow("ticker") << ticker(Seven, 0) << std::optional<State>();
 }
 
-void tst_LifeCycle::servedEventGoesOnAsItsFlagsSay()
+void TestLifeCycle::servedEventGoesOnAsItsFlagsSay()
 {
     QFETCH(Wire::Event, event);
     QFETCH(std::optional<State>, state);
@@ -158,7 +158,7 @@ void tst_LifeCycle::servedEventGoesOnAsItsFlagsSay()
     QVERIFY(!world.parts->life.dismiss(cookie, "user"));
 }
 
-void tst_LifeCycle::fullDiskKeepsNothingFromRingingOrStopping()
+void TestLifeCycle::fullDiskKeepsNothingFromRingingOrStopping()
 {
     World world(Start);
     const quint32 cookie = world.add(daily7());
@@ -170,7 +170,7 @@ void tst_LifeCycle::fullDiskKeepsNothingFromRingingOrStopping()
     QCOMPARE(world.moment(cookie), std::optional(Seven + Day));
 }
 
-void tst_LifeCycle::failedCommitOfANewEventLeavesNothing()
+void TestLifeCycle::failedCommitOfANewEventLeavesNothing()
 {
     World world(Start);
     const quint32 cookie = world.add(daily7());
@@ -184,7 +184,7 @@ void tst_LifeCycle::failedCommitOfANewEventLeavesNothing()
     QCOMPARE(world.add(daily7()), cookie + 1);
 }
 
-void tst_LifeCycle::comingTriggersRepeatRecurringEvents()
+void TestLifeCycle::comingTriggersRepeatRecurringEvents()
 {
     World world(Start);
     const quint32 recurring = world.add(daily7());
@@ -196,7 +196,7 @@ void tst_LifeCycle::comingTriggersRepeatRecurringEvents()
                                    trigger(recurring, Seven + Day), trigger(recurring, Seven + 2 * Day)}));
 }
 
-void tst_LifeCycle::tooManyEventsAreRefused()
+void TestLifeCycle::tooManyEventsAreRefused()
 {
     World world(Start);
     for (int i = 0; i < MaximalEvents; ++i)
@@ -207,7 +207,7 @@ void tst_LifeCycle::tooManyEventsAreRefused()
     QVERIFY(world.parts->service.add(daily7()));
 }
 
-void tst_LifeCycle::cookiesEndAtTheirLimit()
+void TestLifeCycle::cookiesEndAtTheirLimit()
 {
     World world(Start);
     world.store.last = 2147483646;
@@ -216,7 +216,7 @@ void tst_LifeCycle::cookiesEndAtTheirLimit()
     QCOMPARE(world.parts->service.add(daily7()).error().name, QLatin1String(Wire::LimitError));
 }
 
-void tst_LifeCycle::textsThatTwoEventsHoldAreKeptOnce()
+void TestLifeCycle::textsThatTwoEventsHoldAreKeptOnce()
 {
     World world(Start);
     Wire::Event one = daily7();
@@ -236,5 +236,5 @@ void tst_LifeCycle::textsThatTwoEventsHoldAreKeptOnce()
     QCOMPARE(place(newer.constFind("TITLE").key()), place(older.constFind("TITLE").key()));
 }
 
-QTEST_GUILESS_MAIN(tst_LifeCycle)
+QTEST_GUILESS_MAIN(TestLifeCycle)
 #include "tst_lifecycle.moc"

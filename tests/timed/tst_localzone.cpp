@@ -10,7 +10,7 @@
 
 using namespace Astel::Timed;
 
-class tst_LocalZone : public QObject
+class TestLocalZone : public QObject
 {
     Q_OBJECT
 
@@ -36,20 +36,20 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-void tst_LocalZone::init()
+void TestLocalZone::init()
 {
     qunsetenv("TZ");
     m_folder = std::make_unique<QTemporaryDir>();
     link("Asia/Kathmandu");
 }
 
-void tst_LocalZone::linkNamesTheZone()
+void TestLocalZone::linkNamesTheZone()
 {
     const LocalZone zone(path());
     QCOMPARE(zone.zone().id(), "Asia/Kathmandu");
 }
 
-void tst_LocalZone::replacedLinkIsFollowed()
+void TestLocalZone::replacedLinkIsFollowed()
 {
     const LocalZone zone(path());
     const QSignalSpy changed(&zone, &ZoneSource::changed);
@@ -58,7 +58,7 @@ void tst_LocalZone::replacedLinkIsFollowed()
     QCOMPARE(zone.zone().id(), "America/Havana");
 }
 
-void tst_LocalZone::unknownZoneKeepsTheOneBefore()
+void TestLocalZone::unknownZoneKeepsTheOneBefore()
 {
     const LocalZone zone(path());
     const QSignalSpy changed(&zone, &ZoneSource::changed);
@@ -72,14 +72,14 @@ void tst_LocalZone::unknownZoneKeepsTheOneBefore()
     QCOMPARE(changed.size(), 1);
 }
 
-void tst_LocalZone::environmentWins()
+void TestLocalZone::environmentWins()
 {
     qputenv("TZ", "Australia/Lord_Howe");
     const LocalZone zone(path());
     QCOMPARE(zone.zone().id(), "Australia/Lord_Howe");
 }
 
-void tst_LocalZone::toldZoneNamesACopy()
+void TestLocalZone::toldZoneNamesACopy()
 {
     QVERIFY(QFile::remove(path()));
     QVERIFY(QFile::copy("/usr/share/zoneinfo/Asia/Tokyo", path()));
@@ -91,7 +91,7 @@ void tst_LocalZone::toldZoneNamesACopy()
     QCOMPARE(changed.size(), 1);
 }
 
-void tst_LocalZone::linkWinsOverTheToldZone()
+void TestLocalZone::linkWinsOverTheToldZone()
 {
     LocalZone zone(path());
     zone.told("Asia/Tokyo");
@@ -100,7 +100,7 @@ void tst_LocalZone::linkWinsOverTheToldZone()
     QCOMPARE(zone.zone().id(), "Asia/Kathmandu");
 }
 
-void tst_LocalZone::copyThatIsWrittenOverIsReadAgain()
+void TestLocalZone::copyThatIsWrittenOverIsReadAgain()
 {
     QVERIFY(QFile::remove(path()));
     QVERIFY(QFile::copy("/usr/share/zoneinfo/Asia/Tokyo", path()));
@@ -116,5 +116,5 @@ void tst_LocalZone::copyThatIsWrittenOverIsReadAgain()
     QTRY_VERIFY(log.lines(QtWarningMsg).size() > 1);
 }
 
-QTEST_GUILESS_MAIN(tst_LocalZone)
+QTEST_GUILESS_MAIN(TestLocalZone)
 #include "tst_localzone.moc"

@@ -29,7 +29,7 @@ Wire::Event fullEvent()
 } // namespace
 
 /** The real program with as many events and as much of a past as it takes: what one call may keep all others waiting. */
-class tst_ManyEvents : public QObject
+class TestManyEvents : public QObject
 {
     Q_OBJECT
 
@@ -74,7 +74,7 @@ private:
     uint m_cookie = 0; ///< of the last change
 };
 
-void tst_ManyEvents::initTestCase()
+void TestManyEvents::initTestCase()
 {
     QVERIFY(m_bus.isRunning());
     Wire::registerTypes();
@@ -94,7 +94,7 @@ void tst_ManyEvents::initTestCase()
     QVERIFY(mainThreadWork(m_daemon.processId()) > 0);
 }
 
-void tst_ManyEvents::questionKeepsNobodyWaiting_data()
+void TestManyEvents::questionKeepsNobodyWaiting_data()
 {
     QTest::addColumn<QString>("method");
     QTest::addColumn<QVariantList>("arguments");
@@ -112,7 +112,7 @@ void tst_ManyEvents::questionKeepsNobodyWaiting_data()
     QTest::newRow("triggers") << "triggers" << QVariantList();
 }
 
-void tst_ManyEvents::questionKeepsNobodyWaiting()
+void TestManyEvents::questionKeepsNobodyWaiting()
 {
     QFETCH(QString, method);
     QFETCH(QVariantList, arguments);
@@ -124,7 +124,7 @@ void tst_ManyEvents::questionKeepsNobodyWaiting()
     QVERIFY(work < LongestWork);
 }
 
-void tst_ManyEvents::changeKeepsNobodyWaiting_data()
+void TestManyEvents::changeKeepsNobodyWaiting_data()
 {
     QTest::addColumn<QString>("method");
 
@@ -132,7 +132,7 @@ void tst_ManyEvents::changeKeepsNobodyWaiting_data()
         QTest::newRow(method) << QString::fromLatin1(method);
 }
 
-void tst_ManyEvents::changeKeepsNobodyWaiting()
+void TestManyEvents::changeKeepsNobodyWaiting()
 {
     QFETCH(QString, method);
 
@@ -150,7 +150,7 @@ void tst_ManyEvents::changeKeepsNobodyWaiting()
     QVERIFY(work < LongestWork);
 }
 
-void tst_ManyEvents::fullBookIsPublishedToTheLastEvent()
+void TestManyEvents::fullBookIsPublishedToTheLastEvent()
 {
     const auto published
         = [this] { return qdbus_cast<QVariantMap>(triggers().arguments().value(0).value<QDBusVariant>().variant()); };
@@ -161,5 +161,5 @@ void tst_ManyEvents::fullBookIsPublishedToTheLastEvent()
     QVERIFY(published().contains(QString::number(last)));
 }
 
-QTEST_GUILESS_MAIN(tst_ManyEvents)
+QTEST_GUILESS_MAIN(TestManyEvents)
 #include "tst_manyevents.moc"

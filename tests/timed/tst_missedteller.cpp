@@ -29,7 +29,7 @@ Miss miss(quint32 cookie, MissReason reason = MissReason::Off)
 } // namespace
 
 /** What the user is told of missed alarms, and what becomes of "ring now". */
-class tst_MissedTeller : public QObject
+class TestMissedTeller : public QObject
 {
     Q_OBJECT
 
@@ -52,14 +52,14 @@ private slots:
     void ringNowNeedsAMissedOrStoredAlarmThatIsSilent();
 };
 
-void tst_MissedTeller::initTestCase()
+void TestMissedTeller::initTestCase()
 {
     // Whatever the language of the machine.
     Touch::Locale::setDefault(Touch::Locale(QStringLiteral("en_GB")));
     NoticeTexts::install();
 }
 
-void tst_MissedTeller::noticeSaysWhatWhenAndWhy_data()
+void TestMissedTeller::noticeSaysWhatWhenAndWhy_data()
 {
     QTest::addColumn<QString>("title");
     QTest::addColumn<MissReason>("reason");
@@ -75,7 +75,7 @@ void tst_MissedTeller::noticeSaysWhatWhenAndWhy_data()
     row("x", MissReason::Unanswered, "x (Fri, 20 Nov, 07:00): it rang, but nobody answered");
 }
 
-void tst_MissedTeller::noticeSaysWhatWhenAndWhy()
+void TestMissedTeller::noticeSaysWhatWhenAndWhy()
 {
     QFETCH(QString, title);
     QFETCH(MissReason, reason);
@@ -90,7 +90,7 @@ void tst_MissedTeller::noticeSaysWhatWhenAndWhy()
     QCOMPARE(cookieToRing(notice.actions[0].key), std::optional(7u));
 }
 
-void tst_MissedTeller::noticeOfMany()
+void TestMissedTeller::noticeOfMany()
 {
     QList<Miss> misses;
     for (quint32 cookie = 1; cookie <= 10; ++cookie)
@@ -108,14 +108,14 @@ void tst_MissedTeller::noticeOfMany()
     QCOMPARE(labels, (QStringList{"Ring now: Alarm 1", "Ring now: Alarm 3", "Ring now: Alarm 4"}));
 }
 
-void tst_MissedTeller::onlyItsOwnActionsNameACookie()
+void TestMissedTeller::onlyItsOwnActionsNameACookie()
 {
     for (const char *key : {"", "default", "7", "com.astel.timed.ring-now.", "com.astel.timed.ring-now.x",
                             "com.astel.timed.ring-now.7x", "org.example.ring-now.7"})
         QCOMPARE(cookieToRing(key), std::nullopt);
 }
 
-void tst_MissedTeller::startTellsAllAtOnceAndLaterOnesOneByOne()
+void TestMissedTeller::startTellsAllAtOnceAndLaterOnesOneByOne()
 {
     World world(Start);
     world.add(titled("One"));
@@ -137,7 +137,7 @@ void tst_MissedTeller::startTellsAllAtOnceAndLaterOnesOneByOne()
     QVERIFY(world.parts->book.untold().isEmpty());
 }
 
-void tst_MissedTeller::untoldMissOutlivesTheDaemon()
+void TestMissedTeller::untoldMissOutlivesTheDaemon()
 {
     World world(Start);
     world.add(titled("One", 0, Wire::SingleShot));
@@ -153,7 +153,7 @@ void tst_MissedTeller::untoldMissOutlivesTheDaemon()
     QVERIFY(world.parts->book.untold().isEmpty());
 }
 
-void tst_MissedTeller::missThatIsNotShownIsToldWhenSomebodyAppears()
+void TestMissedTeller::missThatIsNotShownIsToldWhenSomebodyAppears()
 {
     World world(Start);
     world.add(titled("One"));
@@ -174,7 +174,7 @@ void tst_MissedTeller::missThatIsNotShownIsToldWhenSomebodyAppears()
     QCOMPARE(notifier.notices.size(), 1);
 }
 
-void tst_MissedTeller::missUnderWayIsNotToldTwice()
+void TestMissedTeller::missUnderWayIsNotToldTwice()
 {
     World world(Start);
     world.add(titled("One"));
@@ -189,7 +189,7 @@ void tst_MissedTeller::missUnderWayIsNotToldTwice()
     QVERIFY(notifier.notices[1].body.startsWith("Two ("));
 }
 
-void tst_MissedTeller::ringNowRingsOnceMore_data()
+void TestMissedTeller::ringNowRingsOnceMore_data()
 {
     QTest::addColumn<quint32>("flags");
     QTest::addColumn<std::optional<State>>("after");
@@ -199,7 +199,7 @@ void tst_MissedTeller::ringNowRingsOnceMore_data()
     QTest::newRow("single shot, stored no more") << quint32(Wire::SingleShot) << std::optional<State>();
 }
 
-void tst_MissedTeller::ringNowRingsOnceMore()
+void TestMissedTeller::ringNowRingsOnceMore()
 {
     QFETCH(quint32, flags);
     QFETCH(std::optional<State>, after);
@@ -226,7 +226,7 @@ void tst_MissedTeller::ringNowRingsOnceMore()
         QCOMPARE(world.state(cookie), *after);
 }
 
-void tst_MissedTeller::ringNowOfADeletedAlarmBringsItBackForOnce()
+void TestMissedTeller::ringNowOfADeletedAlarmBringsItBackForOnce()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -238,7 +238,7 @@ void tst_MissedTeller::ringNowOfADeletedAlarmBringsItBackForOnce()
     QVERIFY(!world.parts->book.find(cookie));
 }
 
-void tst_MissedTeller::ringNowServesNoMomentAhead()
+void TestMissedTeller::ringNowServesNoMomentAhead()
 {
     World world(Seven - 5 * Minute);
     const quint32 cookie = world.add(daily(7, 0));
@@ -249,7 +249,7 @@ void tst_MissedTeller::ringNowServesNoMomentAhead()
     QCOMPARE(world.moment(cookie), std::optional(Seven));
 }
 
-void tst_MissedTeller::ringNowNeedsAMissedOrStoredAlarmThatIsSilent()
+void TestMissedTeller::ringNowNeedsAMissedOrStoredAlarmThatIsSilent()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -259,5 +259,5 @@ void tst_MissedTeller::ringNowNeedsAMissedOrStoredAlarmThatIsSilent()
     QCOMPARE(world.ringer.rung, QList<quint32>{cookie});
 }
 
-QTEST_GUILESS_MAIN(tst_MissedTeller)
+QTEST_GUILESS_MAIN(TestMissedTeller)
 #include "tst_missedteller.moc"

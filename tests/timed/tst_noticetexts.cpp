@@ -16,7 +16,7 @@ using namespace Astel::Timed;
 using Touch::Locale;
 
 /** The texts of notices, and how they name moments. */
-class tst_NoticeTexts : public QObject
+class TestNoticeTexts : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private slots:
     void titlesAreOneLineAndNeverEmpty();
 };
 
-void tst_NoticeTexts::everyTextIsInTheCatalogue_data()
+void TestNoticeTexts::everyTextIsInTheCatalogue_data()
 {
     QTest::addColumn<QByteArray>("name");
     const QRegularExpression expression("qtTrId\\(\"([^\"]+)\"");
@@ -45,13 +45,13 @@ void tst_NoticeTexts::everyTextIsInTheCatalogue_data()
     }
 }
 
-void tst_NoticeTexts::everyTextIsInTheCatalogue()
+void TestNoticeTexts::everyTextIsInTheCatalogue()
 {
     QFETCH(QByteArray, name);
     QVERIFY(qtTrId(name.constData()) != QString::fromLatin1(name));
 }
 
-void tst_NoticeTexts::momentsFollowTheUsersFormats_data()
+void TestNoticeTexts::momentsFollowTheUsersFormats_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<Locale::TimeFormat24h>("format");
@@ -67,7 +67,7 @@ void tst_NoticeTexts::momentsFollowTheUsersFormats_data()
                                               << "Fri, 20 Nov, 7:00\u202Fam";
 }
 
-void tst_NoticeTexts::momentsFollowTheUsersFormats()
+void TestNoticeTexts::momentsFollowTheUsersFormats()
 {
     QFETCH(QString, locale);
     QFETCH(Locale::TimeFormat24h, format);
@@ -80,7 +80,7 @@ void tst_NoticeTexts::momentsFollowTheUsersFormats()
     QTEST(NoticeTexts::dayAndTime(Seven, *berlin), "dayAndTime");
 }
 
-void tst_NoticeTexts::titlesAreOneLineAndNeverEmpty()
+void TestNoticeTexts::titlesAreOneLineAndNeverEmpty()
 {
     Wire::Event event;
     QCOMPARE(NoticeTexts::title(event), "Alarm");
@@ -88,5 +88,5 @@ void tst_NoticeTexts::titlesAreOneLineAndNeverEmpty()
     QCOMPARE(NoticeTexts::title(event), "two lines");
 }
 
-QTEST_GUILESS_MAIN(tst_NoticeTexts)
+QTEST_GUILESS_MAIN(TestNoticeTexts)
 #include "tst_noticetexts.moc"

@@ -7,7 +7,7 @@
 
 using namespace Astel::Timed;
 
-class tst_Sleep : public QObject
+class TestSleep : public QObject
 {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ private slots:
     void timerThatExpiresBeforeTheNoticeOfWakingWoke();
 };
 
-void tst_Sleep::sleepIsDelayedWhileArmingAndRinging()
+void TestSleep::sleepIsDelayedWhileArmingAndRinging()
 {
     World world(Start);
     FakeSleep sleep;
@@ -42,7 +42,7 @@ void tst_Sleep::sleepIsDelayedWhileArmingAndRinging()
     QVERIFY(!sleep.delays.last());
 }
 
-void tst_Sleep::sleepIsDelayedUntilTheLastAlarmIsAnswered()
+void TestSleep::sleepIsDelayedUntilTheLastAlarmIsAnswered()
 {
     World world(Start);
     const quint32 one = world.add(daily(7, 0));
@@ -57,7 +57,7 @@ void tst_Sleep::sleepIsDelayedUntilTheLastAlarmIsAnswered()
     QCOMPARE(sleep.delays, (QList<bool>{true, false}));
 }
 
-void tst_Sleep::wakingRecomputesAndTells()
+void TestSleep::wakingRecomputesAndTells()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -77,7 +77,7 @@ void tst_Sleep::wakingRecomputesAndTells()
     QCOMPARE(world.store.happenings(), QStringList{"resumed"});
 }
 
-void tst_Sleep::momentThatPassedAsleepRingsOrIsMissed_data()
+void TestSleep::momentThatPassedAsleepRingsOrIsMissed_data()
 {
     QTest::addColumn<qint64>("late");
     QTest::addColumn<QStringList>("journal");
@@ -87,7 +87,7 @@ void tst_Sleep::momentThatPassedAsleepRingsOrIsMissed_data()
     QTest::newRow("11 min late") << 11 * Minute << QStringList{"missed"};
 }
 
-void tst_Sleep::momentThatPassedAsleepRingsOrIsMissed()
+void TestSleep::momentThatPassedAsleepRingsOrIsMissed()
 {
     QFETCH(qint64, late);
     QFETCH(QStringList, journal);
@@ -105,7 +105,7 @@ void tst_Sleep::momentThatPassedAsleepRingsOrIsMissed()
         QVERIFY(world.store.misses.isEmpty());
 }
 
-void tst_Sleep::timerThatExpiresBeforeTheNoticeOfWakingWoke()
+void TestSleep::timerThatExpiresBeforeTheNoticeOfWakingWoke()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -120,5 +120,5 @@ void tst_Sleep::timerThatExpiresBeforeTheNoticeOfWakingWoke()
     QCOMPARE(world.store.words(), QStringList{"due"});
 }
 
-QTEST_GUILESS_MAIN(tst_Sleep)
+QTEST_GUILESS_MAIN(TestSleep)
 #include "tst_sleep.moc"

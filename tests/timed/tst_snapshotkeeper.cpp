@@ -20,7 +20,7 @@ constexpr SnapshotKeeper::Delays Delays{1ms, 5ms};
 } // namespace
 
 /** A real store; the keeper's delays are short, and the clock is in the test's hand. */
-class tst_SnapshotKeeper : public QObject
+class TestSnapshotKeeper : public QObject
 {
     Q_OBJECT
 
@@ -45,7 +45,7 @@ private:
     quint32 m_cookie = 0;
 };
 
-void tst_SnapshotKeeper::init()
+void TestSnapshotKeeper::init()
 {
     m_store.reset();
     m_folder = std::make_unique<StoreFolder>();
@@ -56,13 +56,13 @@ void tst_SnapshotKeeper::init()
     m_clock.time = Now;
 }
 
-void tst_SnapshotKeeper::commit(quint32 count)
+void TestSnapshotKeeper::commit(quint32 count)
 {
     for (quint32 i = 0; i < count; ++i)
         QVERIFY(m_store->commit({{stored(++m_cookie)}, {}, {}}));
 }
 
-void tst_SnapshotKeeper::tenChangesAreCopied()
+void TestSnapshotKeeper::tenChangesAreCopied()
 {
     SnapshotKeeper keeper(*m_store, m_clock, Delays);
     commit(10);
@@ -71,7 +71,7 @@ void tst_SnapshotKeeper::tenChangesAreCopied()
     QTRY_VERIFY(!m_store->isAheadOfSnapshot());
 }
 
-void tst_SnapshotKeeper::aFewChangesWait()
+void TestSnapshotKeeper::aFewChangesWait()
 {
     SnapshotKeeper keeper(*m_store, m_clock, Delays);
     commit(9);
@@ -85,7 +85,7 @@ void tst_SnapshotKeeper::aFewChangesWait()
     QTRY_VERIFY(QFile::exists(snapshot()));
 }
 
-void tst_SnapshotKeeper::oneChangeIsCopiedAfterAWhile()
+void TestSnapshotKeeper::oneChangeIsCopiedAfterAWhile()
 {
     SnapshotKeeper keeper(*m_store, m_clock, Delays);
     commit(1);
@@ -95,7 +95,7 @@ void tst_SnapshotKeeper::oneChangeIsCopiedAfterAWhile()
     QTRY_VERIFY(!m_store->isAheadOfSnapshot());
 }
 
-void tst_SnapshotKeeper::aFailedSnapshotIsTriedAgainWithoutAnyChange()
+void TestSnapshotKeeper::aFailedSnapshotIsTriedAgainWithoutAnyChange()
 {
     const Support::LogCapture log;
     const auto failures = [&] { return log.lines(QtWarningMsg).filter("no snapshot").size(); };
@@ -116,7 +116,7 @@ void tst_SnapshotKeeper::aFailedSnapshotIsTriedAgainWithoutAnyChange()
     QCOMPARE(failures(), 2);
 }
 
-void tst_SnapshotKeeper::aFailedSnapshotOfTheStartIsTriedAgain()
+void TestSnapshotKeeper::aFailedSnapshotOfTheStartIsTriedAgain()
 {
     m_store.reset();
     QVERIFY(obstruct());
@@ -130,5 +130,5 @@ void tst_SnapshotKeeper::aFailedSnapshotOfTheStartIsTriedAgain()
     QTRY_VERIFY(!m_store->isAheadOfSnapshot());
 }
 
-QTEST_GUILESS_MAIN(tst_SnapshotKeeper)
+QTEST_GUILESS_MAIN(TestSnapshotKeeper)
 #include "tst_snapshotkeeper.moc"

@@ -19,7 +19,7 @@ constexpr qint64 Day = 86400000;
 constexpr qint64 TenMinutes = 600000;
 } // namespace
 
-class tst_SqliteStore : public QObject
+class TestSqliteStore : public QObject
 {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ private:
     std::unique_ptr<StoreFolder> m_folder;
 };
 
-void tst_SqliteStore::everythingOutlivesTheStore()
+void TestSqliteStore::everythingOutlivesTheStore()
 {
     const AlarmEvent full = stored(7);
     const AlarmEvent plain(8, {});
@@ -66,7 +66,7 @@ void tst_SqliteStore::everythingOutlivesTheStore()
     QCOMPARE(store->journal(0), (QList<Wire::JournalEntry>{{Now, 7, "due", "0 ms late"}}));
 }
 
-void tst_SqliteStore::newVersionTakesThePlaceOfTheOld()
+void TestSqliteStore::newVersionTakesThePlaceOfTheOld()
 {
     const auto store = open();
     QVERIFY(store->commit({{stored(1)}, {}, {}}));
@@ -78,7 +78,7 @@ void tst_SqliteStore::newVersionTakesThePlaceOfTheOld()
     QCOMPARE(store->events()[0].moment(), std::optional<qint64>());
 }
 
-void tst_SqliteStore::lastCookieOutlivesItsEvent()
+void TestSqliteStore::lastCookieOutlivesItsEvent()
 {
     QCOMPARE(open()->lastCookie(), 0u);
     {
@@ -89,7 +89,7 @@ void tst_SqliteStore::lastCookieOutlivesItsEvent()
     QCOMPARE(open()->lastCookie(), 42u);
 }
 
-void tst_SqliteStore::changeIsWrittenAsAWhole()
+void TestSqliteStore::changeIsWrittenAsAWhole()
 {
     const auto store = open();
     QVERIFY(store->commit({{stored(1)}, {}, {}}));
@@ -99,7 +99,7 @@ void tst_SqliteStore::changeIsWrittenAsAWhole()
     QCOMPARE(store->journal(0).size(), 1);
 }
 
-void tst_SqliteStore::fullDiskFailsAndKeepsWhatIsStored()
+void TestSqliteStore::fullDiskFailsAndKeepsWhatIsStored()
 {
     {
         const auto store = open();
@@ -120,7 +120,7 @@ void tst_SqliteStore::fullDiskFailsAndKeepsWhatIsStored()
     QCOMPARE(store->lastCookie(), 3u);
 }
 
-void tst_SqliteStore::journalBeginsWhereAskedAndForgetsAfterAYear()
+void TestSqliteStore::journalBeginsWhereAskedAndForgetsAfterAYear()
 {
     QVERIFY(open()->commit(
         {{}, {}, {{Now - 400 * Day, 1, "due", {}}, {Now - Day, 1, "rang", {}}, {Now, 1, "answered", {}}}}));
@@ -130,7 +130,7 @@ void tst_SqliteStore::journalBeginsWhereAskedAndForgetsAfterAYear()
     QCOMPARE(store->journal(Now - Day + 1).size(), 1);
 }
 
-void tst_SqliteStore::recordThatCannotBeReadDoesNotLoseTheOthers()
+void TestSqliteStore::recordThatCannotBeReadDoesNotLoseTheOthers()
 {
     QVERIFY(open()->commit({{stored(1), stored(2), stored(3)}, {}, {}}));
     {
@@ -144,7 +144,7 @@ void tst_SqliteStore::recordThatCannotBeReadDoesNotLoseTheOthers()
     QCOMPARE(log.lines(QtWarningMsg).size(), 2);
 }
 
-void tst_SqliteStore::snapshotIsWantedAfterTenCommitsOrTenMinutesWithAny()
+void TestSqliteStore::snapshotIsWantedAfterTenCommitsOrTenMinutesWithAny()
 {
     const auto store = open();
     for (quint32 cookie = 1; cookie <= 10; ++cookie) {
@@ -166,7 +166,7 @@ void tst_SqliteStore::snapshotIsWantedAfterTenCommitsOrTenMinutesWithAny()
     QVERIFY(store->wantsSnapshot(Now - TenMinutes));
 }
 
-void tst_SqliteStore::snapshotKeepsNobodyWaiting()
+void TestSqliteStore::snapshotKeepsNobodyWaiting()
 {
     const auto store = open();
     Change many;
@@ -186,12 +186,12 @@ void tst_SqliteStore::snapshotKeepsNobodyWaiting()
     QCOMPARE(store->facts().value("store_integrity").toString(), "ok");
 }
 
-void tst_SqliteStore::knowsTheRoomOnItsDisk()
+void TestSqliteStore::knowsTheRoomOnItsDisk()
 {
     QVERIFY(open()->facts().value("store_free").toLongLong() > 0);
 }
 
-void tst_SqliteStore::snapshotMovesTheLogIntoTheFile()
+void TestSqliteStore::snapshotMovesTheLogIntoTheFile()
 {
     const auto store = open();
     store->waitForSnapshot();
@@ -210,5 +210,5 @@ void tst_SqliteStore::snapshotMovesTheLogIntoTheFile()
     QVERIFY(QFileInfo(path).size() > before + 1000000);
 }
 
-QTEST_GUILESS_MAIN(tst_SqliteStore)
+QTEST_GUILESS_MAIN(TestSqliteStore)
 #include "tst_sqlitestore.moc"

@@ -24,7 +24,7 @@ void goTo(World &world, How how, qint64 now)
 } // namespace
 
 /** What becomes of events when time does not simply pass: daemon off, clock set, other zone, ringer away. */
-class tst_TimeChanges : public QObject
+class TestTimeChanges : public QObject
 {
     Q_OBJECT
 
@@ -57,7 +57,7 @@ private slots:
     void cancelledAndReplacedEventsFallSilent();
 };
 
-void tst_TimeChanges::momentThatPassedRingsOrIsMissed_data()
+void TestTimeChanges::momentThatPassedRingsOrIsMissed_data()
 {
     QTest::addColumn<How>("how");
     QTest::addColumn<qint64>("late");
@@ -75,7 +75,7 @@ void tst_TimeChanges::momentThatPassedRingsOrIsMissed_data()
     }
 }
 
-void tst_TimeChanges::momentThatPassedRingsOrIsMissed()
+void TestTimeChanges::momentThatPassedRingsOrIsMissed()
 {
     QFETCH(How, how);
     QFETCH(qint64, late);
@@ -92,7 +92,7 @@ void tst_TimeChanges::momentThatPassedRingsOrIsMissed()
         QVERIFY(*world.moment(cookie) > world.clock.time && *world.moment(cookie) <= world.clock.time + Day);
 }
 
-void tst_TimeChanges::missedSingleShotIsFinished()
+void TestTimeChanges::missedSingleShotIsFinished()
 {
     World world(Start);
     const quint32 kept = world.add(daily(7, 0, Wire::SingleShot | Wire::KeepAlive));
@@ -103,7 +103,7 @@ void tst_TimeChanges::missedSingleShotIsFinished()
     QCOMPARE(world.store.words(), (QStringList{"missed", "missed"}));
 }
 
-void tst_TimeChanges::clockSetBackRecomputes()
+void TestTimeChanges::clockSetBackRecomputes()
 {
     World world(Start);
     const quint32 recurring = world.add(daily(7, 0));
@@ -116,7 +116,7 @@ void tst_TimeChanges::clockSetBackRecomputes()
     QCOMPARE(world.timer.armed, std::optional(Seven - 2 * Day));
 }
 
-void tst_TimeChanges::clockSetBackASecondDoesNotRingAgain()
+void TestTimeChanges::clockSetBackASecondDoesNotRingAgain()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -126,7 +126,7 @@ void tst_TimeChanges::clockSetBackASecondDoesNotRingAgain()
     QCOMPARE(world.moment(cookie), std::optional(Seven + Day));
 }
 
-void tst_TimeChanges::snoozeKeepsItsLengthWhenTheClockGoesBack()
+void TestTimeChanges::snoozeKeepsItsLengthWhenTheClockGoesBack()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -137,7 +137,7 @@ void tst_TimeChanges::snoozeKeepsItsLengthWhenTheClockGoesBack()
     QCOMPARE(world.moment(cookie), std::optional(Seven - 2 * Day + 10 * Minute));
 }
 
-void tst_TimeChanges::ringingGoesOnWhenTheClockIsSet_data()
+void TestTimeChanges::ringingGoesOnWhenTheClockIsSet_data()
 {
     QTest::addColumn<qint64>("jump");
 
@@ -147,7 +147,7 @@ void tst_TimeChanges::ringingGoesOnWhenTheClockIsSet_data()
     QTest::newRow("forward by years") << 20440 * Day;
 }
 
-void tst_TimeChanges::ringingGoesOnWhenTheClockIsSet()
+void TestTimeChanges::ringingGoesOnWhenTheClockIsSet()
 {
     QFETCH(qint64, jump);
 
@@ -164,7 +164,7 @@ void tst_TimeChanges::ringingGoesOnWhenTheClockIsSet()
     QCOMPARE(world.ringer.stopped, QList<quint32>{cookie});
 }
 
-void tst_TimeChanges::clockWithoutBatteryLosesNothing()
+void TestTimeChanges::clockWithoutBatteryLosesNothing()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0, Wire::SingleShot | Wire::KeepAlive));
@@ -177,7 +177,7 @@ void tst_TimeChanges::clockWithoutBatteryLosesNothing()
     QCOMPARE(world.ringer.rung, QList<quint32>{cookie});
 }
 
-void tst_TimeChanges::clockThatWasAheadByYearsIsForgotten()
+void TestTimeChanges::clockThatWasAheadByYearsIsForgotten()
 {
     World world(Start + 1461 * Day);
     const quint32 cookie = world.add(daily(7, 0));
@@ -189,7 +189,7 @@ void tst_TimeChanges::clockThatWasAheadByYearsIsForgotten()
     QCOMPARE(world.moment(cookie), std::optional(Seven + Day));
 }
 
-void tst_TimeChanges::clockThatJumpsByYearsNeitherRingsNorLoses()
+void TestTimeChanges::clockThatJumpsByYearsNeitherRingsNorLoses()
 {
     World world(Start);
     const quint32 recurring = world.add(daily(7, 0, Wire::SingleShot));
@@ -206,7 +206,7 @@ void tst_TimeChanges::clockThatJumpsByYearsNeitherRingsNorLoses()
     QVERIFY(world.store.words().isEmpty());
 }
 
-void tst_TimeChanges::otherZoneRecomputesFromTheRule()
+void TestTimeChanges::otherZoneRecomputesFromTheRule()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -219,7 +219,7 @@ void tst_TimeChanges::otherZoneRecomputesFromTheRule()
     QCOMPARE(world.moment(cookie), std::optional(utc("2026-11-20T22:00:00")));
 }
 
-void tst_TimeChanges::changesAreToldBeforeTheSettings()
+void TestTimeChanges::changesAreToldBeforeTheSettings()
 {
     World world(Start);
     world.add(daily(7, 0));
@@ -232,7 +232,7 @@ void tst_TimeChanges::changesAreToldBeforeTheSettings()
     QCOMPARE(told, (QStringList{"changed", "clock", "changed", "zone"}));
 }
 
-void tst_TimeChanges::restartResumesRinging()
+void TestTimeChanges::restartResumesRinging()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -246,7 +246,7 @@ void tst_TimeChanges::restartResumesRinging()
     QCOMPARE(world.store.words(), (QStringList{"due", "rang", "missed"}));
 }
 
-void tst_TimeChanges::restartAfterTheRingTimeGoesOnAsIfUnanswered()
+void TestTimeChanges::restartAfterTheRingTimeGoesOnAsIfUnanswered()
 {
     World world(Start);
     Wire::Event event = daily(7, 0);
@@ -264,7 +264,7 @@ void tst_TimeChanges::restartAfterTheRingTimeGoesOnAsIfUnanswered()
     QCOMPARE(world.store.words().last(), "missed");
 }
 
-void tst_TimeChanges::restartRearmsASnooze_data()
+void TestTimeChanges::restartRearmsASnooze_data()
 {
     QTest::addColumn<qint64>("offUntil");
     QTest::addColumn<State>("state");
@@ -274,7 +274,7 @@ void tst_TimeChanges::restartRearmsASnooze_data()
     QTest::newRow("ended long ago") << Seven + 12 * Hour << State::Waiting;
 }
 
-void tst_TimeChanges::restartRearmsASnooze()
+void TestTimeChanges::restartRearmsASnooze()
 {
     QFETCH(qint64, offUntil);
     QFETCH(State, state);
@@ -291,7 +291,7 @@ void tst_TimeChanges::restartRearmsASnooze()
         QCOMPARE(world.timer.armed, std::optional(Seven + 10 * Minute));
 }
 
-void tst_TimeChanges::restartLeavesAFinishedEventAlone()
+void TestTimeChanges::restartLeavesAFinishedEventAlone()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0, Wire::SingleShot | Wire::KeepAlive));
@@ -302,7 +302,7 @@ void tst_TimeChanges::restartLeavesAFinishedEventAlone()
     QVERIFY(!world.timer.armed);
 }
 
-void tst_TimeChanges::restartNeverReusesACookie()
+void TestTimeChanges::restartNeverReusesACookie()
 {
     World world(Start);
     const quint32 first = world.add(daily(7, 0));
@@ -311,7 +311,7 @@ void tst_TimeChanges::restartNeverReusesACookie()
     QVERIFY(world.add(daily(7, 0)) > first);
 }
 
-void tst_TimeChanges::silentRingerIsCalledAgain()
+void TestTimeChanges::silentRingerIsCalledAgain()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -332,7 +332,7 @@ void tst_TimeChanges::silentRingerIsCalledAgain()
     QCOMPARE(callsAt(Seven + 119 * Second), 5);
 }
 
-void tst_TimeChanges::silentRingerIsCalledAgainAfterARestart()
+void TestTimeChanges::silentRingerIsCalledAgainAfterARestart()
 {
     World world(Start);
     world.add(daily(7, 0));
@@ -342,7 +342,7 @@ void tst_TimeChanges::silentRingerIsCalledAgainAfterARestart()
     QCOMPARE(world.ringer.rung.size(), 2);
 }
 
-void tst_TimeChanges::silentRingerIsCalledAgainWhenTheClockGoesBack()
+void TestTimeChanges::silentRingerIsCalledAgainWhenTheClockGoesBack()
 {
     World world(Start);
     world.add(daily(7, 0));
@@ -353,7 +353,7 @@ void tst_TimeChanges::silentRingerIsCalledAgainWhenTheClockGoesBack()
     QCOMPARE(world.ringer.rung.size(), 2);
 }
 
-void tst_TimeChanges::ringerThatDiesIsCalledAgain()
+void TestTimeChanges::ringerThatDiesIsCalledAgain()
 {
     World world(Start);
     const quint32 cookie = world.add(daily(7, 0));
@@ -373,7 +373,7 @@ void tst_TimeChanges::ringerThatDiesIsCalledAgain()
     QCOMPARE(world.ringer.rung.size(), 4);
 }
 
-void tst_TimeChanges::cancelledAndReplacedEventsFallSilent()
+void TestTimeChanges::cancelledAndReplacedEventsFallSilent()
 {
     World world(Start);
     const quint32 cancelled = world.add(daily(7, 0));
@@ -387,5 +387,5 @@ void tst_TimeChanges::cancelledAndReplacedEventsFallSilent()
     QVERIFY(world.ringer.rung.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(tst_TimeChanges)
+QTEST_GUILESS_MAIN(TestTimeChanges)
 #include "tst_timechanges.moc"

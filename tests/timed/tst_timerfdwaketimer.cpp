@@ -30,7 +30,7 @@ int setTime(int descriptor, int flags, const itimerspec *wanted, itimerspec *bef
 
 } // namespace
 
-class tst_TimerFdWakeTimer : public QObject
+class TestTimerFdWakeTimer : public QObject
 {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ private slots:
     void wakesWithTheRightAndAClockThatCan();
 };
 
-void tst_TimerFdWakeTimer::armedMomentIsReadBack()
+void TestTimerFdWakeTimer::armedMomentIsReadBack()
 {
     TimerFdWakeTimer timer;
     const qint64 moment = QDateTime::currentMSecsSinceEpoch() + 3600000;
@@ -53,7 +53,7 @@ void tst_TimerFdWakeTimer::armedMomentIsReadBack()
     QVERIFY(std::abs(*timer.armedFor() - moment) <= 2);
 }
 
-void tst_TimerFdWakeTimer::unarmedTimerSaysSo()
+void TestTimerFdWakeTimer::unarmedTimerSaysSo()
 {
     TimerFdWakeTimer timer;
     QVERIFY(!timer.armedFor());
@@ -62,7 +62,7 @@ void tst_TimerFdWakeTimer::unarmedTimerSaysSo()
     QVERIFY(!timer.armedFor());
 }
 
-void tst_TimerFdWakeTimer::expiresAtItsMomentAndNotBefore()
+void TestTimerFdWakeTimer::expiresAtItsMomentAndNotBefore()
 {
     TimerFdWakeTimer timer;
     const QSignalSpy expired(&timer, &WakeTimer::expired);
@@ -73,7 +73,7 @@ void tst_TimerFdWakeTimer::expiresAtItsMomentAndNotBefore()
     QVERIFY(!timer.armedFor());
 }
 
-void tst_TimerFdWakeTimer::momentThatPassedExpiresAtOnce()
+void TestTimerFdWakeTimer::momentThatPassedExpiresAtOnce()
 {
     TimerFdWakeTimer timer;
     const QSignalSpy expired(&timer, &WakeTimer::expired);
@@ -81,7 +81,7 @@ void tst_TimerFdWakeTimer::momentThatPassedExpiresAtOnce()
     QTRY_COMPARE(expired.size(), 1);
 }
 
-void tst_TimerFdWakeTimer::tellsOfAClockThatWasSetBeforeItIsArmed()
+void TestTimerFdWakeTimer::tellsOfAClockThatWasSetBeforeItIsArmed()
 {
     TimerFdWakeTimer timer("/sys/class/rtc", setTime);
     const QSignalSpy clockSet(&timer, &WakeTimer::clockSet);
@@ -94,7 +94,7 @@ void tst_TimerFdWakeTimer::tellsOfAClockThatWasSetBeforeItIsArmed()
     QCOMPARE(clockSet.size(), 1);
 }
 
-void tst_TimerFdWakeTimer::wakesWithTheRightAndAClockThatCan_data()
+void TestTimerFdWakeTimer::wakesWithTheRightAndAClockThatCan_data()
 {
     QTest::addColumn<QStringList>("files");
     QTest::addColumn<QByteArray>("wakeup");
@@ -108,7 +108,7 @@ void tst_TimerFdWakeTimer::wakesWithTheRightAndAClockThatCan_data()
     QTest::newRow("told not to wake") << QStringList{"rtc0/wakealarm"} << QByteArray("disabled\n") << false;
 }
 
-void tst_TimerFdWakeTimer::wakesWithTheRightAndAClockThatCan()
+void TestTimerFdWakeTimer::wakesWithTheRightAndAClockThatCan()
 {
     QFETCH(QStringList, files);
     QFETCH(QByteArray, wakeup);
@@ -132,5 +132,5 @@ void tst_TimerFdWakeTimer::wakesWithTheRightAndAClockThatCan()
         QCOMPARE(timer.reason(), "no hardware clock can wake the device");
 }
 
-QTEST_GUILESS_MAIN(tst_TimerFdWakeTimer)
+QTEST_GUILESS_MAIN(TestTimerFdWakeTimer)
 #include "tst_timerfdwaketimer.moc"

@@ -11,7 +11,7 @@ using namespace Astel::Timed;
 using Edit = std::function<void(Wire::Event &)>;
 Q_DECLARE_METATYPE(Edit)
 
-class tst_Validator : public QObject
+class TestValidator : public QObject
 {
     Q_OBJECT
 
@@ -96,7 +96,7 @@ void recurrenceRows(const std::function<void(const char *, const char *, Edit)> 
 
 } // namespace
 
-void tst_Validator::eventIsTakenOrRefused_data()
+void TestValidator::eventIsTakenOrRefused_data()
 {
     QTest::addColumn<Edit>("edit");
     QTest::addColumn<QString>("error");
@@ -124,7 +124,7 @@ void tst_Validator::eventIsTakenOrRefused_data()
     recurrenceRows(row);
 }
 
-void tst_Validator::eventIsTakenOrRefused()
+void TestValidator::eventIsTakenOrRefused()
 {
     QFETCH(Edit, edit);
     QFETCH(QString, error);
@@ -136,7 +136,7 @@ void tst_Validator::eventIsTakenOrRefused()
     QVERIFY(result || !result.error().text.isEmpty());
 }
 
-void tst_Validator::filterIsTakenOrRefused()
+void TestValidator::filterIsTakenOrRefused()
 {
     Wire::Filter filter;
     for (int i = 0; i < 64; ++i)
@@ -147,7 +147,7 @@ void tst_Validator::filterIsTakenOrRefused()
     QCOMPARE(validate(Wire::Filter{{}, true}).error().name, Wire::LimitError);
 }
 
-void tst_Validator::textsOfAnswersAreLimited()
+void TestValidator::textsOfAnswersAreLimited()
 {
     QVERIFY(validateTone(QString(4096, 't')));
     QCOMPARE(validateTone(QString(4097, 't')).error().name, Wire::LimitError);
@@ -155,5 +155,5 @@ void tst_Validator::textsOfAnswersAreLimited()
     QCOMPARE(validateWho(QString(129, 'w')).error().name, Wire::LimitError);
 }
 
-QTEST_GUILESS_MAIN(tst_Validator)
+QTEST_GUILESS_MAIN(TestValidator)
 #include "tst_validator.moc"

@@ -13,7 +13,7 @@ namespace Wire = Astel::Timed::Wire;
 using Step = std::function<void(Event &)>;
 Q_DECLARE_METATYPE(Step)
 
-class EventTest : public QObject
+class TestEvent : public QObject
 {
     Q_OBJECT
 
@@ -31,14 +31,14 @@ private slots:
     void raisesAnExceptionThatSaysWhatIsWrong();
 };
 
-void EventTest::isEmptyAtFirst()
+void TestEvent::isEmptyAtFirst()
 {
     const Wire::Event wire = Event().toWire();
     QCOMPARE(wire.ticker, -1);
     QVERIFY(wire == Wire::Event());
 }
 
-void EventTest::carriesAttributes()
+void TestEvent::carriesAttributes()
 {
     Event event;
     event.setAttribute("TITLE", "first");
@@ -48,7 +48,7 @@ void EventTest::carriesAttributes()
     QCOMPARE(event.toWire().attributes, expected);
 }
 
-void EventTest::setsEachFlag_data()
+void TestEvent::setsEachFlag_data()
 {
     QTest::addColumn<Step>("step");
     QTest::addColumn<quint32>("flag");
@@ -63,7 +63,7 @@ void EventTest::setsEachFlag_data()
     QTest::newRow("first snooze button hidden") << Step(&Event::hideSnoozeButton1) << 128u;
 }
 
-void EventTest::setsEachFlag()
+void TestEvent::setsEachFlag()
 {
     QFETCH(const Step, step);
     QFETCH(const quint32, flag);
@@ -74,7 +74,7 @@ void EventTest::setsEachFlag()
     QCOMPARE(event.toWire().flags, flag | Wire::Boot);
 }
 
-void EventTest::carriesTheSetsOfARecurrence()
+void TestEvent::carriesTheSetsOfARecurrence()
 {
     Event event;
     Event::Recurrence &recurrence = event.addRecurrence();
@@ -93,7 +93,7 @@ void EventTest::carriesTheSetsOfARecurrence()
     QVERIFY(event.toWire().recurrences == QList<Wire::Recurrence>{expected});
 }
 
-void EventTest::fillsWholeSets()
+void TestEvent::fillsWholeSets()
 {
     Event event;
     Event::Recurrence &recurrence = event.addRecurrence();
@@ -112,7 +112,7 @@ void EventTest::fillsWholeSets()
     QVERIFY(!event.toWire().recurrences.first().fillingGaps);
 }
 
-void EventTest::keepsReferencesWhileMoreAreAdded()
+void TestEvent::keepsReferencesWhileMoreAreAdded()
 {
     Event event;
     Event::Button &button = event.addButton();
@@ -131,7 +131,7 @@ void EventTest::keepsReferencesWhileMoreAreAdded()
     QCOMPARE(wire.recurrences.first().hours, 2u);
 }
 
-void EventTest::copiesEverything()
+void TestEvent::copiesEverything()
 {
     Event event;
     event.setTicker(1298448000);
@@ -147,7 +147,7 @@ void EventTest::copiesEverything()
     QCOMPARE(event.toWire().buttons.first().snooze, 300);
 }
 
-void EventTest::acceptsTheEndsOfEveryRange()
+void TestEvent::acceptsTheEndsOfEveryRange()
 {
     Event event;
     event.setTicker(0);
@@ -162,7 +162,7 @@ void EventTest::acceptsTheEndsOfEveryRange()
     QCOMPARE(event.toWire().recurrences.first().minutes, Q_UINT64_C(1));
 }
 
-void EventTest::raisesAnExceptionThatSaysWhatIsWrong_data()
+void TestEvent::raisesAnExceptionThatSaysWhatIsWrong_data()
 {
     QTest::addColumn<Step>("step");
     QTest::addColumn<QString>("message");
@@ -195,7 +195,7 @@ void EventTest::raisesAnExceptionThatSaysWhatIsWrong_data()
                                 << "maximal timeout snooze counter -1 is negative";
 }
 
-void EventTest::raisesAnExceptionThatSaysWhatIsWrong()
+void TestEvent::raisesAnExceptionThatSaysWhatIsWrong()
 {
     QFETCH(const Step, step);
     QFETCH(const QString, message);
@@ -218,5 +218,5 @@ void EventTest::raisesAnExceptionThatSaysWhatIsWrong()
     QVERIFY(wire.buttons.isEmpty() || wire.buttons.first() == Wire::Button());
 }
 
-QTEST_APPLESS_MAIN(EventTest)
+QTEST_APPLESS_MAIN(TestEvent)
 #include "tst_event.moc"

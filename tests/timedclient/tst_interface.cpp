@@ -90,7 +90,7 @@ Event sampleEvent()
 
 } // namespace
 
-class InterfaceTest : public QObject
+class TestInterface : public QObject
 {
     Q_OBJECT
 
@@ -120,7 +120,7 @@ private:
     Recorder m_recorder;
 };
 
-void InterfaceTest::initTestCase()
+void TestInterface::initTestCase()
 {
     QVERIFY(m_bus.isRunning());
     QDBusConnection connection = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "daemon");
@@ -128,7 +128,7 @@ void InterfaceTest::initTestCase()
     QVERIFY(connection.registerService(Wire::Service));
 }
 
-void InterfaceTest::init()
+void TestInterface::init()
 {
     m_recorder.last = QDBusMessage();
     m_recorder.answer.clear();
@@ -137,12 +137,12 @@ void InterfaceTest::init()
 
 /** Waits without blocking the recorder, which lives in this thread. */
 template <typename Reply>
-void InterfaceTest::finish(Reply &reply)
+void TestInterface::finish(Reply &reply)
 {
     QTRY_VERIFY(reply.isFinished());
 }
 
-void InterfaceTest::sendsTheWholeEvent()
+void TestInterface::sendsTheWholeEvent()
 {
     Interface timed;
     m_recorder.answer = {7u};
@@ -155,7 +155,7 @@ void InterfaceTest::sendsTheWholeEvent()
     QVERIFY(qdbus_cast<Wire::Event>(m_recorder.last.arguments().first()) == event.toWire());
 }
 
-void InterfaceTest::sendsTheCookieThatIsReplaced()
+void TestInterface::sendsTheCookieThatIsReplaced()
 {
     Interface timed;
     m_recorder.answer = {8u};
@@ -170,7 +170,7 @@ void InterfaceTest::sendsTheCookieThatIsReplaced()
 using Call = std::function<QDBusPendingCall(Interface &)>;
 Q_DECLARE_METATYPE(Call)
 
-void InterfaceTest::sendsTheOtherCalls_data()
+void TestInterface::sendsTheOtherCalls_data()
 {
     QTest::addColumn<Call>("call");
     QTest::addColumn<QString>("signature");
@@ -198,7 +198,7 @@ void InterfaceTest::sendsTheOtherCalls_data()
     QTest::newRow("health") << Call([](Interface &timed) { return timed.health(); }) << "" << QVariantList{};
 }
 
-void InterfaceTest::sendsTheOtherCalls()
+void TestInterface::sendsTheOtherCalls()
 {
     QFETCH(const Call, call);
     QFETCH(const QString, signature);
@@ -213,7 +213,7 @@ void InterfaceTest::sendsTheOtherCalls()
     QCOMPARE(m_recorder.last.arguments(), arguments);
 }
 
-void InterfaceTest::readsAnswersOfEveryType()
+void TestInterface::readsAnswersOfEveryType()
 {
     Interface timed;
 
@@ -251,7 +251,7 @@ void InterfaceTest::readsAnswersOfEveryType()
     QVERIFY(journal.value() == entries);
 }
 
-void InterfaceTest::carriesTheRecordsOfABackup()
+void TestInterface::carriesTheRecordsOfABackup()
 {
     Interface timed;
     const Wire::Records records{{{sampleEvent().toWire(), "WAITING", 5}, {Wire::Event(), "FINISHED", 0}}};
@@ -270,7 +270,7 @@ void InterfaceTest::carriesTheRecordsOfABackup()
     QCOMPARE(qdbus_cast<Wire::Records>(m_recorder.last.arguments().value(0)).records, records.records);
 }
 
-void InterfaceTest::answersWithTheNamedError()
+void TestInterface::answersWithTheNamedError()
 {
     Interface timed;
     m_recorder.error = Wire::UnknownError;
@@ -281,7 +281,7 @@ void InterfaceTest::answersWithTheNamedError()
     QCOMPARE(reply.error().message(), "no");
 }
 
-void InterfaceTest::returnsBeforeTheAnswer()
+void TestInterface::returnsBeforeTheAnswer()
 {
     Interface timed;
     m_recorder.answer = {7u};
@@ -292,7 +292,7 @@ void InterfaceTest::returnsBeforeTheAnswer()
     QVERIFY(reply.isValid());
 }
 
-void InterfaceTest::connectsTheSettingsSignal()
+void TestInterface::connectsTheSettingsSignal()
 {
     Interface timed;
     Receiver receiver;
@@ -306,7 +306,7 @@ void InterfaceTest::connectsTheSettingsSignal()
     QVERIFY(receiver.received.first().second);
 }
 
-void InterfaceTest::connectsASlotOfFewerArguments()
+void TestInterface::connectsASlotOfFewerArguments()
 {
     Interface timed;
     Receiver receiver;
@@ -317,7 +317,7 @@ void InterfaceTest::connectsASlotOfFewerArguments()
     QTRY_COMPARE(receiver.calls, 1);
 }
 
-void InterfaceTest::readsTheZoneBeforeItTellsOfAnother()
+void TestInterface::readsTheZoneBeforeItTellsOfAnother()
 {
     Interface timed;
     Receiver receiver;
@@ -336,7 +336,7 @@ void InterfaceTest::readsTheZoneBeforeItTellsOfAnother()
     QCOMPARE(receiver.offset, 20700L);
 }
 
-void InterfaceTest::refusesASlotThatIsNotThere_data()
+void TestInterface::refusesASlotThatIsNotThere_data()
 {
     QTest::addColumn<QByteArray>("slot");
 
@@ -346,7 +346,7 @@ void InterfaceTest::refusesASlotThatIsNotThere_data()
     QTest::newRow("nothing") << QByteArray("");
 }
 
-void InterfaceTest::refusesASlotThatIsNotThere()
+void TestInterface::refusesASlotThatIsNotThere()
 {
     QFETCH(const QByteArray, slot);
     Interface timed;
@@ -354,5 +354,5 @@ void InterfaceTest::refusesASlotThatIsNotThere()
     QVERIFY(!timed.settings_changed_connect(&receiver, slot.constData()));
 }
 
-QTEST_GUILESS_MAIN(InterfaceTest)
+QTEST_GUILESS_MAIN(TestInterface)
 #include "tst_interface.moc"

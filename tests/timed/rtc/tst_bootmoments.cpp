@@ -14,7 +14,7 @@ constexpr long long Now = 1795150800;
 
 } // namespace
 
-class tst_BootMoments : public QObject
+class TestBootMoments : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private:
     const QString m_own = QString::number(getuid());
 };
 
-void tst_BootMoments::oneFileTellsTheMoment_data()
+void TestBootMoments::oneFileTellsTheMoment_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<bool>("valid");
@@ -59,7 +59,7 @@ void tst_BootMoments::oneFileTellsTheMoment_data()
     QTest::newRow("a fraction") << ahead + ".5" << false;
 }
 
-void tst_BootMoments::oneFileTellsTheMoment()
+void TestBootMoments::oneFileTellsTheMoment()
 {
     QFETCH(QByteArray, content);
     QFETCH(bool, valid);
@@ -68,7 +68,7 @@ void tst_BootMoments::oneFileTellsTheMoment()
     QCOMPARE(next(), valid ? std::optional(Now + 3600) : std::nullopt);
 }
 
-void tst_BootMoments::filesOfOthersAreReadByTheirOwnersNumber()
+void TestBootMoments::filesOfOthersAreReadByTheirOwnersNumber()
 {
     write(m_own, QByteArray::number(Now + 3600));
     // A name that is not its owner's number, however early its moment.
@@ -77,7 +77,7 @@ void tst_BootMoments::filesOfOthersAreReadByTheirOwnersNumber()
     QCOMPARE(next(), std::optional(Now + 3600));
 }
 
-void tst_BootMoments::onlyPlainFilesAreRead()
+void TestBootMoments::onlyPlainFilesAreRead()
 {
     write("elsewhere", QByteArray::number(Now + 3600));
     const QString own = m_folder.filePath(m_own);
@@ -90,10 +90,10 @@ void tst_BootMoments::onlyPlainFilesAreRead()
     QVERIFY(QFile::remove(own));
 }
 
-void tst_BootMoments::missingFolderIsNoMoment()
+void TestBootMoments::missingFolderIsNoMoment()
 {
     QCOMPARE(Rtc::nextBootMoment("/nonexistent/folder", Now), std::nullopt);
 }
 
-QTEST_GUILESS_MAIN(tst_BootMoments)
+QTEST_GUILESS_MAIN(TestBootMoments)
 #include "tst_bootmoments.moc"

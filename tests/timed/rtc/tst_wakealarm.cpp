@@ -17,7 +17,7 @@ constexpr long long Now = 1795150800;
 } // namespace
 
 /** The alarm of a hardware clock, with a folder of plain files in its place. */
-class tst_WakeAlarm : public QObject
+class TestWakeAlarm : public QObject
 {
     Q_OBJECT
 
@@ -52,13 +52,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-void tst_WakeAlarm::init()
+void TestWakeAlarm::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     write("wakealarm", "");
 }
 
-void tst_WakeAlarm::deviceTurnsOnTwoMinutesBefore_data()
+void TestWakeAlarm::deviceTurnsOnTwoMinutesBefore_data()
 {
     QTest::addColumn<qint64>("moment");
     QTest::addColumn<qint64>("wake");
@@ -69,7 +69,7 @@ void tst_WakeAlarm::deviceTurnsOnTwoMinutesBefore_data()
     QTest::newRow("a second ahead") << qint64(Now + 1) << qint64(Now + 60);
 }
 
-void tst_WakeAlarm::deviceTurnsOnTwoMinutesBefore()
+void TestWakeAlarm::deviceTurnsOnTwoMinutesBefore()
 {
     QFETCH(qint64, moment);
     QFETCH(qint64, wake);
@@ -77,7 +77,7 @@ void tst_WakeAlarm::deviceTurnsOnTwoMinutesBefore()
     QCOMPARE(qint64(Rtc::wakeTime(moment, Now)), wake);
 }
 
-void tst_WakeAlarm::clockWithAnotherTimeGetsItsOwn_data()
+void TestWakeAlarm::clockWithAnotherTimeGetsItsOwn_data()
 {
     QTest::addColumn<QByteArray>("ownTime");
     QTest::addColumn<qint64>("written");
@@ -89,7 +89,7 @@ void tst_WakeAlarm::clockWithAnotherTimeGetsItsOwn_data()
     QTest::newRow("does not tell") << QByteArray() << qint64(Now + 7080);
 }
 
-void tst_WakeAlarm::clockWithAnotherTimeGetsItsOwn()
+void TestWakeAlarm::clockWithAnotherTimeGetsItsOwn()
 {
     QFETCH(QByteArray, ownTime);
     QFETCH(qint64, written);
@@ -99,7 +99,7 @@ void tst_WakeAlarm::clockWithAnotherTimeGetsItsOwn()
     QCOMPARE(alarm(), QByteArray::number(written) + '\n');
 }
 
-void tst_WakeAlarm::alarmBeforeIsClearedFirst()
+void TestWakeAlarm::alarmBeforeIsClearedFirst()
 {
     // A pipe keeps what was written, one after the other.
     QFile::remove(path("wakealarm"));
@@ -115,12 +115,12 @@ void tst_WakeAlarm::alarmBeforeIsClearedFirst()
     QCOMPARE(reader.readAllStandardOutput(), "0\n" + QByteArray::number(Now) + '\n');
 }
 
-void tst_WakeAlarm::missingClockIsAFailure()
+void TestWakeAlarm::missingClockIsAFailure()
 {
     QVERIFY(!Rtc::setWakeAlarm("/nonexistent/clock", Now + 7080, Now));
 }
 
-void tst_WakeAlarm::programSetsTheNextMoment()
+void TestWakeAlarm::programSetsTheNextMoment()
 {
     QTemporaryDir moments;
     QFile file(moments.filePath(QString::number(getuid())));
@@ -133,7 +133,7 @@ void tst_WakeAlarm::programSetsTheNextMoment()
     QCOMPARE(run({"--moments", moments.path(), "--rtc", "/nonexistent/clock"}), 1);
 }
 
-void tst_WakeAlarm::programWritesNothingWithoutAMoment()
+void TestWakeAlarm::programWritesNothingWithoutAMoment()
 {
     const QTemporaryDir moments;
     write("wakealarm", "1795000000\n");
@@ -141,12 +141,12 @@ void tst_WakeAlarm::programWritesNothingWithoutAMoment()
     QCOMPARE(alarm(), QByteArray("1795000000\n"));
 }
 
-void tst_WakeAlarm::programRefusesOtherArguments()
+void TestWakeAlarm::programRefusesOtherArguments()
 {
     QCOMPARE(run({"--rtc"}), 2);
     QCOMPARE(run({"--frobnicate", "yes"}), 2);
     QCOMPARE(alarm(), QByteArray());
 }
 
-QTEST_GUILESS_MAIN(tst_WakeAlarm)
+QTEST_GUILESS_MAIN(TestWakeAlarm)
 #include "tst_wakealarm.moc"

@@ -46,7 +46,7 @@ Zone zone(const QByteArray &id)
 
 } // namespace
 
-class tst_NextMoment : public QObject
+class TestNextMoment : public QObject
 {
     Q_OBJECT
 
@@ -64,7 +64,7 @@ private slots:
     void environmentChoosesTheLocalZone();
 };
 
-void tst_NextMoment::dailyTime_data()
+void TestNextMoment::dailyTime_data()
 {
     QTest::addColumn<QByteArray>("zoneId");
     QTest::addColumn<Rule>("rule");
@@ -106,7 +106,7 @@ void tst_NextMoment::dailyTime_data()
     row("UTC", "UTC", at(0, 0), "2026-12-31T23:59:59", "2027-01-01T00:00:00");
 }
 
-void tst_NextMoment::dailyTime()
+void TestNextMoment::dailyTime()
 {
     QFETCH(QByteArray, zoneId);
     QFETCH(Rule, rule);
@@ -118,7 +118,7 @@ void tst_NextMoment::dailyTime()
     QCOMPARE(QDateTime::fromSecsSinceEpoch(*found, Qt::UTC).toString("yyyy-MM-ddTHH:mm:ss"), expected);
 }
 
-void tst_NextMoment::sparseRule_data()
+void TestNextMoment::sparseRule_data()
 {
     QTest::addColumn<Rule>("rule");
     QTest::addColumn<QString>("after");
@@ -146,7 +146,7 @@ void tst_NextMoment::sparseRule_data()
     row("31st", onDate(12, 31, 23, 59), "2026-12-31T23:59:00", "2027-12-31T23:59:00");
 }
 
-void tst_NextMoment::sparseRule()
+void TestNextMoment::sparseRule()
 {
     QFETCH(Rule, rule);
     QFETCH(QString, after);
@@ -157,7 +157,7 @@ void tst_NextMoment::sparseRule()
     QCOMPARE(QDateTime::fromSecsSinceEpoch(*found, Qt::UTC).toString("yyyy-MM-ddTHH:mm:ss"), expected);
 }
 
-void tst_NextMoment::ruleThatCannotMatchEndsQuickly_data()
+void TestNextMoment::ruleThatCannotMatchEndsQuickly_data()
 {
     QTest::addColumn<Rule>("rule");
     QTest::addColumn<qint64>("after");
@@ -177,7 +177,7 @@ void tst_NextMoment::ruleThatCannotMatchEndsQuickly_data()
     QTest::newRow("end of time") << at(7, 0) << std::numeric_limits<qint64>::max();
 }
 
-void tst_NextMoment::ruleThatCannotMatchEndsQuickly()
+void TestNextMoment::ruleThatCannotMatchEndsQuickly()
 {
     QFETCH(Rule, rule);
     QFETCH(qint64, after);
@@ -189,7 +189,7 @@ void tst_NextMoment::ruleThatCannotMatchEndsQuickly()
     QVERIFY2(elapsed.elapsed() < 3000, qPrintable(QString::number(elapsed.elapsed())));
 }
 
-void tst_NextMoment::everyMinuteGoesThroughAGapWithoutPause()
+void TestNextMoment::everyMinuteGoesThroughAGapWithoutPause()
 {
     const Rule always{AllHours, AllMinutes, AllWeekdays, AllDays, AllMonths, true};
     const Zone havana = zone("America/Havana");
@@ -201,7 +201,7 @@ void tst_NextMoment::everyMinuteGoesThroughAGapWithoutPause()
     }
 }
 
-void tst_NextMoment::filledTimeComesAfterAnEarlierLaterOne()
+void TestNextMoment::filledTimeComesAfterAnEarlierLaterOne()
 {
     // 02:30 is read as 03:30 in that night, so 03:10 comes first.
     Rule rule = at(2, 30);
@@ -219,7 +219,7 @@ void tst_NextMoment::filledTimeComesAfterAnEarlierLaterOne()
         (QList<qint64>{moment("2026-03-29T01:10:00"), moment("2026-03-29T01:30:00"), moment("2026-03-30T00:10:00")}));
 }
 
-void tst_NextMoment::unknownZoneIsRefusedWithItsName()
+void TestNextMoment::unknownZoneIsRefusedWithItsName()
 {
     QString error;
     QVERIFY(!Zone::create("Atlantis/Capital", &error));
@@ -228,7 +228,7 @@ void tst_NextMoment::unknownZoneIsRefusedWithItsName()
     QVERIFY(!Zone::create("../../../etc/passwd", &error));
 }
 
-void tst_NextMoment::environmentChoosesTheLocalZone_data()
+void TestNextMoment::environmentChoosesTheLocalZone_data()
 {
     QTest::addColumn<QByteArray>("environment");
     QTest::addColumn<qint64>("offset");
@@ -240,7 +240,7 @@ void tst_NextMoment::environmentChoosesTheLocalZone_data()
     QTest::newRow("empty means UTC") << QByteArray("") << qint64(0);
 }
 
-void tst_NextMoment::environmentChoosesTheLocalZone()
+void TestNextMoment::environmentChoosesTheLocalZone()
 {
     QFETCH(QByteArray, environment);
     QFETCH(qint64, offset);
@@ -253,5 +253,5 @@ void tst_NextMoment::environmentChoosesTheLocalZone()
     QCOMPARE(local->stretchAt(moment("2026-11-20T12:00:00")).offset, offset);
 }
 
-QTEST_GUILESS_MAIN(tst_NextMoment)
+QTEST_GUILESS_MAIN(TestNextMoment)
 #include "tst_nextmoment.moc"
