@@ -57,6 +57,7 @@ void MashupPage::createContent()
     m_clockFace->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_dropShadow = new DropShadow;
     arrange(layout, createAlarmList());
+    connect(this, &QGraphicsWidget::heightChanged, m_clockFace, [this] { fitClockFace(); });
     fitClockFace();
     followDaemonSettings();
 }
@@ -111,23 +112,9 @@ void MashupPage::arrange(Touch::Layout *layout, Touch::PannableViewport *viewpor
     layout->setPortraitPolicy(portrait);
 }
 
-void MashupPage::resizeEvent(QGraphicsSceneResizeEvent *event)
-{
-    fitClockFace();
-    Touch::ApplicationPage::resizeEvent(event);
-}
-
-void MashupPage::styleChanged()
-{
-    Touch::ApplicationPage::styleChanged();
-    fitClockFace();
-}
-
 // In a low window it becomes smaller, so that alarms are seen as well.
 void MashupPage::fitClockFace()
 {
-    if (!m_clockFace)
-        return;
     const bool isAboveAlarms = !hostWindow() || hostWindow()->orientation() == Qt::Vertical;
     const qreal room = paddedRect().height() * (isAboveAlarms ? ClockFaceShare : 1);
     m_clockFace->setPreferredHeight(qMin<qreal>(m_clockFace->style().preferredSize.height(), qFloor(room)));

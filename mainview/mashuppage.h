@@ -44,8 +44,6 @@ private:
     Touch::Separator *createDivider();
     void arrange(Touch::Layout *layout, Touch::PannableViewport *viewport);
     void followDaemonSettings();
-    void resizeEvent(QGraphicsSceneResizeEvent *event) override;
-    void styleChanged() override;
     void fitClockFace();
 
     WorldClock *m_clockFace = nullptr;
