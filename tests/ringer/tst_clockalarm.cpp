@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QSet>
 #include <QTest>
 
 using namespace RingScreen;
@@ -30,6 +31,7 @@ private slots:
     void theSnoozeCanBeOfAnotherLength_data();
     void theSnoozeCanBeOfAnotherLength();
     void noLengthIsOfferedTwice();
+    void allLengthsAreWrittenInOneSize();
     void isAnAlertToAssistiveTechnology();
     void theButtonsAreLargeAndFarApart();
 
@@ -215,6 +217,28 @@ void TestClockAlarm::noLengthIsOfferedTwice()
     m_plugin->show(teaTime(1, 420));
     for (const auto *name : {"snooze5", "snooze10", "snooze15", "snooze20", "snooze30"})
         QVERIFY2(item(name)->isVisible(), name);
+}
+
+void TestClockAlarm::allLengthsAreWrittenInOneSize()
+{
+    const auto sizes = [] {
+        QSet<int> found;
+        for (const auto *name : {"snooze5", "snooze15", "snooze20", "snooze30"})
+            found << item(name)->property("shownTextSize").toInt();
+        return found;
+    };
+    const int usual = *sizes().cbegin();
+    window()->resize(280, 640);
+    QTRY_COMPARE(item("stop")->scene()->sceneRect().width(), 280);
+    QTRY_VERIFY(!sizes().contains(usual));
+    QCOMPARE(sizes().size(), 1);
+    // Hidden and shown again they are where they were, of which nothing tells them.
+    m_plugin->show(teaTime(1, 0));
+    QVERIFY(!item("snooze15")->isVisible());
+    m_plugin->show(teaTime(1));
+    QVERIFY(item("snooze15")->isVisible());
+    QCOMPARE(sizes().size(), 1);
+    QVERIFY(!sizes().contains(usual));
 }
 
 void TestClockAlarm::isAnAlertToAssistiveTechnology()

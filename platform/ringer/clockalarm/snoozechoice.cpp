@@ -47,6 +47,7 @@ void SnoozeChoice::setCompact(bool isCompact)
 {
     for (auto *button : std::as_const(m_buttons))
         button->setStyleName(isCompact ? QStringLiteral("RingMinutesCompact") : QStringLiteral("RingMinutes"));
+    evenTexts();
 }
 
 void SnoozeChoice::refresh(int ownSeconds)
@@ -66,7 +67,7 @@ void SnoozeChoice::evenTexts()
 {
     int size = std::numeric_limits<int>::max();
     for (const auto *button : std::as_const(m_buttons)) {
-        if (button->isVisible())
+        if (button->isVisibleTo(this))
             size = qMin(size, button->fittedTextSize());
     }
     for (auto *button : std::as_const(m_buttons))
