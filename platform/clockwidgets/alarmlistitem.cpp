@@ -17,7 +17,7 @@ using Touch::Locale;
 namespace {
 
 constexpr qreal LineGap = 2;
-/** How small, as a share of its size, the repeat text gets to fit: of the designed one beside the time. */
+/** How small the repeat text gets beside the time, as a share of its designed size; it has more room below the time. */
 constexpr qreal SmallestShare = 0.75;
 /** With larger text than that, what the alarm is called stands below its time. */
 constexpr qreal LargestScaleInLine = 1.25;
@@ -258,8 +258,8 @@ Touch::Style AlarmListItem::repeatStyle() const
 {
     Touch::Style style = *partStyle(*this, QStringLiteral("AlarmItemRepeat"));
     const QSizeF room = repeatRoom();
-    const bool isEnlarged = !isStacked() && style.designedPixelSize > 0;
-    const int smallest = qRound(SmallestShare * (isEnlarged ? style.designedPixelSize : style.pixelSize));
+    const int designed = style.designedPixelSize > 0 ? style.designedPixelSize : style.pixelSize;
+    const int smallest = isStacked() ? designed : qRound(SmallestShare * designed);
     while (style.pixelSize > smallest && wrappedHeight(style, m_subText, room.width()) > room.height())
         --style.pixelSize;
     return style;

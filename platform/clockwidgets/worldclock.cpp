@@ -41,8 +41,10 @@ WorldClock::Face rememberedFace()
 /// A face lower than that has the date beside it.
 constexpr qreal SmallestHeightAboveDate = 128;
 
+} // namespace
+
 /// A text in one line.
-struct Line
+struct WorldClock::Line
 {
     std::shared_ptr<const Touch::Style> style;
     QString text;
@@ -62,8 +64,6 @@ struct Line
         drawPart(painter, rect, alignment, fitting, text);
     }
 };
-
-} // namespace
 
 WorldClock::WorldClock(QGraphicsItem *parent)
     : WorldClock(std::make_unique<WallClockTicker>(), parent)
@@ -153,20 +153,19 @@ void WorldClock::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWid
     painter->save();
     painter->setLayoutDirection(layoutDirection());
     const QRectF area = paddedRect();
-    const qreal below = Line(*this, DateStyle, dateText(), DateHeight).height
-        + Line(*this, ZoneStyle, zoneText(), ZoneHeight).height + style().spacing;
+    const Line date(*this, DateStyle, dateText(), DateHeight);
+    const Line zone(*this, ZoneStyle, zoneText(), ZoneHeight);
+    const qreal below = date.height + zone.height + style().spacing;
     if (area.height() - below >= SmallestHeightAboveDate || area.width() < 2 * area.height())
-        paintBelowEachOther(*painter, area);
+        paintBelowEachOther(*painter, area, date, zone);
     else
-        paintBesideEachOther(*painter, area);
+        paintBesideEachOther(*painter, area, date, zone);
     painter->restore();
     paintFocusRing(painter);
 }
 
-void WorldClock::paintBelowEachOther(QPainter &painter, const QRectF &area) const
+void WorldClock::paintBelowEachOther(QPainter &painter, const QRectF &area, const Line &date, const Line &zone) const
 {
-    const Line date(*this, DateStyle, dateText(), DateHeight);
-    const Line zone(*this, ZoneStyle, zoneText(), ZoneHeight);
     QRectF place(area.left(), area.bottom() - zone.height, area.width(), zone.height);
     zone.paint(painter, place, Qt::AlignCenter);
     place.setTop(place.top() - date.height);
@@ -176,10 +175,8 @@ void WorldClock::paintBelowEachOther(QPainter &painter, const QRectF &area) cons
 }
 
 // Face and texts stand in the middle together.
-void WorldClock::paintBesideEachOther(QPainter &painter, const QRectF &area) const
+void WorldClock::paintBesideEachOther(QPainter &painter, const QRectF &area, const Line &date, const Line &zone) const
 {
-    const Line date(*this, DateStyle, dateText(), DateHeight);
-    const Line zone(*this, ZoneStyle, zoneText(), ZoneHeight);
     const qreal gap = 1.5 * style().spacing;
     const qreal faceWidth = m_face == Face::Analogue ? area.height() : area.width() / 2 - gap;
     const qreal wanted = qMax(textWidth(*date.style, date.text), textWidth(*zone.style, zone.text)) + 1;

@@ -10,8 +10,9 @@
 class ClockFace;
 
 /// The time of day, analogue or digital, with the date and the zone's name under it, or beside it where that leaves the
-/// face too little height, in the user's locale. A tap shows the other face, with which every clock then starts: it is kept in the settings of the clock widgets.
-/// It ticks only while it can be seen: every second with the seconds hand, every minute without.
+/// face too little height, in the user's locale. A tap shows the other face, with which every clock then starts: it is
+/// kept in the settings of the clock widgets. It ticks only while it can be seen: every second with the seconds hand,
+/// every minute without.
 class WorldClock : public Touch::Pressable
 {
     Q_OBJECT
@@ -45,14 +46,16 @@ protected:
     void tapped() override;
 
 private:
+    struct Line;
+
     void tick();
     void startTicking();
     void applyStyle();
     void localeChanged();
     QString dateText() const;
     QString zoneText() const;
-    void paintBelowEachOther(QPainter &painter, const QRectF &area) const;
-    void paintBesideEachOther(QPainter &painter, const QRectF &area) const;
+    void paintBelowEachOther(QPainter &painter, const QRectF &area, const Line &date, const Line &zone) const;
+    void paintBesideEachOther(QPainter &painter, const QRectF &area, const Line &date, const Line &zone) const;
     void paintFace(QPainter &painter, const QRectF &rect) const;
     void paintDigits(QPainter &painter, const QRectF &rect) const;
 
