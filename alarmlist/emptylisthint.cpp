@@ -6,13 +6,8 @@
 #include "platform/toolkit/label.h"
 #include "platform/toolkit/layout.h"
 #include "platform/toolkit/linearlayoutpolicy.h"
-#include "platform/toolkit/theme.h"
 
 namespace {
-
-/** Larger text needs the room of the picture. */
-constexpr qreal LargestScaleWithImage = 1.5;
-constexpr qreal LeastHeightWithImage = 200;
 
 Touch::Label *line(const QString &text, const QString &styleName)
 {
@@ -29,7 +24,6 @@ EmptyListHint::EmptyListHint(QGraphicsItem *parent)
     : Touch::StylableWidget(parent)
     , m_image(new Touch::ImageWidget)
 {
-    setStyleName("AlarmsEmptyHint");
     setAcceptedMouseButtons(Qt::NoButton);
     m_image->setStyleName("AlarmsEmptyHintImage");
     m_image->setImage("icon-m-clock-no-alarms");
@@ -43,7 +37,7 @@ EmptyListHint::EmptyListHint(QGraphicsItem *parent)
     policy->addItem(line(qtTrId("qtn_cloc_no_alarms_hint"), "AlarmsEmptyHintText"));
     policy->addStretch();
     layout->setPolicy(policy);
-    EmptyListHint::styleChanged();
+    setStyleName("AlarmsEmptyHint");
 }
 
 void EmptyListHint::styleChanged()
@@ -52,17 +46,20 @@ void EmptyListHint::styleChanged()
     fitImage();
 }
 
-// Its own height says less: with the picture it is never lower than both need.
 void EmptyListHint::fitInto(const QRectF &place)
 {
-    m_room = place.height();
-    fitImage();
+    // Each fit asks for another layout, and so for this again.
+    if (m_room != place.size()) {
+        m_room = place.size();
+        fitImage();
+    }
     setGeometry(place);
 }
 
-// Words before pictures.
+// Words before pictures. The layout is asked, as the hint itself is never lower than what it shows now.
 void EmptyListHint::fitImage()
 {
-    m_image->setVisible(Touch::Theme::instance().textScale() <= LargestScaleWithImage
-                        && m_room >= LeastHeightWithImage);
+    m_image->show();
+    const qreal needed = layout()->effectiveSizeHint(Qt::MinimumSize, {m_room.width(), -1}).height();
+    m_image->setVisible(needed <= m_room.height());
 }

@@ -16,7 +16,7 @@ class EmptyListHint : public Touch::StylableWidget
 public:
     explicit EmptyListHint(QGraphicsItem *parent = nullptr);
 
-    /** Stands there; where that is low, without its picture. */
+    /** Stands there, without its picture where the words need the room. */
     void fitInto(const QRectF &place);
 
 protected:
@@ -26,5 +26,5 @@ private:
     void fitImage();
 
     Touch::ImageWidget *m_image;
-    qreal m_room = 0; ///< the height of its place
+    QSizeF m_room; ///< its place
 };

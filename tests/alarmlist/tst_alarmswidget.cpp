@@ -268,6 +268,11 @@ void TestAlarmsWidget::theHintIsReadInALowWindow()
         });
     };
     QTRY_VERIFY2(isSeen(), "the words are below the window");
+    for (const int height : {260, 300, 340, 400, 500}) {
+        m_section.window()->resize(640, height);
+        QTRY_COMPARE(hint->scene()->sceneRect().height(), height);
+        QTRY_VERIFY2(isSeen(), qPrintable(QString::number(height)));
+    }
     m_section.window()->resize(usual);
     QTRY_VERIFY(image->isVisible());
 }
