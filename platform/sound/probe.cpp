@@ -3,10 +3,10 @@
 #include "platform/sound/probe.h"
 
 #include "platform/sound/audibility.h"
+#include "platform/sound/playbin.h"
 
 #include <QDeadlineTimer>
 #include <QFileInfo>
-#include <QUrl>
 
 #include <memory>
 #include <optional>
@@ -46,19 +46,15 @@ QString reasonAgainstFile(const QString &path)
 // As it is played, but as fast as it decodes, and into nothing.
 Pipeline createPipeline(const QString &path)
 {
-    auto *playbin = gst_element_factory_make("playbin", nullptr);
     auto *filter = gst_parse_bin_from_description("audioconvert ! level interval=50000000", TRUE, nullptr);
     auto *sink = gst_element_factory_make("fakesink", nullptr);
-    if (!playbin || !filter || !sink) {
-        gst_clear_object(&playbin);
+    auto *playbin = filter && sink ? createPlaybin(path, filter, sink) : nullptr;
+    if (!playbin) {
         gst_clear_object(&filter);
         gst_clear_object(&sink);
         return nullptr;
     }
     g_object_set(sink, "sync", FALSE, nullptr);
-    gst_util_set_object_arg(G_OBJECT(playbin), "flags", "audio");
-    g_object_set(playbin, "uri", QUrl::fromLocalFile(path).toEncoded().constData(), "audio-filter", filter,
-                 "audio-sink", sink, nullptr);
     return Pipeline(playbin);
 }
 

@@ -4,9 +4,9 @@
 
 #include "platform/sound/audibility.h"
 #include "platform/sound/logging.h"
+#include "platform/sound/playbin.h"
 
 #include <QSemaphore>
-#include <QUrl>
 
 #include <thread>
 #include <utility>
@@ -43,14 +43,9 @@ void playAgain(GstElement *playbin, void *)
 
 GstElement *createFilePipeline(const QString &path, GstElement *output, GstElement *filter)
 {
-    auto *playbin = gst_element_factory_make("playbin", nullptr);
-    if (!playbin)
-        return nullptr;
-    // Audio only: a cover picture must not open a window.
-    gst_util_set_object_arg(G_OBJECT(playbin), "flags", "audio");
-    g_object_set(playbin, "uri", QUrl::fromLocalFile(path).toEncoded().constData(), "audio-filter", filter,
-                 "audio-sink", output, nullptr);
-    g_signal_connect(playbin, "about-to-finish", G_CALLBACK(playAgain), nullptr);
+    auto *playbin = createPlaybin(path, filter, output);
+    if (playbin)
+        g_signal_connect(playbin, "about-to-finish", G_CALLBACK(playAgain), nullptr);
     return playbin;
 }
 
