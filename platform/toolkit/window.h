@@ -16,8 +16,8 @@ class SceneWindow;
 /**
  * A window of the desktop that shows scene windows: pages, and sheets and banners above them. It does not own
  * those that are kept when done; the others die with it at the latest. Closing, the back key and Escape go one
- * step back: the topmost sheet is left; a window that shows only its page is closed, but not by Escape. The second
- * tap of a double tap is not for what the first one brought under the finger. GUI thread only.
+ * step back: the topmost sheet is left; a window that shows only its page is closed, though by Escape only where it is
+ * chained. The second tap of a double tap is not for what the first one brought under the finger. GUI thread only.
  */
 class Window : public QGraphicsView
 {
