@@ -19,8 +19,8 @@ AlarmProperties propertiesOf(const QmAlarmEvent &record)
 }
 
 /**
- * Asks the daemon for one alarm after the other, some of them ahead of the one that is read: where every question waited
- * for the answer before, each would wake the bus, the daemon and this process anew.
+ * Asks the daemon for one alarm after the other, some of them ahead of the one that is read: where every question
+ * waited for the answer before, each would wake the bus, the daemon and this process anew.
  */
 class Questions
 {

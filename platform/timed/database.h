@@ -32,8 +32,8 @@ public:
     bool wasRestored() const { return m_restored; }
     static QString snapshotOf(const QString &path) { return path + ".snapshot"; }
     /**
-     * What every connection to the store runs first. A change touches a few pages, and a copy reads each page once: the
-     * usual cache would keep the whole file in memory beside the events.
+     * What every connection to the store runs before it reads events. A change touches a few pages, and a copy reads
+     * each page once: the usual cache would keep the whole file in memory beside the events.
      */
     static constexpr auto KeepCacheSmall = "PRAGMA cache_size=-64";
 

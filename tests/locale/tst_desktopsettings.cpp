@@ -153,9 +153,11 @@ void TestDesktopSettings::anAnswerIsOlderThanTheChangesBehindIt()
     QThread thread;
     portal->moveToThread(&thread);
     connect(&thread, &QThread::finished, portal, &QObject::deleteLater);
-    const auto end = qScopeGuard([&thread] {
+    const auto end = qScopeGuard([&] {
         thread.quit();
         thread.wait();
+        QDBusConnection::disconnectFromBus(u"another"_qs);
+        QVERIFY(m_portal->start());
     });
     thread.start();
     QMetaObject::invokeMethod(

@@ -110,8 +110,9 @@ void TestDatabase::keepsFewPagesInMemory()
     QVERIFY(database);
     QSqlQuery query("PRAGMA cache_size", (*database)->connection());
     QVERIFY(query.next());
-    // In KiB where it is negative.
-    QCOMPARE(query.value(0).toInt(), -64);
+    // In KiB where it is negative; 2 MB is usual.
+    const int size = query.value(0).toInt();
+    QVERIFY2(size < 0 && size >= -256, qPrintable(QString::number(size)));
 }
 
 void TestDatabase::secondStoreIsRefused()
