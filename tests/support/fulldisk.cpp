@@ -3,6 +3,7 @@
 #include "tests/support/fulldisk.h"
 
 #include <csignal>
+#include <QByteArray>
 
 namespace Support {
 
