@@ -7,6 +7,7 @@
 #include "platform/timed/schema.h"
 #include "platform/timedclient/wire.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <QDateTime>
@@ -225,8 +226,11 @@ void Database::setAside(const QString &path) const
 
 bool Database::hasBeenDamaged() const
 {
+    // A filter of names would be a regular expression, whose machinery stays in the daemon's memory.
     const QFileInfo file(m_working);
-    return !file.dir().entryList({file.fileName() + DamagedMark + '*'}).isEmpty();
+    const QStringList names = file.dir().entryList(QDir::Files);
+    const QString damaged = file.fileName() + DamagedMark;
+    return std::any_of(names.cbegin(), names.cend(), [&](const QString &name) { return name.startsWith(damaged); });
 }
 
 QSqlDatabase Database::connection() const
