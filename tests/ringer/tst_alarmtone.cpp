@@ -17,7 +17,6 @@
 using Sound::AlarmTone;
 using Sound::OutputKeeper;
 using Sound::OutputsBefore;
-using Sound::PulseSink;
 using Place = Sound::PulseSink::Place;
 namespace OutputRecord = Sound::OutputRecord;
 
